@@ -1,0 +1,26 @@
+// Where time comes from. The logic reads and waits for time through this alone, so that it runs as
+// well on a clock that jumps. Logic thread.
+#pragma once
+
+#include "forms/event_queue.h"
+
+namespace corvana {
+
+class Orologio {
+public:
+    Orologio() = default;
+    Orologio(const Orologio&) = delete;
+    Orologio& operator=(const Orologio&) = delete;
+    virtual ~Orologio() = default;
+
+    /// Monotonic, in seconds from an instant of the clock's own.
+    virtual double Adesso() const = 0;
+    /// Local time of day, in whole seconds since midnight, 0 to 86399.
+    virtual int OraDelGiorno() const = 0;
+    /// Returns at the instant `fino`, or at once when it has passed. Delivers nothing.
+    virtual void AspettaFino(double fino) = 0;
+    /// Returns when an event waits in `coda` or the instant `fino` (may be infinite) has come.
+    virtual void AspettaEvento(CodaEventi& coda, double fino) = 0;
+};
+
+}  // namespace corvana

@@ -1,0 +1,85 @@
+#include "forms/control.h"
+
+#include "forms/fault.h"
+#include "forms/form.h"
+
+namespace corvana {
+
+ProprietaBase::ProprietaBase(Controllo& padrone, Nome nome) : padrone_(padrone), nome_(nome) {
+    padrone.proprieta_.push_back(this);
+}
+
+void ProprietaBase::Annuncia() { padrone_.Finestra().Annuncia(padrone_, *this); }
+
+Controllo::Controllo(Form& form, std::string nome, Genere genere, Controllo* padre)
+    : Name(std::move(nome)), tipo(genere), form_(form), padre_(padre ? padre : &form) {
+    numero_ = form.Iscrivi(*this);
+}
+
+Controllo::Controllo(std::string nome, Form& form)
+    : Name(std::move(nome)), tipo(Genere::Finestra), form_(form), padre_(nullptr) {}
+
+bool Controllo::Utilizzabile() const {
+    for (const Controllo* c = this; c; c = c->padre_)
+        if (!c->Enabled() || !c->Visible()) return false;
+    return true;
+}
+
+void Controllo::SetFocus() { form_.DaiFuoco(*this); }
+
+void Casella::Accogli(const Evento& e) {
+    if (e.fatto == Fatto::Change) Text.PonDaUtente(e.testo);
+}
+
+void Casella::Ripeti() { Finestra().Annuncia(*this, Text); }
+
+void Lista::AddItem(std::string riga) {
+    Righe righe = List;
+    righe.push_back(std::move(riga));
+    List = std::move(righe);
+}
+
+void Lista::PonRiga(int indice, std::string testo) {
+    Righe righe = List;
+    righe.at(static_cast<std::size_t>(indice)) = std::move(testo);
+    List = std::move(righe);
+}
+
+void Lista::Clear() {
+    ListIndex = -1;
+    List = Righe{};
+}
+
+void Lista::Seleziona(int indice) {
+    ListIndex = indice;
+    if (Click) Click();
+}
+
+void Lista::Accogli(const Evento& e) {
+    const bool esiste = e.valore >= 0 && e.valore < static_cast<int>(List->size());
+    if (e.fatto == Fatto::Click && esiste) ListIndex.PonDaUtente(e.valore);
+}
+
+void Lista::Ripeti() { Finestra().Annuncia(*this, ListIndex); }
+
+void Barra::PonValore(int valore) {
+    if (valore < Min || valore > Max) throw Guasto(guastoProprieta, "Invalid property value");
+    if (valore == Value()) return;
+    Value = valore;
+    if (Change) Change();
+}
+
+void Barra::Accogli(const Evento& e) {
+    const bool muove = e.fatto == Fatto::Change || e.fatto == Fatto::Scroll;
+    if (muove && e.valore >= Min && e.valore <= Max) Value.PonDaUtente(e.valore);
+}
+
+void Barra::Ripeti() { Finestra().Annuncia(*this, Value); }
+
+void Spunta::Accogli(const Evento& e) {
+    if (e.fatto == Fatto::Click) Value.PonDaUtente(e.valore != 0);
+}
+
+void Spunta::Ripeti() { Finestra().Annuncia(*this, Value); }
+
+}  // namespace corvana

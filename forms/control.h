@@ -1,0 +1,169 @@
+// The controls of a window as plain state: what they show and whether they may be used. A control
+// paints nothing and knows no toolkit; when a window is on the screen, its mirror hears of changes.
+// Logic thread. A control must not outlive its form.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "forms/event.h"
+#include "forms/property.h"
+
+namespace corvana {
+
+class Form;
+
+enum class Genere : std::uint8_t {
+    Finestra, Etichetta, Bottone, Casella, Lista, Barra, Spunta, Cornice, Figura, VoceMenu,
+};
+
+struct Controllo {
+private:
+    // First of all members: the properties enter themselves here as they are made.
+    std::vector<ProprietaBase*> proprieta_;
+
+public:
+    Controllo(Form& form, std::string nome, Genere genere, Controllo* padre = nullptr);
+    Controllo(const Controllo&) = delete;
+    Controllo& operator=(const Controllo&) = delete;
+    virtual ~Controllo() = default;
+
+    const std::string Name;
+    const Genere tipo;
+    /// How the face draws it: the key of a painter or of a type style; empty for the plain one.
+    std::string stile;
+
+    Proprieta<bool, Nome::Visible> Visible{*this, true};
+    Proprieta<bool, Nome::Enabled> Enabled{*this, true};
+    Proprieta<int, Nome::BackColor> BackColor{*this, coloreDiSistema};
+    Proprieta<int, Nome::ForeColor> ForeColor{*this, coloreDiSistema};
+    Proprieta<std::string, Nome::ToolTipText> ToolTipText{*this, ""};
+    Proprieta<int, Nome::Left> Left{*this, 0};
+    Proprieta<int, Nome::Top> Top{*this, 0};
+    Proprieta<int, Nome::Width> Width{*this, 0};
+    Proprieta<int, Nome::Height> Height{*this, 0};
+    /// 1 draws a thin frame around it.
+    Proprieta<int, Nome::BorderStyle> BorderStyle{*this, 0};
+    Proprieta<Sfumatura, Nome::Sfondo> Sfondo{*this, {}};
+
+    std::function<void()> Click;
+    std::function<void()> DblClick;
+    std::function<void()> Change;
+    std::function<void()> Scroll;
+    std::function<void(const Evento&)> MouseDown;
+    std::function<void(const Evento&)> MouseUp;
+    std::function<void(const Evento&)> MouseMove;
+
+    Form& Finestra() const { return form_; }
+    Controllo* Padre() const { return padre_; }
+    /// Its number in the window, from 0, the window itself.
+    int Numero() const { return numero_; }
+    const std::vector<ProprietaBase*>& ListaProprieta() const { return proprieta_; }
+
+    /// It and all that it lies in are enabled and visible.
+    bool Utilizzabile() const;
+    void SetFocus();
+
+    /// Takes over what the event says that the user made of it, without telling the face.
+    virtual void Accogli(const Evento&) {}
+    /// Tells the face again what `Accogli` would have changed, for an event that wasn't delivered.
+    virtual void Ripeti() {}
+    /// Sets the caption, or the text of a box; a control without either ignores it.
+    virtual void PonTesto(std::string) {}
+
+protected:
+    /// The form itself.
+    Controllo(std::string nome, Form& form);
+
+private:
+    friend class ProprietaBase;
+    Form& form_;
+    Controllo* padre_;
+    int numero_ = 0;
+};
+
+struct ConCaption : Controllo {
+    using Controllo::Controllo;
+    Proprieta<std::string, Nome::Caption> Caption{*this, ""};
+    void PonTesto(std::string testo) override { Caption = std::move(testo); }
+};
+
+struct Etichetta : ConCaption {
+    Etichetta(Form& form, std::string nome, Controllo* padre = nullptr)
+        : ConCaption(form, std::move(nome), Genere::Etichetta, padre) {}
+};
+
+struct Bottone : ConCaption {
+    Bottone(Form& form, std::string nome, Controllo* padre = nullptr)
+        : ConCaption(form, std::move(nome), Genere::Bottone, padre) {}
+};
+
+struct Casella : Controllo {
+    Casella(Form& form, std::string nome, Controllo* padre = nullptr)
+        : Controllo(form, std::move(nome), Genere::Casella, padre) {}
+    Proprieta<std::string, Nome::Text> Text{*this, ""};
+    Proprieta<bool, Nome::Locked> Locked{*this, false};
+    int MaxLength = 0;  ///< characters, 0 for no limit
+    /// What becomes of a typed character: the one to take instead, or 0 to drop it. Pure: the face
+    /// calls it on its own thread.
+    char32_t (*Filtro)(char32_t) = nullptr;
+    void Accogli(const Evento& e) override;
+    void Ripeti() override;
+    void PonTesto(std::string testo) override { Text = std::move(testo); }
+};
+
+/// Selecting a row from code fires `Click`, as a selection by the user does, the same row too.
+struct Lista : Controllo {
+    Lista(Form& form, std::string nome, Controllo* padre = nullptr)
+        : Controllo(form, std::move(nome), Genere::Lista, padre) {}
+    Proprieta<Righe, Nome::List> List{*this, {}};
+    Proprieta<int, Nome::ListIndex> ListIndex{*this, -1};
+    void AddItem(std::string riga);
+    void PonRiga(int indice, std::string testo);
+    void Clear();
+    void Seleziona(int indice);
+    void Accogli(const Evento& e) override;
+    void Ripeti() override;
+};
+
+/// A slider or scroll bar. Setting `Value` from code fires `Change` when it changes.
+struct Barra : Controllo {
+    Barra(Form& form, std::string nome, Controllo* padre = nullptr)
+        : Controllo(form, std::move(nome), Genere::Barra, padre) {}
+    Proprieta<int, Nome::Min> Min{*this, 0};
+    Proprieta<int, Nome::Max> Max{*this, 100};
+    Proprieta<int, Nome::Value> Value{*this, 0};
+    int LargeChange = 10;
+    /// Throws `Guasto` 380 when `valore` lies outside of `Min` to `Max`.
+    void PonValore(int valore);
+    void Accogli(const Evento& e) override;
+    void Ripeti() override;
+};
+
+struct Spunta : ConCaption {
+    Spunta(Form& form, std::string nome, Controllo* padre = nullptr)
+        : ConCaption(form, std::move(nome), Genere::Spunta, padre) {}
+    Proprieta<bool, Nome::Checked> Value{*this, false};
+    void Accogli(const Evento& e) override;
+    void Ripeti() override;
+};
+
+struct Cornice : ConCaption {
+    Cornice(Form& form, std::string nome, Controllo* padre = nullptr)
+        : ConCaption(form, std::move(nome), Genere::Cornice, padre) {}
+};
+
+struct Figura : Controllo {
+    Figura(Form& form, std::string nome, Controllo* padre = nullptr)
+        : Controllo(form, std::move(nome), Genere::Figura, padre) {}
+};
+
+/// An entry of the menu bar or, under another entry, of its menu. No caption makes a separator.
+struct VoceMenu : ConCaption {
+    VoceMenu(Form& form, std::string nome, Controllo* padre = nullptr)
+        : ConCaption(form, std::move(nome), Genere::VoceMenu, padre) {}
+    Proprieta<bool, Nome::Checked> Checked{*this, false};
+};
+
+}  // namespace corvana

@@ -1,0 +1,57 @@
+#include "forms/event_queue.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+
+namespace corvana {
+
+namespace {
+
+bool Sostituisce(const Evento& nuovo, const Evento& vecchio) {
+    if (nuovo.fatto != vecchio.fatto || nuovo.finestra != vecchio.finestra) return false;
+    if (nuovo.fatto == Fatto::MouseMove) return true;
+    return nuovo.fatto == Fatto::Scroll && nuovo.controllo == vecchio.controllo;
+}
+
+std::chrono::steady_clock::time_point Istante(double secondi) {
+    using std::chrono::steady_clock;
+    const std::chrono::duration<double> durata(secondi);
+    return steady_clock::time_point(std::chrono::duration_cast<steady_clock::duration>(durata));
+}
+
+}  // namespace
+
+void CodaEventi::Aggiungi(Evento evento) {
+    {
+        const std::lock_guard guardia(blocco_);
+        std::erase_if(eventi_, [&](const Evento& e) { return Sostituisce(evento, e); });
+        eventi_.push_back(std::move(evento));
+    }
+    arrivo_.notify_one();
+}
+
+std::optional<Evento> CodaEventi::Prendi() {
+    const std::lock_guard guardia(blocco_);
+    if (eventi_.empty()) return std::nullopt;
+    Evento primo = std::move(eventi_.front());
+    eventi_.pop_front();
+    return primo;
+}
+
+bool CodaEventi::Vuota() const {
+    const std::lock_guard guardia(blocco_);
+    return eventi_.empty();
+}
+
+bool CodaEventi::Aspetta(double fino) {
+    std::unique_lock guardia(blocco_);
+    const auto pronto = [this] { return !eventi_.empty(); };
+    if (std::isinf(fino))
+        arrivo_.wait(guardia, pronto);
+    else
+        arrivo_.wait_until(guardia, Istante(fino), pronto);
+    return pronto();
+}
+
+}  // namespace corvana

@@ -1,0 +1,24 @@
+// A run-time fault that a routine doesn't handle itself: it ends the handler that met it, and the
+// pump shows its number and description in a box.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace corvana {
+
+class Guasto : public std::runtime_error {
+public:
+    Guasto(int numero, const std::string& descrizione)
+        : std::runtime_error(descrizione), numero_(numero) {}
+    int Numero() const { return numero_; }
+
+private:
+    int numero_;
+};
+
+constexpr int guastoTipo = 13;        ///< a text that should be a number isn't one
+constexpr int guastoInterno = 51;     ///< anything that wasn't thrown as a `Guasto`
+constexpr int guastoProprieta = 380;  ///< a property set to what it can't hold
+
+}  // namespace corvana

@@ -1,0 +1,43 @@
+#include "forms/form.h"
+
+#include <algorithm>
+#include <cassert>
+
+namespace corvana {
+
+Form::Form(std::string nome) : Controllo(std::move(nome), *this) { controlli_.push_back(this); }
+
+Controllo* Form::Trova(std::string_view nome) const {
+    const auto e = std::find_if(controlli_.begin(), controlli_.end(),
+                                [&](const Controllo* c) { return c->Name == nome; });
+    return e == controlli_.end() ? nullptr : *e;
+}
+
+int Form::Iscrivi(Controllo& controllo) {
+    controlli_.push_back(&controllo);
+    return static_cast<int>(controlli_.size()) - 1;
+}
+
+void Form::Annuncia(const Controllo& controllo, const ProprietaBase& proprieta) {
+    if (specchio_) specchio_->Cambiato(controllo, proprieta.NomeProprieta(), proprieta.Leggi());
+}
+
+void Form::DaiFuoco(const Controllo& controllo) {
+    if (specchio_) specchio_->Fuoco(controllo);
+}
+
+void Disponi(Form& form, const Posto* posti, std::size_t quanti) {
+    std::for_each(posti, posti + quanti, [&](const Posto& posto) {
+        Controllo* controllo = form.Trova(posto.nome);
+        assert(controllo && "the layout names a control that the form hasn't");
+        controllo->Left = posto.left;
+        controllo->Top = posto.top;
+        controllo->Width = posto.width;
+        controllo->Height = posto.height;
+        controllo->ToolTipText = std::string(posto.consiglio);
+        controllo->stile = std::string(posto.stile);
+        controllo->PonTesto(std::string(posto.testo));
+    });
+}
+
+}  // namespace corvana

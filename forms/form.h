@@ -1,0 +1,63 @@
+// A window: its controls, and the handlers of what happens to the window as a whole.
+// Logic thread. The controls are members of the derived class and so live as long as the form.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "forms/control.h"
+#include "forms/mirror.h"
+
+namespace corvana {
+
+class Form : public Controllo {
+public:
+    explicit Form(std::string nome);
+
+    Proprieta<std::string, Nome::Caption> Caption{*this, ""};
+    /// Page of the help that F1 opens.
+    Proprieta<int, Nome::HelpContextID> HelpContextID{*this, 0};
+
+    virtual void Form_Load() {}
+    /// Each time that the window comes to the front of the program's windows.
+    virtual void Form_Activate() {}
+    /// Setting `Cancel` keeps the window open.
+    virtual void Form_Unload(bool& Cancel) { static_cast<void>(Cancel); }
+    virtual void Form_KeyDown(const Evento& tasto) { static_cast<void>(tasto); }
+    virtual void Form_KeyUp(const Evento& tasto) { static_cast<void>(tasto); }
+
+    const std::vector<Controllo*>& Controlli() const { return controlli_; }
+    /// The control of that name, compared with case, or null.
+    Controllo* Trova(std::string_view nome) const;
+
+    /// Identity of this showing; 0 while the form isn't loaded.
+    std::uint32_t Identita() const { return identita_; }
+
+    void PonTesto(std::string testo) override { Caption = std::move(testo); }
+
+    /// For the controls alone: a new one's number, a change to tell, the focus to give.
+    int Iscrivi(Controllo& controllo);
+    void Annuncia(const Controllo& controllo, const ProprietaBase& proprieta);
+    void DaiFuoco(const Controllo& controllo);
+
+private:
+    friend class Finestre;
+
+    std::vector<Controllo*> controlli_;
+    Specchio* specchio_ = nullptr;
+    std::uint32_t identita_ = 0;
+};
+
+/// Where a control lies, in twips from its parent, and the texts that it starts with.
+struct Posto {
+    std::string_view nome;
+    int left, top, width, height;
+    std::string_view testo = {};    ///< caption or text
+    std::string_view consiglio = {};  ///< tool tip
+    std::string_view stile = {};
+};
+
+/// Lays the named controls out. Every name must be a control of the form.
+void Disponi(Form& form, const Posto* posti, std::size_t quanti);
+
+}  // namespace corvana

@@ -1,0 +1,27 @@
+// What shows the forms to somebody: the desktop on a screen, nobody in most tests.
+// Every call comes on the logic thread and returns at once.
+#pragma once
+
+#include "forms/value.h"
+
+namespace corvana {
+
+class Form;
+struct Controllo;
+
+class Specchio {
+public:
+    Specchio() = default;
+    Specchio(const Specchio&) = delete;
+    Specchio& operator=(const Specchio&) = delete;
+    virtual ~Specchio() = default;
+
+    /// The form is to be shown in front, with all its controls as they stand.
+    virtual void Mostra(const Form& form, bool modale) = 0;
+    virtual void Cambiato(const Controllo& controllo, Nome nome, const Valore& valore) = 0;
+    virtual void Fuoco(const Controllo& controllo) = 0;
+    /// The form is gone; it may be destroyed when the call returns.
+    virtual void Chiudi(const Form& form) = 0;
+};
+
+}  // namespace corvana

@@ -1,0 +1,53 @@
+#include "forms/real_clock.h"
+
+#include <pthread.h>
+#include <sched.h>
+#include <sys/prctl.h>
+#include <time.h>
+
+#include <cerrno>
+#include <cmath>
+#include <ctime>
+
+namespace corvana {
+
+namespace {
+
+constexpr double nanosecondi = 1e9;
+
+timespec InTimespec(double secondi) {
+    const double interi = std::floor(secondi);
+    return {static_cast<time_t>(interi), static_cast<long>((secondi - interi) * nanosecondi)};
+}
+
+}  // namespace
+
+double OrologioReale::Adesso() const {
+    timespec ora{};
+    clock_gettime(CLOCK_MONOTONIC, &ora);
+    return static_cast<double>(ora.tv_sec) + static_cast<double>(ora.tv_nsec) / nanosecondi;
+}
+
+int OrologioReale::OraDelGiorno() const {
+    const std::time_t adesso = std::time(nullptr);
+    std::tm locale{};
+    localtime_r(&adesso, &locale);
+    return locale.tm_hour * 3600 + locale.tm_min * 60 + locale.tm_sec % 60;
+}
+
+void OrologioReale::AspettaFino(double fino) {
+    const timespec istante = InTimespec(fino);
+    while (clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &istante, nullptr) == EINTR) {
+    }
+}
+
+void OrologioReale::AspettaEvento(CodaEventi& coda, double fino) { coda.Aspetta(fino); }
+
+void PreferisciPuntualita() {
+    prctl(PR_SET_TIMERSLACK, 1UL);
+    sched_param minima{};
+    minima.sched_priority = sched_get_priority_min(SCHED_RR);
+    pthread_setschedparam(pthread_self(), SCHED_RR | SCHED_RESET_ON_FORK, &minima);
+}
+
+}  // namespace corvana

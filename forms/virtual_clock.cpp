@@ -1,0 +1,44 @@
+#include "forms/virtual_clock.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace corvana {
+
+namespace {
+constexpr int giorno = 24 * 3600;
+}
+
+void OrologioVirtuale::Quando(double istante, Passo passo) {
+    passi_.emplace(istante, std::move(passo));
+}
+
+int OrologioVirtuale::OraDelGiorno() const {
+    const auto secondi = static_cast<long long>(std::floor(mezzanotte_ + adesso_));
+    return static_cast<int>((secondi % giorno + giorno) % giorno);
+}
+
+bool OrologioVirtuale::EseguiPasso(double fino) {
+    if (passi_.empty() || passi_.begin()->first > fino) return false;
+    auto nodo = passi_.extract(passi_.begin());
+    adesso_ = std::max(adesso_, nodo.key());
+    nodo.mapped()();
+    return true;
+}
+
+void OrologioVirtuale::AspettaFino(double fino) {
+    while (EseguiPasso(fino)) {
+    }
+    adesso_ = std::max(adesso_, fino);
+}
+
+void OrologioVirtuale::AspettaEvento(CodaEventi& coda, double fino) {
+    while (coda.Vuota()) {
+        if (EseguiPasso(fino)) continue;
+        if (passi_.empty()) throw FineCopione{};
+        adesso_ = std::max(adesso_, fino);
+        return;
+    }
+}
+
+}  // namespace corvana

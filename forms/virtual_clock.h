@@ -1,0 +1,38 @@
+// A clock that jumps from instant to instant of a script: an hour of drill passes in milliseconds,
+// and every run is the same. Each instance has its own time. Logic thread.
+#pragma once
+
+#include <functional>
+#include <map>
+
+#include "forms/clock.h"
+
+namespace corvana {
+
+/// Thrown by a wait for an event when the script holds nothing more: unwinds the logic's stack.
+struct FineCopione {};
+
+class OrologioVirtuale final : public Orologio {
+public:
+    using Passo = std::function<void()>;
+
+    /// `passo` runs when time reaches `istante`; of equal instants the older one runs first. A step
+    /// may add further steps.
+    void Quando(double istante, Passo passo);
+    void PonOraDelGiorno(int secondi) { mezzanotte_ = secondi - adesso_; }
+
+    double Adesso() const override { return adesso_; }
+    int OraDelGiorno() const override;
+    void AspettaFino(double fino) override;
+    void AspettaEvento(CodaEventi& coda, double fino) override;
+
+private:
+    /// Runs the next step when it is due by `fino`.
+    bool EseguiPasso(double fino);
+
+    double adesso_ = 0;
+    double mezzanotte_ = 12 * 3600;
+    std::multimap<double, Passo> passi_;
+};
+
+}  // namespace corvana

@@ -1,0 +1,94 @@
+#include "forms/windows.h"
+
+#include <algorithm>
+
+#include "forms/fault.h"
+
+namespace corvana {
+
+Finestre::Finestre(Pompa& pompa, Dialoghi& dialoghi, Specchio* specchio)
+    : pompa_(pompa), dialoghi_(dialoghi), specchio_(specchio) {
+    pompa_.PonConsegna([this](const Evento& evento) { Consegna(evento); });
+}
+
+void Finestre::Mostra(Form& form) { Apri(form, false); }
+
+void Finestre::MostraModale(Form& form) {
+    Apri(form, true);
+    while (Aperta(form)) pompa_.AttendiEvento(perSempre);
+    if (Form* sotto = Davanti()) sotto->Form_Activate();
+}
+
+void Finestre::Apri(Form& form, bool modale) {
+    form.identita_ = ++ultimaIdentita_;
+    form.Form_Load();
+    aperte_.push_back(&form);
+    form.specchio_ = specchio_;
+    if (specchio_) specchio_->Mostra(form, modale);
+    form.Form_Activate();
+}
+
+bool Finestre::Aperta(const Form& form) const {
+    return std::find(aperte_.begin(), aperte_.end(), &form) != aperte_.end();
+}
+
+bool Finestre::Scarica(Form& form) {
+    if (!Aperta(form)) return true;
+    bool Cancel = false;
+    form.Form_Unload(Cancel);
+    if (Cancel) return false;
+    std::erase(aperte_, &form);
+    form.specchio_ = nullptr;
+    form.identita_ = 0;
+    if (specchio_) specchio_->Chiudi(form);
+    return true;
+}
+
+void Finestre::Esegui() {
+    while (!aperte_.empty()) pompa_.AttendiEvento(perSempre);
+}
+
+void Finestre::Consegna(const Evento& evento) {
+    // A release must never be lost, whoever is in front: a key would seem held for ever.
+    if (evento.fatto == Fatto::FuocoPerso) return tasti_.LasciaTutti();
+    if (evento.fatto == Fatto::KeyUp) tasti_.Segna(evento.codice, false);
+    Form* form = Davanti();
+    if (!form || form->Identita() != evento.finestra) return;
+    const auto& controlli = form->Controlli();
+    if (evento.controllo < 0 || evento.controllo >= static_cast<int>(controlli.size())) return;
+    Controllo& controllo = *controlli[static_cast<std::size_t>(evento.controllo)];
+    if (!controllo.Utilizzabile()) return controllo.Ripeti();
+    if (evento.fatto == Fatto::KeyDown) tasti_.Segna(evento.codice, true);
+    controllo.Accogli(evento);
+    Riferisci(*form, controllo, evento);
+}
+
+void Finestre::Riferisci(Form& form, Controllo& controllo, const Evento& evento) {
+    try {
+        Smista(form, controllo, evento);
+    } catch (const Guasto& guasto) {
+        dialoghi_.MsgBox(std::to_string(guasto.Numero()) + "\r\n" + guasto.what());
+    } catch (const std::exception& errore) {
+        dialoghi_.MsgBox(std::to_string(guastoInterno) + "\r\n" + errore.what());
+    }
+}
+
+void Finestre::Smista(Form& form, Controllo& controllo, const Evento& evento) {
+    const auto chiama = [](const std::function<void()>& f) { if (f) f(); };
+    const auto mouse = [&](const std::function<void(const Evento&)>& f) { if (f) f(evento); };
+    switch (evento.fatto) {
+        case Fatto::Click: return chiama(controllo.Click);
+        case Fatto::DblClick: return chiama(controllo.DblClick);
+        case Fatto::Change: return chiama(controllo.Change);
+        case Fatto::Scroll: return chiama(controllo.Scroll);
+        case Fatto::MouseDown: return mouse(controllo.MouseDown);
+        case Fatto::MouseUp: return mouse(controllo.MouseUp);
+        case Fatto::MouseMove: return mouse(controllo.MouseMove);
+        case Fatto::KeyDown: return form.Form_KeyDown(evento);
+        case Fatto::KeyUp: return form.Form_KeyUp(evento);
+        case Fatto::Chiudi: Scarica(form); return;
+        case Fatto::FuocoPerso: return;
+    }
+}
+
+}  // namespace corvana

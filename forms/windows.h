@@ -1,0 +1,50 @@
+// The windows that are open, one upon the other, and the delivery of events to the one in front.
+// Logic thread.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "forms/dialogs.h"
+#include "forms/form.h"
+#include "forms/keys.h"
+#include "forms/pump.h"
+
+namespace corvana {
+
+class Finestre {
+public:
+    /// `specchio` may be null: then nobody sees the windows.
+    Finestre(Pompa& pompa, Dialoghi& dialoghi, Specchio* specchio);
+    Finestre(const Finestre&) = delete;
+    Finestre& operator=(const Finestre&) = delete;
+
+    /// Loads the window, puts it in front and activates it.
+    void Mostra(Form& form);
+    /// The same, and returns when the window has been closed; the one beneath is then activated anew.
+    void MostraModale(Form& form);
+    /// Asks the window to close; true when it has.
+    bool Scarica(Form& form);
+    /// Delivers events until the last window is gone.
+    void Esegui();
+
+    const TastiPremuti& Tasti() const { return tasti_; }
+    Form* Davanti() const { return aperte_.empty() ? nullptr : aperte_.back(); }
+
+private:
+    void Apri(Form& form, bool modale);
+    bool Aperta(const Form& form) const;
+    void Consegna(const Evento& evento);
+    /// Runs the handler; a fault that it lets escape is shown in a box.
+    void Riferisci(Form& form, Controllo& controllo, const Evento& evento);
+    void Smista(Form& form, Controllo& controllo, const Evento& evento);
+
+    Pompa& pompa_;
+    Dialoghi& dialoghi_;
+    Specchio* specchio_;
+    TastiPremuti tasti_;
+    std::vector<Form*> aperte_;
+    std::uint32_t ultimaIdentita_ = 0;
+};
+
+}  // namespace corvana
