@@ -9,7 +9,9 @@ ProprietaBase::ProprietaBase(Controllo& padrone, Nome nome) : padrone_(padrone),
     padrone.proprieta_.push_back(this);
 }
 
-void ProprietaBase::Annuncia() { padrone_.Finestra().Annuncia(padrone_, *this); }
+void ProprietaBase::Annuncia() {
+    padrone_.Finestra().Annuncia(padrone_, *this);
+}
 
 Controllo::Controllo(Form& form, std::string nome, Genere genere, Controllo* padre)
     : Name(std::move(nome)), tipo(genere), form_(form), padre_(padre ? padre : &form) {
@@ -25,13 +27,17 @@ bool Controllo::Utilizzabile() const {
     return true;
 }
 
-void Controllo::SetFocus() { form_.DaiFuoco(*this); }
+void Controllo::SetFocus() {
+    form_.DaiFuoco(*this);
+}
 
 void Casella::Accogli(const Evento& e) {
     if (e.fatto == Fatto::Change) Text.PonDaUtente(e.testo);
 }
 
-void Casella::Ripeti() { Finestra().Annuncia(*this, Text); }
+void Casella::Ripeti() {
+    Finestra().Annuncia(*this, Text);
+}
 
 void Lista::AddItem(std::string riga) {
     Righe righe = List;
@@ -60,7 +66,9 @@ void Lista::Accogli(const Evento& e) {
     if (e.fatto == Fatto::Click && esiste) ListIndex.PonDaUtente(e.valore);
 }
 
-void Lista::Ripeti() { Finestra().Annuncia(*this, ListIndex); }
+void Lista::Ripeti() {
+    Finestra().Annuncia(*this, ListIndex);
+}
 
 void Barra::PonValore(int valore) {
     if (valore < Min || valore > Max) throw Guasto(guastoProprieta, "Invalid property value");
@@ -74,12 +82,16 @@ void Barra::Accogli(const Evento& e) {
     if (muove && e.valore >= Min && e.valore <= Max) Value.PonDaUtente(e.valore);
 }
 
-void Barra::Ripeti() { Finestra().Annuncia(*this, Value); }
+void Barra::Ripeti() {
+    Finestra().Annuncia(*this, Value);
+}
 
 void Spunta::Accogli(const Evento& e) {
     if (e.fatto == Fatto::Click) Value.PonDaUtente(e.valore != 0);
 }
 
-void Spunta::Ripeti() { Finestra().Annuncia(*this, Value); }
+void Spunta::Ripeti() {
+    Finestra().Annuncia(*this, Value);
+}
 
 }  // namespace corvana

@@ -15,7 +15,16 @@ namespace corvana {
 class Form;
 
 enum class Genere : std::uint8_t {
-    Finestra, Etichetta, Bottone, Casella, Lista, Barra, Spunta, Cornice, Figura, VoceMenu,
+    Finestra,
+    Etichetta,
+    Bottone,
+    Casella,
+    Lista,
+    Barra,
+    Spunta,
+    Cornice,
+    Figura,
+    VoceMenu,
 };
 
 struct Controllo {

@@ -7,12 +7,12 @@
 namespace corvana {
 
 enum class Fatto : std::uint8_t {
-    Click,       ///< a button, label, menu entry or list row; `valore` is the row
+    Click,  ///< a button, label, menu entry or list row; `valore` is the row
     DblClick,
     MouseDown,
     MouseUp,
     MouseMove,
-    KeyDown,     ///< of the window: `codice`, `shift`, `ripetuto`
+    KeyDown,  ///< of the window: `codice`, `shift`, `ripetuto`
     KeyUp,
     Change,      ///< a slider let go (`valore`), a text edited (`testo`)
     Scroll,      ///< a slider's thumb on its way (`valore`)
@@ -32,11 +32,11 @@ struct Evento {
     std::uint32_t finestra = 0;  ///< identity of one showing of a window, see `Form::Identita`
     int controllo = 0;           ///< number of the control in its window; 0 is the window itself
     Fatto fatto = Fatto::Click;
-    int codice = 0;              ///< virtual-key code, or the mouse button
+    int codice = 0;  ///< virtual-key code, or the mouse button
     int shift = 0;
-    bool ripetuto = false;       ///< a press made by the keyboard's auto-repeat
-    int x = 0;                   ///< twips from the control's left
-    int y = 0;                   ///< twips from the control's top
+    bool ripetuto = false;  ///< a press made by the keyboard's auto-repeat
+    int x = 0;              ///< twips from the control's left
+    int y = 0;              ///< twips from the control's top
     int valore = 0;
     std::string testo = {};
 };

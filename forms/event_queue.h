@@ -17,8 +17,8 @@ public:
     void Aggiungi(Evento evento);
     std::optional<Evento> Prendi();
     bool Vuota() const;
-    /// Sleeps until an event waits or the monotonic instant `fino` (seconds, may be infinite) comes.
-    /// True when an event waits.
+    /// Sleeps until an event waits or the monotonic instant `fino` (seconds, may be infinite)
+    /// comes. True when an event waits.
     bool Aspetta(double fino);
 
 private:

@@ -17,8 +17,14 @@ private:
     int numero_;
 };
 
-constexpr int guastoTipo = 13;        ///< a text that should be a number isn't one
-constexpr int guastoInterno = 51;     ///< anything that wasn't thrown as a `Guasto`
-constexpr int guastoProprieta = 380;  ///< a property set to what it can't hold
+/// As the boxes show a fault: its number, a line break, its description.
+inline std::string TestoGuasto(const Guasto& guasto) {
+    return std::to_string(guasto.Numero()) + "\r\n" + guasto.what();
+}
+
+constexpr int guastoTraboccamento = 6;  ///< a number too large for where it goes
+constexpr int guastoTipo = 13;          ///< a text that should be a number isn't one
+constexpr int guastoInterno = 51;       ///< anything that wasn't thrown as a `Guasto`
+constexpr int guastoProprieta = 380;    ///< a property set to what it can't hold
 
 }  // namespace corvana

@@ -5,16 +5,18 @@
 
 namespace corvana {
 
-Form::Form(std::string nome) : Controllo(std::move(nome), *this) { controlli_.push_back(this); }
+Form::Form(std::string nome) : Controllo(std::move(nome), *this) {
+    Iscrivi(*this);
+}
 
 Controllo* Form::Trova(std::string_view nome) const {
-    const auto e = std::find_if(controlli_.begin(), controlli_.end(),
-                                [&](const Controllo* c) { return c->Name == nome; });
-    return e == controlli_.end() ? nullptr : *e;
+    const auto e = perNome_.find(nome);
+    return e == perNome_.end() ? nullptr : e->second;
 }
 
 int Form::Iscrivi(Controllo& controllo) {
     controlli_.push_back(&controllo);
+    perNome_.emplace(controllo.Name, &controllo);
     return static_cast<int>(controlli_.size()) - 1;
 }
 

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <unordered_map>
 
 #include "forms/control.h"
 #include "forms/mirror.h"
@@ -44,6 +45,7 @@ private:
     friend class Finestre;
 
     std::vector<Controllo*> controlli_;
+    std::unordered_map<std::string_view, Controllo*> perNome_;
     Specchio* specchio_ = nullptr;
     std::uint32_t identita_ = 0;
 };
@@ -52,7 +54,7 @@ private:
 struct Posto {
     std::string_view nome;
     int left, top, width, height;
-    std::string_view testo = {};    ///< caption or text
+    std::string_view testo = {};      ///< caption or text
     std::string_view consiglio = {};  ///< tool tip
     std::string_view stile = {};
 };

@@ -24,7 +24,7 @@ public:
     void LasciaTutti() { giu_.reset(); }
 
 private:
-    static bool Valido(int codice) { return codice >= 0 && codice < 256; }
+    static bool Valido(int codice) { return codice > 0 && codice < 256; }
     std::bitset<256> giu_;
 };
 

@@ -13,7 +13,8 @@ double Pompa::Adesso() const {
 }
 
 void Pompa::PompaEventi() {
-    while (const auto evento = coda_.Prendi()) consegna_(*evento);
+    while (const auto evento = coda_.Prendi())
+        consegna_(*evento);
 }
 
 void Pompa::AttendiEvento(double fino) {
@@ -29,6 +30,8 @@ void Pompa::Attendi(double secondi) {
     scadenza_ = fino;
 }
 
-void Pompa::Sleep(int ms) { Attendi((ms + granularitaSleep) / 1000.0); }
+void Pompa::Sleep(int ms) {
+    Attendi((ms + granularitaSleep) / 1000.0);
+}
 
 }  // namespace corvana

@@ -18,7 +18,9 @@ public:
     Pompa(Orologio& orologio, CodaEventi& coda) : orologio_(orologio), coda_(coda) {}
 
     /// What is done with each event that is taken; must not let a fault escape.
-    void PonConsegna(std::function<void(const Evento&)> consegna) { consegna_ = std::move(consegna); }
+    void PonConsegna(std::function<void(const Evento&)> consegna) {
+        consegna_ = std::move(consegna);
+    }
 
     /// Delivers all events that wait, nested on this stack. No time passes.
     void PompaEventi();

@@ -37,11 +37,12 @@ int OrologioReale::OraDelGiorno() const {
 
 void OrologioReale::AspettaFino(double fino) {
     const timespec istante = InTimespec(fino);
-    while (clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &istante, nullptr) == EINTR) {
-    }
+    while (clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &istante, nullptr) == EINTR) {}
 }
 
-void OrologioReale::AspettaEvento(CodaEventi& coda, double fino) { coda.Aspetta(fino); }
+void OrologioReale::AspettaEvento(CodaEventi& coda, double fino) {
+    coda.Aspetta(fino);
+}
 
 void PreferisciPuntualita() {
     prctl(PR_SET_TIMERSLACK, 1UL);

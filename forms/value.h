@@ -14,11 +14,19 @@ using Colore = int;
 constexpr Colore coloreDiSistema = -1;
 
 /// The colour of three channels, each 0 to 255.
-constexpr Colore Rgb(int rosso, int verde, int blu) { return rosso | (verde << 8) | (blu << 16); }
+constexpr Colore Rgb(int rosso, int verde, int blu) {
+    return rosso | (verde << 8) | (blu << 16);
+}
 
-constexpr int Rosso(Colore c) { return c & 0xFF; }
-constexpr int Verde(Colore c) { return (c >> 8) & 0xFF; }
-constexpr int Blu(Colore c) { return (c >> 16) & 0xFF; }
+constexpr int Rosso(Colore c) {
+    return c & 0xFF;
+}
+constexpr int Verde(Colore c) {
+    return (c >> 8) & 0xFF;
+}
+constexpr int Blu(Colore c) {
+    return (c >> 16) & 0xFF;
+}
 
 /// A band of colour painted on a control: see `Gradiente`.
 struct Sfumatura {
@@ -32,8 +40,27 @@ struct Sfumatura {
 };
 
 enum class Nome : std::uint8_t {
-    Caption, Text, Visible, Enabled, BackColor, ForeColor, ToolTipText, Value, Min, Max, List,
-    ListIndex, Checked, Locked, Top, Left, Width, Height, BorderStyle, Sfondo, HelpContextID,
+    Caption,
+    Text,
+    Visible,
+    Enabled,
+    BackColor,
+    ForeColor,
+    ToolTipText,
+    Value,
+    Min,
+    Max,
+    List,
+    ListIndex,
+    Checked,
+    Locked,
+    Top,
+    Left,
+    Width,
+    Height,
+    BorderStyle,
+    Sfondo,
+    HelpContextID,
 };
 
 using Righe = std::vector<std::string>;

@@ -27,8 +27,7 @@ bool OrologioVirtuale::EseguiPasso(double fino) {
 }
 
 void OrologioVirtuale::AspettaFino(double fino) {
-    while (EseguiPasso(fino)) {
-    }
+    while (EseguiPasso(fino)) {}
     adesso_ = std::max(adesso_, fino);
 }
 

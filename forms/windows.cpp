@@ -11,11 +11,14 @@ Finestre::Finestre(Pompa& pompa, Dialoghi& dialoghi, Specchio* specchio)
     pompa_.PonConsegna([this](const Evento& evento) { Consegna(evento); });
 }
 
-void Finestre::Mostra(Form& form) { Apri(form, false); }
+void Finestre::Mostra(Form& form) {
+    Apri(form, false);
+}
 
 void Finestre::MostraModale(Form& form) {
     Apri(form, true);
-    while (Aperta(form)) pompa_.AttendiEvento(perSempre);
+    while (Aperta(form))
+        pompa_.AttendiEvento(perSempre);
     if (Form* sotto = Davanti()) sotto->Form_Activate();
 }
 
@@ -45,7 +48,8 @@ bool Finestre::Scarica(Form& form) {
 }
 
 void Finestre::Esegui() {
-    while (!aperte_.empty()) pompa_.AttendiEvento(perSempre);
+    while (!aperte_.empty())
+        pompa_.AttendiEvento(perSempre);
 }
 
 void Finestre::Consegna(const Evento& evento) {
@@ -67,15 +71,19 @@ void Finestre::Riferisci(Form& form, Controllo& controllo, const Evento& evento)
     try {
         Smista(form, controllo, evento);
     } catch (const Guasto& guasto) {
-        dialoghi_.MsgBox(std::to_string(guasto.Numero()) + "\r\n" + guasto.what());
+        dialoghi_.MsgBox(TestoGuasto(guasto));
     } catch (const std::exception& errore) {
-        dialoghi_.MsgBox(std::to_string(guastoInterno) + "\r\n" + errore.what());
+        dialoghi_.MsgBox(TestoGuasto(Guasto(guastoInterno, errore.what())));
     }
 }
 
 void Finestre::Smista(Form& form, Controllo& controllo, const Evento& evento) {
-    const auto chiama = [](const std::function<void()>& f) { if (f) f(); };
-    const auto mouse = [&](const std::function<void(const Evento&)>& f) { if (f) f(evento); };
+    const auto chiama = [](const std::function<void()>& f) {
+        if (f) f();
+    };
+    const auto mouse = [&](const std::function<void(const Evento&)>& f) {
+        if (f) f(evento);
+    };
     switch (evento.fatto) {
         case Fatto::Click: return chiama(controllo.Click);
         case Fatto::DblClick: return chiama(controllo.DblClick);

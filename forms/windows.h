@@ -21,7 +21,8 @@ public:
 
     /// Loads the window, puts it in front and activates it.
     void Mostra(Form& form);
-    /// The same, and returns when the window has been closed; the one beneath is then activated anew.
+    /// The same, and returns when the window has been closed; the one beneath is then activated
+    /// anew.
     void MostraModale(Form& form);
     /// Asks the window to close; true when it has.
     bool Scarica(Form& form);

@@ -12,11 +12,11 @@ using HandleDispositivo = std::int32_t;  ///< 0 is none
 
 /// Results of the calls; 0 is success.
 constexpr int midiSenzaErrore = 0;
-constexpr int midiDispositivoErrato = 2;   ///< no device bears that id
-constexpr int midiHandleErrato = 5;        ///< the handle names no open device
-constexpr int midiSenzaDriver = 6;         ///< the device is there and can't be used
-constexpr int midiMemoria = 7;             ///< what the device needs couldn't be loaded
-constexpr int midiTestoAssente = 1;        ///< no text for that code
+constexpr int midiDispositivoErrato = 2;  ///< no device bears that id
+constexpr int midiHandleErrato = 5;       ///< the handle names no open device
+constexpr int midiSenzaDriver = 6;        ///< the device is there and can't be used
+constexpr int midiMemoria = 7;            ///< what the device needs couldn't be loaded
+constexpr int midiTestoAssente = 1;       ///< no text for that code
 
 constexpr std::int32_t dispositivoPredefinito = -1;
 

@@ -42,7 +42,7 @@ public:
     bool udibile = true;
     std::vector<std::string> nomi;  ///< of the ports 0 and up
 
-    std::vector<Voce> messaggi;     ///< all that were accepted
+    std::vector<Voce> messaggi;  ///< all that were accepted
     std::vector<Onda> onde;
     std::vector<std::int32_t> aperture;  ///< ids, in order
     std::vector<double> reset;

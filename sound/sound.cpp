@@ -16,7 +16,9 @@ constexpr std::int16_t velocitaNota = 100;
 constexpr std::int16_t velocitaSigla = 127;
 constexpr double attesaMassima = 10;
 
-constexpr bool CodiceBasso(std::int16_t valore) { return valore > sogliaCodiciBassi; }
+constexpr bool CodiceBasso(std::int16_t valore) {
+    return valore > sogliaCodiciBassi;
+}
 
 constexpr std::int16_t Midi(std::int16_t valore, int scarto) {
     return static_cast<std::int16_t>(valore + scarto);

@@ -37,10 +37,10 @@ public:
     Suono(PiattaformaMidi& piattaforma, Pompa& pompa, Dialoghi& dialoghi)
         : piattaforma_(piattaforma), pompa_(pompa), dialoghi_(dialoghi) {}
 
-    HandleDispositivo HandleMidi = 0;     ///< 0 when no device is open
-    std::int16_t UltimaNota = 0;          ///< index or low code last started by `SuonaNota`
-    std::int32_t UltimoMessaggio = 0;     ///< the last short message packed
-    std::int16_t EsitoMidi = 0;           ///< result of the last short message
+    HandleDispositivo HandleMidi = 0;  ///< 0 when no device is open
+    std::int16_t UltimaNota = 0;       ///< index or low code last started by `SuonaNota`
+    std::int32_t UltimoMessaggio = 0;  ///< the last short message packed
+    std::int16_t EsitoMidi = 0;        ///< result of the last short message
 
     /// Closes any open device and opens `dispositivo`; -1 is the default output. On failure shows
     /// the error box and returns false.

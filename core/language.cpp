@@ -1,0 +1,62 @@
+#include "core/language.h"
+
+#include "core/language_targets.h"
+#include "core/text.h"
+#include "forms/fault.h"
+
+namespace corvana {
+
+namespace {
+
+void Applica(Globali& globali, const Bersaglio& bersaglio, const std::string& testo, Form& form) {
+    if (bersaglio.cosa == Cosa::Stringa) {
+        globali.testi.*bersaglio.stringa = testo;
+        return;
+    }
+    Controllo* controllo = form.Trova(bersaglio.controllo);
+    if (!controllo) return;
+    if (bersaglio.cosa == Cosa::Testo) controllo->PonTesto(testo);
+    if (bersaglio.cosa == Cosa::Consiglio) controllo->ToolTipText = testo;
+    if (bersaglio.cosa == Cosa::Riga)
+        dynamic_cast<Lista&>(*controllo).PonRiga(bersaglio.elemento, testo);
+}
+
+void ApplicaLinea(const Ambiente& ambiente, const std::string& linea, Form& form) {
+    const auto campi = Dividi(linea, ';');
+    if (Minuscolo(campi.at(1)) != Minuscolo(form.Name)) return;
+    ApplicaRiga(ambiente.globali, campi.at(0), campi.at(2), form);
+}
+
+}  // namespace
+
+std::span<const Bersaglio> Bersagli(std::string_view nomeForm) {
+    if (nomeForm == "corvanamainf") return BersagliPrincipali();
+    return {};
+}
+
+bool FileLinguaEsiste(const Ambiente& ambiente) {
+    return ambiente.file.Esiste(ambiente.globali.PercorsoLingua);
+}
+
+void UpdateString(const Ambiente& ambiente, Form& form) {
+    try {
+        std::string contenuto;
+        if (const int errore = ambiente.file.Leggi(ambiente.globali.PercorsoLingua, contenuto))
+            throw Guasto(errore, "read error");
+        if (contenuto.ends_with('\n')) contenuto.pop_back();
+        for (std::string& linea : Dividi(contenuto, '\n')) {
+            if (linea.ends_with('\r')) linea.pop_back();
+            ApplicaLinea(ambiente, linea, form);
+        }
+    } catch (const std::exception&) {
+        ambiente.dialoghi.MsgBox("Error Reading file!!!");
+    }
+}
+
+void ApplicaRiga(Globali& globali, const std::string& id, const std::string& testo, Form& form) {
+    const long numero = NumeroIntero(id, -32768, 32767);
+    for (const Bersaglio& bersaglio : Bersagli(Minuscolo(form.Name)))
+        if (bersaglio.id == numero) Applica(globali, bersaglio, testo, form);
+}
+
+}  // namespace corvana

@@ -1,0 +1,21 @@
+// Texts of the windows in the chosen language, from a file of lines "id;form;text".
+// Logic thread.
+#pragma once
+
+#include <string>
+
+#include "core/globals.h"
+
+namespace corvana {
+
+/// `PercorsoLingua` names an existing file.
+bool FileLinguaEsiste(const Ambiente& ambiente);
+
+/// Applies the rows of the form, which are those with its name, compared without case. A fault in
+/// the file shows "Error Reading file!!!" and ends the reading; rows applied stay applied.
+void UpdateString(const Ambiente& ambiente, Form& form);
+
+/// Applies one row. An id that the form has no target for is ignored.
+void ApplicaRiga(Globali& globali, const std::string& id, const std::string& testo, Form& form);
+
+}  // namespace corvana

@@ -1,0 +1,101 @@
+#include "core/settings.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <optional>
+#include <string_view>
+
+#include "core/text.h"
+
+namespace corvana {
+
+namespace {
+
+/// A value lies on one line: what would break the line is written behind a backslash.
+std::string Protetto(std::string_view valore) {
+    std::string riga;
+    for (const char c : valore) {
+        switch (c) {
+            case '\\': riga += "\\\\"; break;
+            case '\n': riga += "\\n"; break;
+            case '\r': riga += "\\r"; break;
+            case '\0': riga += "\\0"; break;
+            default: riga += c;
+        }
+    }
+    return riga;
+}
+
+std::optional<std::string> Svelato(std::string_view riga) {
+    constexpr std::string_view segni = "\\nr0";
+    constexpr std::string_view significati{"\\\n\r\0", 4};
+    std::string valore;
+    for (std::size_t i = 0; i < riga.size(); ++i) {
+        if (riga[i] != '\\') {
+            valore += riga[i];
+            continue;
+        }
+        const auto segno = ++i < riga.size() ? segni.find(riga[i]) : std::string_view::npos;
+        if (segno == std::string_view::npos) return std::nullopt;
+        valore += significati[segno];
+    }
+    return valore;
+}
+
+auto Cerca(auto& voci, const std::string& nome) {
+    return std::find_if(voci.begin(), voci.end(), [&](const auto& v) { return v.first == nome; });
+}
+
+}  // namespace
+
+void Impostazioni::CreaSeManca() {
+    std::string contenuto;
+    if (file_.Leggi(percorso_, contenuto) != ENOENT) return;
+    file_.CreaCartella(std::filesystem::path(percorso_).parent_path().string());
+    Salva({{"Language", ""}, {"CorvanaLastS", ""}, {"LastDir", ""}, {"IntoLastS", ""}});
+}
+
+std::string Impostazioni::LeggiValore(const std::string& nome) {
+    Voci voci;
+    if (const int errore = Apri(voci)) return Errore("Error1 Opening key: ", errore);
+    const auto voce = Cerca(voci, nome);
+    if (voce == voci.end()) return Errore("Error2 Querying key: ", ENOENT);
+    const auto valore = Svelato(voce->second);
+    if (!valore) return Errore("Error3 Querying key: ", EILSEQ);
+    return valore->substr(0, valore->find('\0'));
+}
+
+void Impostazioni::ScriviValore(const std::string& nome, const std::string& valore) {
+    Voci voci;
+    if (Apri(voci)) return;
+    const auto voce = Cerca(voci, nome);
+    if (voce == voci.end())
+        voci.emplace_back(nome, Protetto(valore));
+    else
+        voce->second = Protetto(valore);
+    Salva(voci);
+}
+
+int Impostazioni::Apri(Voci& voci) {
+    std::string contenuto;
+    if (const int errore = file_.Leggi(percorso_, contenuto)) return errore;
+    for (const std::string& riga : Dividi(contenuto, '\n'))
+        if (const auto uguale = riga.find('='); uguale != std::string::npos)
+            voci.emplace_back(riga.substr(0, uguale), riga.substr(uguale + 1));
+    return 0;
+}
+
+void Impostazioni::Salva(const Voci& voci) {
+    std::string contenuto;
+    for (const auto& [nome, valore] : voci)
+        contenuto += nome + "=" + valore + "\n";
+    file_.ScriviAtomico(percorso_, contenuto);
+}
+
+std::string Impostazioni::Errore(const std::string& testo, int codice) {
+    dialoghi_.MsgBox(testo + std::to_string(codice));
+    return {};
+}
+
+}  // namespace corvana

@@ -1,0 +1,44 @@
+// Boxes that write down what they say and are answered from a script.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <vector>
+
+#include "forms/dialogs.h"
+
+namespace corvana::prova {
+
+class DialoghiDaCopione final : public Dialoghi {
+public:
+    std::vector<std::string> messaggi;
+    std::deque<bool> risposte;  ///< to questions; none left is No
+    std::deque<std::optional<std::string>> testi;
+    /// What happens while a message box is up.
+    std::function<void(const std::string&)> durante;
+
+    void MsgBox(const std::string& testo) override {
+        messaggi.push_back(testo);
+        if (durante) durante(testo);
+    }
+    bool Domanda(const std::string& testo) override {
+        messaggi.push_back(testo);
+        return Prossimo(risposte, false);
+    }
+    std::optional<std::string> InputBox(const std::string& testo, const std::string&,
+                                        const std::string&) override {
+        messaggi.push_back(testo);
+        return Prossimo(testi, std::optional<std::string>());
+    }
+
+private:
+    template <class T>
+    static T Prossimo(std::deque<T>& coda, T altrimenti) {
+        if (coda.empty()) return altrimenti;
+        T primo = coda.front();
+        coda.pop_front();
+        return primo;
+    }
+};
+
+}  // namespace corvana::prova
