@@ -89,7 +89,7 @@ int Impostazioni::Apri(Voci& voci) {
 void Impostazioni::Salva(const Voci& voci) {
     std::string contenuto;
     for (const auto& [nome, valore] : voci)
-        contenuto += nome + "=" + valore + "\n";
+        contenuto.append(nome).append("=").append(valore).append("\n");
     file_.ScriviAtomico(percorso_, contenuto);
 }
 

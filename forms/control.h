@@ -79,7 +79,7 @@ public:
     /// Tells the face again what `Accogli` would have changed, for an event that wasn't delivered.
     virtual void Ripeti() {}
     /// Sets the caption, or the text of a box; a control without either ignores it.
-    virtual void PonTesto(std::string) {}
+    virtual void PonTesto(const std::string&) {}
 
 protected:
     /// The form itself.
@@ -95,7 +95,7 @@ private:
 struct ConCaption : Controllo {
     using Controllo::Controllo;
     Proprieta<std::string, Nome::Caption> Caption{*this, ""};
-    void PonTesto(std::string testo) override { Caption = std::move(testo); }
+    void PonTesto(const std::string& testo) override { Caption = testo; }
 };
 
 struct Etichetta : ConCaption {
@@ -119,7 +119,7 @@ struct Casella : Controllo {
     char32_t (*Filtro)(char32_t) = nullptr;
     void Accogli(const Evento& e) override;
     void Ripeti() override;
-    void PonTesto(std::string testo) override { Text = std::move(testo); }
+    void PonTesto(const std::string& testo) override { Text = testo; }
 };
 
 /// Selecting a row from code fires `Click`, as a selection by the user does, the same row too.

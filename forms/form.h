@@ -34,7 +34,7 @@ public:
     /// Identity of this showing; 0 while the form isn't loaded.
     std::uint32_t Identita() const { return identita_; }
 
-    void PonTesto(std::string testo) override { Caption = std::move(testo); }
+    void PonTesto(const std::string& testo) override { Caption = testo; }
 
     /// For the controls alone: a new one's number, a change to tell, the focus to give.
     int Iscrivi(Controllo& controllo);

@@ -3,7 +3,6 @@
 #include <pthread.h>
 #include <sched.h>
 #include <sys/prctl.h>
-#include <time.h>
 
 #include <cerrno>
 #include <cmath>

@@ -1,0 +1,39 @@
+# Fails when a folder includes what it may not: run as `cmake -DROOT=... -P check_arrows.cmake`.
+# A folder may include itself and the folders listed for it; only desktop/ sees Qt, only
+# sound/outputs/ the audio libraries.
+
+cmake_minimum_required(VERSION 3.25)
+
+set(may_forms "")
+set(may_sound forms)
+set(may_core forms sound)
+set(may_trainer forms sound core)
+set(toolkits "#include *[<\"](Q[A-Z]|SDL|fluidsynth|RtMidi|rtmidi)")
+set(faults "")
+
+foreach(folder forms sound core trainer)
+    file(GLOB sources ${ROOT}/${folder}/*.h ${ROOT}/${folder}/*.cpp)
+    set(allowed ${folder} ${may_${folder}})
+    foreach(source IN LISTS sources)
+        file(STRINGS ${source} lines REGEX "^#include")
+        foreach(line IN LISTS lines)
+            if(line MATCHES "^#include \"([a-z]+)/" AND NOT CMAKE_MATCH_1 IN_LIST allowed)
+                string(APPEND faults "${source}: ${line}\n")
+            elseif(line MATCHES "${toolkits}" OR (line MATCHES "sound/outputs/"))
+                string(APPEND faults "${source}: ${line}\n")
+            endif()
+        endforeach()
+    endforeach()
+endforeach()
+
+file(GLOB sources ${ROOT}/sound/outputs/*.h ${ROOT}/sound/outputs/*.cpp)
+foreach(source IN LISTS sources)
+    file(STRINGS ${source} lines REGEX "^#include *([<\"]Q[A-Z]|\"(core|trainer|desktop)/)")
+    foreach(line IN LISTS lines)
+        string(APPEND faults "${source}: ${line}\n")
+    endforeach()
+endforeach()
+
+if(faults)
+    message(FATAL_ERROR "Arrows that run the wrong way:\n${faults}")
+endif()

@@ -1,0 +1,35 @@
+# Which Debian packages each job needs, and how they are installed. Sourced by ./run, ./test,
+# ./measure and .ci/run.
+
+build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev libsdl2-dev
+    libfluidsynth-dev librtmidi-dev)
+run_packages=("${build_packages[@]}" timgm6mb-soundfont)
+screen_packages=(xvfb xdotool scrot)
+test_packages=("${run_packages[@]}" libgtest-dev librapidcheck-dev pulseaudio pulseaudio-utils jackd2)
+lint_packages=(clang-format clang-tidy clang libclang-rt-14-dev cppcheck)
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+# install_missing PACKAGE...: installs those that aren't there, and says which.
+install_missing() {
+    local missing=() package
+    for package in "$@"; do
+        [ -e "/var/lib/dpkg/info/$package.list" ] ||
+            compgen -G "/var/lib/dpkg/info/$package:*.list" >/dev/null || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    echo "Installing Debian packages: ${missing[*]}"
+    as_root apt-get update -qq
+    as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# build PRESET [TARGET...]: configures when needed, then builds what is out of date.
+build() {
+    local preset=$1
+    shift
+    [ -e "build/$preset/build.ninja" ] || cmake --preset "$preset" >/dev/null
+    cmake --build --preset "$preset" ${1:+--target "$@"} -- --quiet
+}
