@@ -1,0 +1,33 @@
+#include "sound/outputs/font_loading.h"
+
+#include <utility>
+
+namespace corvana {
+
+namespace {
+constexpr double attesaDelFont = 10;
+constexpr double pazienza = 0.5;
+}  // namespace
+
+bool CaricaMotore(MotoreSonoro& motore, const ImpostazioniUscite& impostazioni) {
+    if (!impostazioni.cartellaSegnali.empty())
+        for (const char* nome : {"rok.wav", "rko.wav"})
+            motore.onde.Trova(impostazioni.cartellaSegnali + "/" + nome);
+    auto synth = Sintetizzatore::Carica(impostazioni.font);
+    if (!synth) return false;
+    motore.mescolatore.PonSintetizzatore(std::move(synth));
+    return true;
+}
+
+CaricamentoFont::CaricamentoFont(std::shared_ptr<MotoreSonoro> motore,
+                                 const ImpostazioniUscite& impostazioni)
+    : esito_(std::make_shared<bool>(false)),
+      filo_([motore = std::move(motore), impostazioni,
+             esito = esito_] { *esito = CaricaMotore(*motore, impostazioni); },
+            pazienza) {}
+
+bool CaricamentoFont::Pronto() {
+    return filo_.AspettaFine(attesaDelFont) && *esito_;
+}
+
+}  // namespace corvana
