@@ -1,0 +1,17 @@
+// A message, question or input box on the screen. GUI thread; doesn't block.
+#pragma once
+
+#include <QDialog>
+#include <functional>
+
+#include "desktop/command.h"
+#include "desktop/remote_mirror.h"
+
+namespace corvana {
+
+/// Opens the box over `sopra`, or alone when that is null. It deletes itself when it has been
+/// answered, after it told the answer.
+QDialog* ApriDialogo(const ApriRiquadro& richiesta, QWidget* sopra,
+                     std::function<void(Risposta)> risposta);
+
+}  // namespace corvana

@@ -1,0 +1,68 @@
+// What the logic tells the face, as plain data that crosses from the logic thread to the GUI
+// thread.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "forms/control.h"
+#include "forms/value.h"
+
+namespace corvana {
+
+/// A control as it stands when its window is shown.
+struct CopiaControllo {
+    int numero = 0;
+    int padre = 0;  ///< number of what it lies in; of the window itself 0
+    Genere tipo = Genere::Finestra;
+    std::string nome;
+    std::string stile;
+    std::vector<std::pair<Nome, Valore>> proprieta;
+    bool ascoltaClick = false;
+    bool ascoltaPressione = false;
+    bool ascoltaMossa = false;
+    int lunghezzaMassima = 0;  ///< characters that a text box takes, 0 for no limit
+    int passoGrande = 0;       ///< what a click beside the thumb of a slider moves it by
+    char32_t (*filtro)(char32_t) = nullptr;
+};
+
+struct MostraFinestra {
+    std::uint32_t finestra;
+    bool modale;
+    std::vector<CopiaControllo> controlli;  ///< by number, the window itself first
+};
+
+struct CambiaProprieta {
+    std::uint32_t finestra;
+    int controllo;
+    Nome nome;
+    Valore valore;
+};
+
+struct DaiFuoco {
+    std::uint32_t finestra;
+    int controllo;
+};
+
+struct ChiudiFinestra {
+    std::uint32_t finestra;
+};
+
+enum class GenereRiquadro : std::uint8_t { Messaggio, Domanda, Immissione };
+
+struct ApriRiquadro {
+    int numero;  ///< to be given with the answer
+    GenereRiquadro genere;
+    std::string testo, titolo, proposta;
+};
+
+/// The logic has returned and says nothing more.
+struct FineLogica {};
+
+using Comando = std::variant<MostraFinestra, CambiaProprieta, DaiFuoco, ChiudiFinestra,
+                             ApriRiquadro, FineLogica>;
+
+}  // namespace corvana

@@ -1,0 +1,128 @@
+#include "desktop/desktop.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <algorithm>
+#include <cstdio>
+
+#include "desktop/box.h"
+
+namespace corvana {
+
+namespace {
+
+int Esito(const std::exception_ptr& errore) {
+    if (!errore) return 0;
+    try {
+        std::rethrow_exception(errore);
+    } catch (const std::exception& e) {
+        std::fprintf(stderr, "corvana: %s\n", e.what());
+    } catch (...) {
+        std::fputs("corvana: unknown error\n", stderr);
+    }
+    return 1;
+}
+
+}  // namespace
+
+Scrivania::Scrivania() : notifica_(cassetta_.Presa(), QSocketNotifier::Read) {
+    QObject::connect(&notifica_, &QSocketNotifier::activated, &notifica_, [this] { Ritira(); });
+}
+
+Scrivania::~Scrivania() {
+    Termina();
+}
+
+void Scrivania::Avvia(std::function<void()> logica) {
+    logica_ = std::thread([this, logica = std::move(logica)] {
+        try {
+            logica();
+        } catch (...) {
+            errore_ = std::current_exception();
+        }
+        cassetta_.Metti(FineLogica{});
+    });
+}
+
+int Scrivania::Esegui(std::function<void()> logica) {
+    Avvia(std::move(logica));
+    Attendi();
+    finestre_.clear();
+    return Esito(errore_);
+}
+
+void Scrivania::Attendi() {
+    // Anybody may end Qt's loop; the logic alone decides when the program ends.
+    while (!finita_)
+        QApplication::exec();
+    logica_.join();
+}
+
+void Scrivania::Termina() {
+    if (!logica_.joinable()) return;
+    specchio_.Rilascia();
+    ChiediUscita();
+    QEventLoop giro;
+    while (!finita_)
+        giro.processEvents(QEventLoop::WaitForMoreEvents);
+    logica_.join();
+}
+
+void Scrivania::ChiediUscita() {
+    uscita_ = true;
+    if (riquadro_) riquadro_->reject();
+    if (VistaFinestra* davanti = Davanti()) davanti->ChiediChiusura();
+}
+
+VistaFinestra* Scrivania::Davanti() {
+    return finestre_.empty() ? nullptr : finestre_.back().get();
+}
+
+VistaFinestra* Scrivania::Cerca(std::uint32_t identita) {
+    for (const auto& finestra : finestre_)
+        if (finestra->Identita() == identita) return finestra.get();
+    return nullptr;
+}
+
+void Scrivania::Ritira() {
+    for (Comando& comando : cassetta_.Prendi())
+        Esegui(comando);
+}
+
+void Scrivania::Esegui(Comando& comando) {
+    std::visit([this](const auto& scelto) { Fai(scelto); }, comando);
+}
+
+void Scrivania::Fai(const MostraFinestra& comando) {
+    VistaFinestra* sotto = comando.modale ? Davanti() : nullptr;
+    finestre_.push_back(std::make_unique<VistaFinestra>(comando, coda_, tastiera_, sotto));
+    if (uscita_) finestre_.back()->ChiediChiusura();
+}
+
+void Scrivania::Fai(const CambiaProprieta& comando) {
+    if (VistaFinestra* finestra = Cerca(comando.finestra))
+        finestra->Cambia(comando.controllo, comando.nome, comando.valore);
+}
+
+void Scrivania::Fai(const DaiFuoco& comando) {
+    if (VistaFinestra* finestra = Cerca(comando.finestra)) finestra->DaiFuoco(comando.controllo);
+}
+
+void Scrivania::Fai(const ChiudiFinestra& comando) {
+    std::erase_if(finestre_, [&](const auto& f) { return f->Identita() == comando.finestra; });
+    if (uscita_ && !finestre_.empty()) finestre_.back()->ChiediChiusura();
+}
+
+void Scrivania::Fai(const ApriRiquadro& comando) {
+    QWidget* sopra = finestre_.empty() ? nullptr : &finestre_.back()->Finestra();
+    riquadro_ = ApriDialogo(comando, sopra, [this, numero = comando.numero](Risposta risposta) {
+        specchio_.Rispondi(numero, std::move(risposta));
+    });
+}
+
+void Scrivania::Fai(const FineLogica&) {
+    finita_ = true;
+    QApplication::exit();
+}
+
+}  // namespace corvana

@@ -1,0 +1,75 @@
+// The desktop: starts the logic on its own thread, shows the windows that it asks for, and ends
+// when it has ended. GUI thread; needs a QApplication, which outlives it.
+#pragma once
+
+#include <QDialog>
+#include <QPointer>
+#include <QSocketNotifier>
+#include <exception>
+#include <functional>
+#include <memory>
+#include <thread>
+#include <vector>
+
+#include "desktop/keyboard.h"
+#include "desktop/remote_mirror.h"
+#include "desktop/window_view.h"
+
+namespace corvana {
+
+class Scrivania {
+public:
+    Scrivania();
+    Scrivania(const Scrivania&) = delete;
+    Scrivania& operator=(const Scrivania&) = delete;
+    /// Ends the logic as `Termina` does.
+    ~Scrivania();
+
+    CodaEventi& Coda() { return coda_; }
+    Specchio& Schermo() { return specchio_; }
+    Dialoghi& Riquadri() { return specchio_; }
+
+    /// Starts the logic; its windows appear as the Qt loop runs. Once only.
+    void Avvia(std::function<void()> logica);
+    /// The logic has returned, and all that it said has been shown.
+    bool Finita() const { return finita_; }
+    /// Starts the logic and runs the Qt loop until it has returned. Returns 1 when the logic ended
+    /// by an exception, else 0.
+    int Esegui(std::function<void()> logica);
+    /// Asks every window to close, answers No to every box, and returns when the logic has ended.
+    void Termina();
+
+    /// Asks the window in front to close, and then the ones beneath; an open box is answered No.
+    void ChiediUscita();
+
+    /// The window in front, or null.
+    VistaFinestra* Davanti();
+    /// The box that waits for an answer, or null.
+    QDialog* Riquadro() const { return riquadro_; }
+
+private:
+    void Ritira();
+    void Esegui(Comando& comando);
+    void Fai(const MostraFinestra& comando);
+    void Fai(const CambiaProprieta& comando);
+    void Fai(const DaiFuoco& comando);
+    void Fai(const ChiudiFinestra& comando);
+    void Fai(const ApriRiquadro& comando);
+    void Fai(const FineLogica& comando);
+    VistaFinestra* Cerca(std::uint32_t identita);
+    void Attendi();
+
+    CodaEventi coda_;
+    Cassetta cassetta_;
+    SpecchioRemoto specchio_{cassetta_};
+    Tastiera tastiera_;
+    std::vector<std::unique_ptr<VistaFinestra>> finestre_;
+    QPointer<QDialog> riquadro_;
+    QSocketNotifier notifica_;
+    std::thread logica_;
+    std::exception_ptr errore_;  ///< what ended the logic; to be read when its thread has ended
+    bool finita_ = false;
+    bool uscita_ = false;  ///< everything was asked to close
+};
+
+}  // namespace corvana

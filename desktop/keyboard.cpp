@@ -1,0 +1,89 @@
+#include "desktop/keyboard.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QWindow>
+
+#include "desktop/key_map.h"
+#include "forms/keys.h"
+
+namespace corvana {
+
+namespace {
+
+int Codice(const QKeyEvent& tasto) {
+    return CodiceTasto(tasto.nativeScanCode(), tasto.key(),
+                       tasto.modifiers().testFlag(Qt::KeypadModifier));
+}
+
+Evento FattoTasto(Fatto fatto, int codice, const QKeyEvent& tasto) {
+    Evento evento;
+    evento.fatto = fatto;
+    evento.codice = codice;
+    evento.shift = BitMaiuscole(tasto.modifiers());
+    evento.ripetuto = tasto.isAutoRepeat();
+    return evento;
+}
+
+/// Without the number lock a figure of the keypad would also move the focus or a slider.
+bool SoloRisposta(int codice) {
+    const bool cifra = codice >= vk::tastierino0 && codice <= vk::tastierino0 + 9;
+    return cifra && !qobject_cast<QLineEdit*>(QApplication::focusWidget());
+}
+
+}  // namespace
+
+Tastiera::Tastiera() {
+    connect(qApp, &QGuiApplication::focusWindowChanged, this,
+            [this](QWindow* nuova) { CambiaFinestra(nuova); });
+}
+
+void Tastiera::Segui(QWindow& finestra, Mittente mittente) {
+    finestra.installEventFilter(this);
+    finestre_.insert_or_assign(&finestra, mittente);
+    connect(&finestra, &QObject::destroyed, this,
+            [this](QObject* morta) { finestre_.erase(morta); });
+    if (QGuiApplication::focusWindow() == &finestra) attiva_ = &finestra;
+}
+
+void Tastiera::CambiaFinestra(QWindow* nuova) {
+    if (attiva_ && attiva_ != nuova) Perdi();
+    attiva_ = finestre_.contains(nuova) ? nuova : nullptr;
+}
+
+void Tastiera::Perdi() {
+    mandati_.reset();
+    if (!finestre_.empty()) finestre_.begin()->second.Manda(0, Fatto::FuocoPerso);
+}
+
+bool Tastiera::eventFilter(QObject* oggetto, QEvent* evento) {
+    const bool premuto = evento->type() == QEvent::KeyPress;
+    if (!premuto && evento->type() != QEvent::KeyRelease) return false;
+    const auto finestra = finestre_.find(oggetto);
+    if (finestra == finestre_.end()) return false;
+    const auto& tasto = static_cast<const QKeyEvent&>(*evento);
+    if (premuto) return Premi(finestra->second, tasto);
+    Lascia(finestra->second, tasto);
+    return false;
+}
+
+bool Tastiera::Premi(const Mittente& mittente, const QKeyEvent& tasto) {
+    if (QApplication::activePopupWidget()) return false;
+    const int codice = Codice(tasto);
+    if (codice <= 0 || codice >= static_cast<int>(mandati_.size())) return false;
+    mandati_.set(static_cast<std::size_t>(codice));
+    mittente.Manda(FattoTasto(Fatto::KeyDown, codice, tasto));
+    return SoloRisposta(codice);
+}
+
+void Tastiera::Lascia(const Mittente& mittente, const QKeyEvent& tasto) {
+    const int codice = Codice(tasto);
+    if (tasto.isAutoRepeat() || codice <= 0 || codice >= static_cast<int>(mandati_.size())) return;
+    // One that went down elsewhere, in a menu or in another program, is nobody's release here.
+    if (!mandati_.test(static_cast<std::size_t>(codice))) return;
+    mandati_.reset(static_cast<std::size_t>(codice));
+    mittente.Manda(FattoTasto(Fatto::KeyUp, codice, tasto));
+}
+
+}  // namespace corvana

@@ -1,0 +1,40 @@
+// Makes key events of the windows' keys: by place, one press and one release for each key, nothing
+// while a menu is open, and never a release after the keyboard was lost. One for all windows, since
+// a key can go down in one and up in another. GUI thread.
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <bitset>
+#include <functional>
+#include <map>
+
+#include "desktop/sender.h"
+
+class QKeyEvent;
+class QWindow;
+
+namespace corvana {
+
+class Tastiera final : public QObject {
+public:
+    Tastiera();
+
+    /// Watches the native window until it is destroyed.
+    void Segui(QWindow& finestra, Mittente mittente);
+    /// Tells the logic that no key is held any more.
+    void Perdi();
+
+    bool eventFilter(QObject* oggetto, QEvent* evento) override;
+
+private:
+    bool Premi(const Mittente& mittente, const QKeyEvent& tasto);
+    void Lascia(const Mittente& mittente, const QKeyEvent& tasto);
+    void CambiaFinestra(QWindow* nuova);
+
+    std::map<QObject*, Mittente> finestre_;
+    QPointer<QObject> attiva_;
+    std::bitset<256> mandati_;
+};
+
+}  // namespace corvana

@@ -1,0 +1,11 @@
+// The look of what Qt itself paints: menus, boxes, tool tips. GUI thread.
+#pragma once
+
+class QApplication;
+
+namespace corvana {
+
+/// Name, style, colours and letters of the program, once after the application was made.
+void VestiProgramma(QApplication& qt);
+
+}  // namespace corvana

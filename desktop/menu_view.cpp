@@ -1,0 +1,54 @@
+#include "desktop/menu_view.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace corvana {
+
+VistaVoce::VistaVoce(const CopiaControllo& copia, Mittente mittente, const Menu& menu,
+                     VistaVoce* padre, bool haVoci)
+    : Vista(copia, mittente) {
+    Crea(menu.sbarra, padre, haVoci);
+    azione_->setObjectName(Stato().nome);
+    for (const Nome nome : {Nome::Caption, Nome::Visible, Nome::Enabled, Nome::Checked})
+        Rinfresca(nome);
+    if (menu_)
+        QObject::connect(menu_, &QMenu::aboutToShow, menu_, [this, apertura = menu.apertura] {
+            apertura();
+            Manda(Fatto::Click);
+        });
+    else
+        QObject::connect(azione_, &QAction::triggered, azione_, [this] {
+            // It is the logic that checks; the click alone must not.
+            Rinfresca(Nome::Checked);
+            Manda(Fatto::Click);
+        });
+}
+
+void VistaVoce::Crea(QMenuBar& sbarra, VistaVoce* padre, bool haVoci) {
+    QWidget* sopra = padre ? static_cast<QWidget*>(padre->menu_) : &sbarra;
+    if (haVoci) {
+        menu_ = new QMenu(sopra);
+        azione_ = menu_->menuAction();
+    } else {
+        azione_ = new QAction(sopra);
+        azione_->setSeparator(Stato().caption.isEmpty());
+    }
+    sopra->addAction(azione_);
+}
+
+void VistaVoce::Rinfresca(Nome nome) {
+    switch (nome) {
+        case Nome::Caption: return azione_->setText(Stato().caption);
+        case Nome::Visible: return azione_->setVisible(Stato().visible);
+        case Nome::Enabled: return azione_->setEnabled(Stato().enabled);
+        case Nome::Checked:
+            // An entry that was never checked keeps no room for a mark.
+            if (Stato().checked) azione_->setCheckable(true);
+            return azione_->setChecked(Stato().checked);
+        default: return;
+    }
+}
+
+}  // namespace corvana

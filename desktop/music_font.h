@@ -1,0 +1,20 @@
+// Music signs as paths, from a music font of the system; drawn by hand where there is none.
+// GUI thread.
+#pragma once
+
+#include <QPainterPath>
+
+namespace corvana {
+
+enum class Segno { ChiaveViolino, ChiaveBasso };
+
+/// The sign for a staff whose lines are 1 apart: 0, 0 is the left end of its lowest line, y grows
+/// downwards. The sign begins at x = 0.
+QPainterPath TracciaSegno(Segno segno);
+/// The same without any font.
+QPainterPath TracciaSegnoAMano(Segno segno);
+
+/// A curly brace from 0, 0 down to 0, `altezza`, its point at -`larghezza`.
+QPainterPath TracciaGraffa(double altezza, double larghezza);
+
+}  // namespace corvana

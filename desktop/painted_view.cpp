@@ -1,0 +1,101 @@
+#include "desktop/painted_view.h"
+
+#include <QAbstractButton>
+#include <QKeyEvent>
+#include <QLabel>
+
+#include "desktop/icon_painter.h"
+
+namespace corvana {
+
+namespace {
+
+/// A widget that its view paints.
+template <class Base>
+class Dipinto : public Base {
+public:
+    Dipinto(VistaDipinta& vista, QWidget& padre) : Base(&padre), vista_(vista) {
+        this->setAttribute(Qt::WA_Hover);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter p(this);
+        vista_.Dipingi(p, QRectF(this->rect()), Tatto());
+    }
+    virtual Tocco Tatto() const {
+        return {this->underMouse(), false, this->hasFocus(), this->isEnabled()};
+    }
+
+private:
+    VistaDipinta& vista_;
+};
+
+class Premibile final : public Dipinto<QAbstractButton> {
+public:
+    Premibile(VistaDipinta& vista, QWidget& padre) : Dipinto(vista, padre) {
+        // Like any picture or label it leaves the focus where it is when the mouse clicks it.
+        setFocusPolicy(Qt::TabFocus);
+        setCursor(Qt::PointingHandCursor);
+    }
+
+protected:
+    Tocco Tatto() const override {
+        Tocco tocco = Dipinto::Tatto();
+        tocco.premuto = isDown();
+        return tocco;
+    }
+    void keyPressEvent(QKeyEvent* tasto) override {
+        const bool invio = tasto->key() == Qt::Key_Return || tasto->key() == Qt::Key_Enter;
+        if (invio)
+            click();
+        else
+            QAbstractButton::keyPressEvent(tasto);
+    }
+};
+
+}  // namespace
+
+VistaDipinta::VistaDipinta(const CopiaControllo& copia, Mittente mittente, QWidget& padre)
+    : Vista(copia, mittente) {
+    PonWidget(CreaWidget(padre));
+    VistaDipinta::Rinfresca(Nome::Caption);
+}
+
+bool VistaDipinta::Cliccabile() const {
+    return Origine().ascoltaClick;
+}
+
+QWidget& VistaDipinta::CreaWidget(QWidget& padre) {
+    if (Cliccabile()) {
+        auto* bottone = new Premibile(*this, padre);
+        QObject::connect(bottone, &QAbstractButton::clicked, bottone,
+                         [this] { Manda(Fatto::Click); });
+        return *bottone;
+    }
+    if (Origine().tipo == Genere::Etichetta) return *new Dipinto<QLabel>(*this, padre);
+    return *new Dipinto<QWidget>(*this, padre);
+}
+
+void VistaDipinta::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
+    DipingiFondo(p, area, Stato(), Scala(), tocco);
+    const bool finestra = Origine().tipo == Genere::Finestra;
+    if (!finestra) DipingiTesto(p, area, Stato(), Scala(), tocco.abilitato);
+    if (tocco.fuoco) DipingiAnello(p, area, Scala());
+}
+
+void VistaDipinta::Rinfresca(Nome nome) {
+    // The text stands in the widget for a screen reader; it is the painter that shows it.
+    if (nome == Nome::Caption)
+        if (auto* etichetta = qobject_cast<QLabel*>(Widget()))
+            etichetta->setText(SenzaAccesso(Stato().caption));
+    Vista::Rinfresca(nome);
+}
+
+void VistaIcona::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
+    DipingiFondo(p, area, Stato(), Scala(), tocco);
+    DipingiIcona(p, area, Stato().stile, tocco);
+    if (tocco.fuoco) DipingiAnello(p, area, Scala());
+}
+
+}  // namespace corvana

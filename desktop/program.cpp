@@ -1,0 +1,34 @@
+#include "desktop/program.h"
+
+#include "core/real_files.h"
+#include "core/single_instance.h"
+#include "core/startup.h"
+#include "desktop/application.h"
+#include "forms/real_clock.h"
+#include "trainer/corvana_main.h"
+
+namespace corvana {
+
+void EseguiProgramma(Applicazione& applicazione, const Macchina& macchina) {
+    OrologioReale orologio;
+    Pompa pompa(orologio, applicazione.Coda());
+    Dialoghi& dialoghi = applicazione.Riquadri();
+    Finestre finestre(pompa, dialoghi, &applicazione.Schermo());
+    FileReali file;
+    Impostazioni impostazioni(file, dialoghi, macchina.percorsoImpostazioni);
+    CasualeFisso casuale;
+    Globali globali;
+    globali.CartellaProgramma = macchina.cartellaProgramma;
+
+    const IstanzaUnica istanza(macchina.percorsoBlocco);
+    const auto uscite = macchina.uscite([&pompa] { return pompa.Adesso(); });
+    Suono suono(*uscite, pompa, dialoghi);
+    if (!istanza.AltraIstanza()) impostazioni.CreaSeManca();
+    const Ambiente ambiente{globali, pompa, finestre, dialoghi, suono, impostazioni, file, casuale};
+    CorvanaMainF principale(ambiente, {});
+    if (macchina.pronta) macchina.pronta(principale);
+    Main(ambiente, istanza.AltraIstanza(), [&] { finestre.Mostra(principale); });
+    finestre.Esegui();
+}
+
+}  // namespace corvana

@@ -1,0 +1,30 @@
+// Puts the logic together and runs it from the first window to the last. Logic thread.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "core/globals.h"
+#include "sound/platform_midi.h"
+
+namespace corvana {
+
+class Applicazione;
+class CorvanaMainF;
+
+/// What the program finds on the machine.
+struct Macchina {
+    std::string cartellaProgramma;     ///< where the language files and the cues lie
+    std::string percorsoImpostazioni;  ///< the settings' file
+    std::string percorsoBlocco;        ///< the lock that tells of another instance
+    /// Makes the outputs, given what tells the instant at which the logic stands.
+    std::function<std::unique_ptr<PiattaformaMidi>(std::function<double()>)> uscite;
+    /// Called with the main window before it is shown; may be empty.
+    std::function<void(CorvanaMainF&)> pronta = {};
+};
+
+/// Returns when the last window has closed.
+void EseguiProgramma(Applicazione& applicazione, const Macchina& macchina);
+
+}  // namespace corvana

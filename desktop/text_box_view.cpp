@@ -1,0 +1,107 @@
+#include "desktop/text_box_view.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPainter>
+
+#include "desktop/face_painter.h"
+#include "desktop/theme.h"
+
+namespace corvana {
+
+namespace {
+
+class Scrittura final : public QLineEdit {
+public:
+    Scrittura(const Vista& vista, QWidget& padre) : QLineEdit(&padre), vista_(vista) {
+        setFrame(false);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* evento) override {
+        Aspetto fondo = vista_.Stato();
+        if (fondo.fondo == coloreDiSistema && !fondo.locked) fondo.fondo = Rgb(255, 254, 251);
+        QPainter p(this);
+        DipingiFondo(p, QRectF(rect()), fondo, vista_.Scala(), {});
+        if (hasFocus()) DipingiAnello(p, QRectF(rect()), vista_.Scala());
+        p.end();
+        QLineEdit::paintEvent(evento);
+    }
+    void keyPressEvent(QKeyEvent* tasto) override {
+        const QString battuto = tasto->text();
+        if (battuto.isEmpty() || !battuto[0].isPrint()) return QLineEdit::keyPressEvent(tasto);
+        const QString preso = Filtrato(battuto, vista_.Origine().filtro);
+        if (preso == battuto) return QLineEdit::keyPressEvent(tasto);
+        if (!preso.isEmpty() && !isReadOnly()) Inserisci(preso);
+    }
+    void inputMethodEvent(QInputMethodEvent* evento) override {
+        QInputMethodEvent filtrato(evento->preeditString(), evento->attributes());
+        filtrato.setCommitString(Filtrato(evento->commitString(), vista_.Origine().filtro),
+                                 evento->replacementStart(), evento->replacementLength());
+        QLineEdit::inputMethodEvent(&filtrato);
+    }
+
+private:
+    /// As if that had been typed.
+    void Inserisci(const QString& testo) {
+        QKeyEvent altro(QEvent::KeyPress, 0, Qt::NoModifier, testo);
+        QLineEdit::keyPressEvent(&altro);
+    }
+
+    const Vista& vista_;
+};
+
+}  // namespace
+
+QString Filtrato(const QString& battuto, char32_t (*filtro)(char32_t)) {
+    if (!filtro) return battuto;
+    QList<uint> presi;
+    for (const uint carattere : battuto.toUcs4())
+        if (const char32_t preso = filtro(static_cast<char32_t>(carattere))) presi.append(preso);
+    QString preso;
+    for (const uint carattere : presi)
+        preso += QString::fromUcs4(reinterpret_cast<const char32_t*>(&carattere), 1);
+    return preso;
+}
+
+VistaCasella::VistaCasella(const CopiaControllo& copia, Mittente mittente, QWidget& padre)
+    : Vista(copia, mittente), casella_(new Scrittura(*this, padre)) {
+    PonWidget(*casella_);
+    if (copia.lunghezzaMassima > 0) casella_->setMaxLength(copia.lunghezzaMassima);
+    casella_->setReadOnly(Stato().locked);
+    casella_->setAlignment(Allineamento(Stato().stile) & Qt::AlignHorizontal_Mask);
+    PonColori();
+    PonTesto();
+    QObject::connect(casella_, &QLineEdit::textEdited, casella_, [this](const QString& testo) {
+        Evento evento;
+        evento.fatto = Fatto::Change;
+        evento.testo = testo.toStdString();
+        Manda(std::move(evento));
+    });
+}
+
+void VistaCasella::PonTesto() {
+    // Setting the same text again would move the cursor to its end.
+    if (casella_->text() != Stato().text) casella_->setText(Stato().text);
+}
+
+void VistaCasella::PonColori() {
+    QPalette colori = casella_->palette();
+    colori.setColor(QPalette::Base, Qt::transparent);
+    colori.setColor(QPalette::Text, InQt(Stato().penna, tinta::inchiostro));
+    casella_->setPalette(colori);
+}
+
+void VistaCasella::Rinfresca(Nome nome) {
+    if (nome == Nome::Text) PonTesto();
+    if (nome == Nome::Locked) casella_->setReadOnly(Stato().locked);
+    if (nome == Nome::ForeColor) PonColori();
+    Vista::Rinfresca(nome);
+}
+
+void VistaCasella::Riscala() {
+    casella_->setFont(Carattere(Stato().stile, Scala()));
+}
+
+}  // namespace corvana

@@ -1,0 +1,28 @@
+// Text boxes: the filter and the limit work at the keystroke. GUI thread.
+#pragma once
+
+#include "desktop/view.h"
+
+class QLineEdit;
+
+namespace corvana {
+
+/// The typed text as the filter leaves it; all of it without a filter. Pure.
+QString Filtrato(const QString& battuto, char32_t (*filtro)(char32_t));
+
+class VistaCasella final : public Vista {
+public:
+    VistaCasella(const CopiaControllo& copia, Mittente mittente, QWidget& padre);
+
+protected:
+    void Rinfresca(Nome nome) override;
+    void Riscala() override;
+
+private:
+    void PonTesto();
+    void PonColori();
+
+    QLineEdit* casella_;
+};
+
+}  // namespace corvana

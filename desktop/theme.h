@@ -1,0 +1,41 @@
+// The program's colours and letters, in one place. GUI thread.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QPalette>
+#include <QStringList>
+
+namespace corvana {
+
+namespace tinta {
+inline const QColor carta{0xFF, 0xFE, 0xFB};     ///< staves, boxes, lists
+inline const QColor finestra{0xF6, 0xF1, 0xE7};  ///< a window's ground
+inline const QColor pannello{0xFC, 0xF9, 0xF3};  ///< a frame on it
+inline const QColor filo{0xDC, 0xD2, 0xC0};      ///< thin lines around things
+inline const QColor filoForte{0xB9, 0xAC, 0x96};
+inline const QColor inchiostro{0x2B, 0x28, 0x24};
+inline const QColor inchiostroTenue{0x6A, 0x62, 0x56};
+inline const QColor spento{0xA8, 0x9F, 0x91};   ///< what can't be used now
+inline const QColor accento{0x1F, 0x6F, 0x78};  ///< focus, selection, thumbs
+inline const QColor accentoTenue{0xD6, 0xE8, 0xE6};
+inline const QColor bottone{0xFF, 0xFD, 0xF8};
+}  // namespace tinta
+
+QPalette TavolozzaDelProgramma();
+
+/// The typeface of everything but music, by the first family that the machine has.
+QString FamigliaDelTesto();
+
+/// The letters for the style words, `scala` times the designed size. "titolo", "cifra", "piccolo",
+/// "nome" change the size, "forte" the weight.
+QFont Carattere(const QStringList& stile, double scala);
+
+/// Where a text stands for the style words: "centro", "destra", "mezzo" (of the height).
+Qt::Alignment Allineamento(const QStringList& stile);
+
+/// One step towards dark or light, for what is pressed or lies under the pointer.
+QColor PiuScura(const QColor& colore, double quanto);
+QColor PiuChiara(const QColor& colore, double quanto);
+
+}  // namespace corvana

@@ -1,0 +1,180 @@
+#include "desktop/window_view.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QScreen>
+#include <QShortcut>
+#include <QWindow>
+#include <algorithm>
+#include <set>
+
+#include "desktop/keyboard.h"
+#include "desktop/painted_view.h"
+#include "desktop/staff_view.h"
+#include "desktop/theme.h"
+
+namespace corvana {
+
+namespace {
+/// Below this share of the designed size the letters couldn't be read.
+constexpr double scalaMinima = 0.8;
+}  // namespace
+
+/// The window itself: what the system does to it goes to its view.
+class Guscio final : public QMainWindow {
+public:
+    explicit Guscio(VistaFinestra& vista) : vista_(vista) {}
+
+protected:
+    void closeEvent(QCloseEvent* evento) override {
+        vista_.ChiediChiusura();
+        evento->ignore();
+    }
+    bool eventFilter(QObject* oggetto, QEvent* evento) override {
+        if (evento->type() == QEvent::Resize) vista_.Disponi();
+        return QMainWindow::eventFilter(oggetto, evento);
+    }
+
+private:
+    VistaFinestra& vista_;
+};
+
+namespace {
+
+void ApriPrimoMenu(QMenuBar& sbarra) {
+    const auto voci = sbarra.actions();
+    const auto prima = std::find_if(voci.begin(), voci.end(), [](const QAction* voce) {
+        return voce->isEnabled() && voce->isVisible();
+    });
+    if (prima != voci.end()) sbarra.setActiveAction(*prima);
+}
+
+std::set<int> Padri(const std::vector<CopiaControllo>& controlli) {
+    std::set<int> padri;
+    for (const CopiaControllo& c : controlli)
+        if (c.tipo == Genere::VoceMenu) padri.insert(c.padre);
+    return padri;
+}
+
+QWidget& CentroDi(QMainWindow& finestra) {
+    auto* centro = new QWidget(&finestra);
+    centro->setAutoFillBackground(true);
+    finestra.setCentralWidget(centro);
+    centro->installEventFilter(&finestra);
+    return *centro;
+}
+
+}  // namespace
+
+VistaFinestra::VistaFinestra(const MostraFinestra& comando, CodaEventi& coda, Tastiera& tastiera,
+                             VistaFinestra* sotto)
+    : identita_(comando.finestra),
+      mittente_(coda, comando.finestra),
+      finestra_(std::make_unique<Guscio>(*this)) {
+    CentroDi(*finestra_);
+    CreaTutti(comando.controlli, tastiera);
+    OrdinaFuoco();
+    Ridimensiona();
+    Apri(comando.modale, sotto);
+    tastiera.Segui(*finestra_->windowHandle(), mittente_);
+}
+
+VistaFinestra::~VistaFinestra() = default;
+
+void VistaFinestra::CreaTutti(const std::vector<CopiaControllo>& controlli, Tastiera& tastiera) {
+    const std::set<int> padri = Padri(controlli);
+    const bool conMenu = !padri.empty();
+    const Menu menu{*finestra_->menuBar(), [&tastiera] { tastiera.Perdi(); }};
+    menu.sbarra.setVisible(conMenu);
+    auto* effeDieci = new QShortcut(Qt::Key_F10, finestra_.get());
+    QObject::connect(effeDieci, &QShortcut::activated, &menu.sbarra,
+                     [&sbarra = menu.sbarra] { ApriPrimoMenu(sbarra); });
+    for (const CopiaControllo& copia : controlli)
+        Crea(copia, menu, padri.contains(copia.numero));
+    finestra_->setWindowTitle(viste_.front()->Stato().caption);
+    finestra_->setObjectName(viste_.front()->Stato().nome);
+}
+
+void VistaFinestra::Crea(const CopiaControllo& copia, const Menu& menu, bool haVoci) {
+    Vista* padre = Controllo(copia.padre);
+    if (copia.tipo == Genere::VoceMenu) {
+        viste_.push_back(std::make_unique<VistaVoce>(copia, mittente_, menu,
+                                                     dynamic_cast<VistaVoce*>(padre), haVoci));
+        return;
+    }
+    QWidget* dove = padre ? padre->Contenitore() : nullptr;
+    viste_.push_back(
+        CreaVista(copia, mittente_, dove ? *dove : *finestra_->centralWidget(), pentagramma_));
+    if (auto* staff = dynamic_cast<VistaPentagramma*>(viste_.back().get())) pentagramma_ = staff;
+}
+
+Vista* VistaFinestra::Controllo(int numero) {
+    const auto indice = static_cast<std::size_t>(numero);
+    return numero >= 0 && indice < viste_.size() ? viste_[indice].get() : nullptr;
+}
+
+void VistaFinestra::OrdinaFuoco() {
+    QWidget* prima = nullptr;
+    for (const auto& vista : viste_) {
+        QWidget* widget = vista->Widget();
+        if (!widget || widget->focusPolicy() == Qt::NoFocus) continue;
+        if (prima) QWidget::setTabOrder(prima, widget);
+        prima = widget;
+    }
+}
+
+QSize VistaFinestra::Disegnata() const {
+    const QRect twips = viste_.front()->Stato().Twips();
+    return InPixel({0, 0, twips.width(), twips.height()}, 1).size();
+}
+
+void VistaFinestra::Ridimensiona() {
+    const int sbarra =
+        finestra_->menuBar()->isHidden() ? 0 : finestra_->menuBar()->sizeHint().height();
+    finestra_->centralWidget()->setMinimumSize(Disegnata() * scalaMinima);
+    const QSize schermo = finestra_->screen()->availableSize();
+    finestra_->resize((Disegnata() + QSize(0, sbarra)).boundedTo(schermo));
+}
+
+void VistaFinestra::Disponi() {
+    const QSize disegnata = Disegnata();
+    if (disegnata.isEmpty()) return;
+    const QSize spazio = finestra_->centralWidget()->size();
+    scala_ = std::min(static_cast<double>(spazio.width()) / disegnata.width(),
+                      static_cast<double>(spazio.height()) / disegnata.height());
+    for (std::size_t i = 1; i < viste_.size(); ++i)
+        viste_[i]->Disponi(scala_);
+    QSize faccia(qRound(disegnata.width() * scala_), qRound(disegnata.height() * scala_));
+    QRect posto(QPoint(), faccia);
+    posto.moveCenter(QRect(QPoint(), spazio).center());
+    viste_.front()->Disponi(scala_);
+    viste_.front()->Widget()->setGeometry(posto);
+}
+
+void VistaFinestra::Apri(bool modale, VistaFinestra* sotto) {
+    Disponi();
+    if (modale) finestra_->setWindowModality(Qt::ApplicationModal);
+    finestra_->winId();
+    if (sotto) finestra_->windowHandle()->setTransientParent(sotto->finestra_->windowHandle());
+    finestra_->show();
+    finestra_->raise();
+    finestra_->activateWindow();
+}
+
+void VistaFinestra::Cambia(int numero, Nome nome, const Valore& valore) {
+    Vista* vista = Controllo(numero);
+    if (!vista) return;
+    const bool misura = nome == Nome::Width || nome == Nome::Height;
+    vista->Cambia(nome, valore);
+    if (numero != 0) return;
+    if (nome == Nome::Caption) finestra_->setWindowTitle(vista->Stato().caption);
+    if (misura) Ridimensiona();
+    Disponi();
+}
+
+void VistaFinestra::DaiFuoco(int numero) {
+    Vista* vista = Controllo(numero);
+    if (vista && vista->Widget()) vista->Widget()->setFocus(Qt::OtherFocusReason);
+}
+
+}  // namespace corvana

@@ -1,0 +1,55 @@
+// One showing of a form as a real window: its menu bar, and its controls on a face that grows with
+// the window. GUI thread. Closing it only asks the logic, which closes it by destroying this.
+#pragma once
+
+#include <QMainWindow>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "desktop/menu_view.h"
+#include "desktop/view.h"
+
+namespace corvana {
+
+class Tastiera;
+
+class VistaFinestra {
+public:
+    /// `sotto` is the window beneath a modal one, or null.
+    VistaFinestra(const MostraFinestra& comando, CodaEventi& coda, Tastiera& tastiera,
+                  VistaFinestra* sotto);
+    VistaFinestra(const VistaFinestra&) = delete;
+    VistaFinestra& operator=(const VistaFinestra&) = delete;
+    ~VistaFinestra();
+
+    std::uint32_t Identita() const { return identita_; }
+    QMainWindow& Finestra() { return *finestra_; }
+    /// The face of the control of that number, or null.
+    Vista* Controllo(int numero);
+
+    void Cambia(int numero, Nome nome, const Valore& valore);
+    void DaiFuoco(int numero);
+    void ChiediChiusura() const { mittente_.Manda(0, Fatto::Chiudi); }
+
+private:
+    friend class Guscio;
+    void Crea(const CopiaControllo& copia, const Menu& menu, bool haVoci);
+    void CreaTutti(const std::vector<CopiaControllo>& controlli, Tastiera& tastiera);
+    void OrdinaFuoco();
+    void Apri(bool modale, VistaFinestra* sotto);
+    /// The face as large as the window lets it be, in its middle.
+    void Disponi();
+    void Ridimensiona();
+    QSize Disegnata() const;
+
+    const std::uint32_t identita_;
+    Mittente mittente_;
+    // The widgets must go first: some still tell their views that they lose the focus.
+    std::vector<std::unique_ptr<Vista>> viste_;
+    class VistaPentagramma* pentagramma_ = nullptr;
+    std::unique_ptr<QMainWindow> finestra_;
+    double scala_ = 1;
+};
+
+}  // namespace corvana

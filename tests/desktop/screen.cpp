@@ -1,0 +1,83 @@
+#include "tests/desktop/screen.h"
+
+#include <QAction>
+#include <QTest>
+#include <QWindow>
+#include <stdexcept>
+
+namespace corvana::prova {
+
+namespace {
+
+constexpr int pazienza = 30'000;  ///< milliseconds; a busy machine never comes near it
+
+VistaFinestra& Davanti(Scrivania& scrivania) {
+    VistaFinestra* davanti = scrivania.Davanti();
+    if (!davanti) throw std::logic_error("no window stands in front");
+    return *davanti;
+}
+
+std::logic_error Manca(const QString& nome) {
+    return std::logic_error("the window has no " + nome.toStdString());
+}
+
+}  // namespace
+
+bool Aspetta(const std::function<bool()>& condizione) {
+    return QTest::qWaitFor(condizione, pazienza);
+}
+
+QWidget& Trova(Scrivania& scrivania, const QString& nome) {
+    auto* widget = Davanti(scrivania).Finestra().findChild<QWidget*>(nome);
+    if (!widget) throw Manca(nome);
+    return *widget;
+}
+
+QAction& TrovaVoce(Scrivania& scrivania, const QString& nome) {
+    auto* voce = Davanti(scrivania).Finestra().findChild<QAction*>(nome);
+    if (!voce) throw Manca(nome);
+    return *voce;
+}
+
+VistaFinestra& AspettaFinestra(Scrivania& scrivania, const QString& nome) {
+    const bool venuta = Aspetta([&] {
+        VistaFinestra* davanti = scrivania.Davanti();
+        return davanti && davanti->Finestra().objectName() == nome &&
+               davanti->Finestra().isActiveWindow();
+    });
+    if (!venuta) throw Manca(nome);
+    return Davanti(scrivania);
+}
+
+void Clicca(Scrivania& scrivania, const QString& nome) {
+    QWidget& widget = Trova(scrivania, nome);
+    Clicca(widget, widget.rect().center());
+}
+
+void Clicca(QWidget& widget, QPoint dove) {
+    QWindow* finestra = widget.window()->windowHandle();
+    QTest::mouseClick(finestra, Qt::LeftButton, {}, widget.mapTo(widget.window(), dove));
+}
+
+void Premi(Scrivania& scrivania, Qt::Key tasto, Qt::KeyboardModifiers modificatori) {
+    QTest::keyPress(Davanti(scrivania).Finestra().windowHandle(), tasto, modificatori);
+}
+
+void Lascia(Scrivania& scrivania, Qt::Key tasto, Qt::KeyboardModifiers modificatori) {
+    QTest::keyRelease(Davanti(scrivania).Finestra().windowHandle(), tasto, modificatori);
+}
+
+void Batti(Scrivania& scrivania, Qt::Key tasto, Qt::KeyboardModifiers modificatori) {
+    Premi(scrivania, tasto, modificatori);
+    Lascia(scrivania, tasto, modificatori);
+}
+
+QImage Fotografa(Scrivania& scrivania) {
+    return Fotografa(Davanti(scrivania).Finestra());
+}
+
+QImage Fotografa(QWidget& widget) {
+    return widget.grab().toImage();
+}
+
+}  // namespace corvana::prova

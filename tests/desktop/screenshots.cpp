@@ -1,0 +1,90 @@
+// Shows the real main window in its states and writes what it looks like: to be looked at by a
+// person. Usage: corvana_screenshots FOLDER DATA
+#include <QApplication>
+#include <QDir>
+#include <QMenu>
+#include <QTemporaryDir>
+
+#include "desktop/application.h"
+#include "desktop/program.h"
+#include "sound/recorder.h"
+#include "tests/desktop/screen.h"
+#include "trainer/corvana_main.h"
+
+namespace {
+
+using namespace corvana;
+using namespace corvana::prova;
+
+class Servizio {
+public:
+    Servizio(Scrivania& scrivania, QString cartella)
+        : scrivania_(scrivania), cartella_(std::move(cartella)) {}
+
+    void Scatta(const QString& nome) { Salva(Fotografa(scrivania_), nome); }
+    void Salva(const QImage& foto, const QString& nome) const {
+        foto.save(QDir(cartella_).filePath(nome + QStringLiteral(".png")));
+    }
+    QWidget& Di(const char* nome) { return Trova(scrivania_, QString::fromUtf8(nome)); }
+    void Scegli(const char* voce) {
+        TrovaVoce(scrivania_, QString::fromUtf8(voce)).trigger();
+        Respira();
+    }
+    void Premi(const char* nome) { Clicca(scrivania_, QString::fromUtf8(nome)); }
+    bool Pronto() {
+        return Aspetta([this] { return Di("Start").isEnabled(); });
+    }
+    /// Lets what was asked for come to the screen.
+    void Respira() {
+        bool passato = false;
+        Aspetta([&] { return std::exchange(passato, true); });
+    }
+
+private:
+    Scrivania& scrivania_;
+    QString cartella_;
+};
+
+void FotografaTutto(Servizio& s) {
+    s.Pronto();
+    s.Scatta("idle");
+    s.Premi("lblMn");
+    s.Premi("Start");
+    Aspetta([&] { return !s.Di("Regolo").isVisible(); });
+    for (const char* nome : {"pdo", "pre", "pmi", "pfa", "psol", "pla", "psi", "pdo"})
+        s.Premi(nome);
+    s.Respira();
+    s.Scatta("running");
+    s.Premi("Start");
+    Aspetta([&] { return s.Di("frmRisultati").isVisible(); });
+    s.Scatta("results");
+    s.Scegli("mnuAutomatico");
+    Aspetta([&] { return s.Di("Slider1").isVisible(); });
+    s.Scatta("automatic");
+}
+
+Macchina MacchinaDiProva(const QString& dati, const QString& stato) {
+    Macchina macchina;
+    macchina.cartellaProgramma = dati.toStdString();
+    macchina.percorsoImpostazioni = (stato + "/settings").toStdString();
+    macchina.percorsoBlocco = (stato + "/lock").toStdString();
+    macchina.uscite = [](std::function<double()> istante) {
+        return std::make_unique<Registratore>(std::move(istante));
+    };
+    return macchina;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    Applicazione applicazione(argc, argv);
+    const QTemporaryDir stato;
+    const Macchina macchina = MacchinaDiProva(QString::fromLocal8Bit(argv[2]), stato.path());
+    Scrivania& scrivania = applicazione.LaScrivania();
+    scrivania.Avvia([&] { EseguiProgramma(applicazione, macchina); });
+    AspettaFinestra(scrivania, "CorvanaMainF");
+    Servizio servizio(scrivania, QString::fromLocal8Bit(argv[1]));
+    FotografaTutto(servizio);
+    scrivania.Termina();
+    return 0;
+}

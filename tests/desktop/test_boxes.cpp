@@ -1,0 +1,88 @@
+#include <gtest/gtest.h>
+
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "tests/desktop/stage.h"
+
+namespace corvana::prova {
+namespace {
+
+QMessageBox& Messaggio(Palco& palco) {
+    if (!Aspetta(
+            [&] { return palco.scrivania.Riquadro() && palco.scrivania.Riquadro()->isVisible(); }))
+        throw std::logic_error("no box came");
+    return dynamic_cast<QMessageBox&>(*palco.scrivania.Riquadro());
+}
+
+TEST(Riquadri, AMessageHoldsTheLogicAndNotTheWindows) {
+    Palco palco;
+    palco.Ordina([](FormDiProva& form) {
+        form.dialoghi.MsgBox("Errore\r\nuno");
+        form.scritta.Caption = "dopo";
+    });
+    QMessageBox& box = Messaggio(palco);
+    EXPECT_EQ(box.text(), "Errore\nuno");
+    EXPECT_EQ(box.windowTitle(), "Corvana");
+    EXPECT_EQ(Trova(palco.scrivania, "scritta").accessibleName(), "Una scritta");
+    box.button(QMessageBox::Ok)->click();
+    EXPECT_TRUE(
+        Aspetta([&] { return Trova(palco.scrivania, "scritta").accessibleName() == "dopo"; }));
+}
+
+TEST(Riquadri, AQuestionIsTrueForYesAlone) {
+    for (const auto tasto : {QMessageBox::Yes, QMessageBox::No}) {
+        Palco palco;
+        palco.Ordina([](FormDiProva& form) {
+            form.scritta.Caption = form.dialoghi.Domanda("Salvare?") ? "si" : "no";
+        });
+        Messaggio(palco).button(tasto)->click();
+        const QString attesa = tasto == QMessageBox::Yes ? "si" : "no";
+        EXPECT_TRUE(
+            Aspetta([&] { return Trova(palco.scrivania, "scritta").accessibleName() == attesa; }));
+    }
+}
+
+void ChiediNome(FormDiProva& form) {
+    const auto nome = form.dialoghi.InputBox("Nome?", "Voce", "canto");
+    form.scritta.Caption = nome ? "[" + *nome + "]" : "niente";
+}
+
+TEST(Riquadri, AnInputBoxGivesItsTextOrNothing) {
+    for (const bool accettato : {true, false}) {
+        Palco palco;
+        palco.Ordina(ChiediNome);
+        ASSERT_TRUE(Aspetta([&] { return palco.scrivania.Riquadro() != nullptr; }));
+        auto& box = dynamic_cast<QInputDialog&>(*palco.scrivania.Riquadro());
+        EXPECT_EQ(box.textValue(), "canto");
+        EXPECT_EQ(box.windowTitle(), "Voce");
+        box.setTextValue("basso");
+        accettato ? box.accept() : box.reject();
+        const QString attesa = accettato ? "[basso]" : "niente";
+        EXPECT_TRUE(
+            Aspetta([&] { return Trova(palco.scrivania, "scritta").accessibleName() == attesa; }));
+    }
+}
+
+TEST(Riquadri, AQuitWhileABoxIsOpenLetsTheLogicGo) {
+    Palco palco;
+    palco.Ordina([](FormDiProva& form) { form.dialoghi.MsgBox("Aspetto"); });
+    Messaggio(palco);
+    palco.scrivania.Termina();
+    EXPECT_TRUE(palco.scrivania.Finita());
+}
+
+TEST(Riquadri, ABoxBeforeAnyWindowIsAnsweredAsWell) {
+    Scrivania scrivania;
+    bool risposto = false;
+    scrivania.Avvia([&] { risposto = scrivania.Riquadri().Domanda("Prima?"); });
+    ASSERT_TRUE(Aspetta([&] { return scrivania.Riquadro() != nullptr; }));
+    dynamic_cast<QMessageBox&>(*scrivania.Riquadro()).button(QMessageBox::Yes)->click();
+    ASSERT_TRUE(Aspetta([&] { return scrivania.Finita(); }));
+    scrivania.Termina();
+    EXPECT_TRUE(risposto);
+}
+
+}  // namespace
+}  // namespace corvana::prova

@@ -1,0 +1,109 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QCheckBox>
+#include <QTest>
+#include <QWindow>
+
+#include "tests/desktop/stage.h"
+
+namespace corvana::prova {
+namespace {
+
+void FaiDoppioClick(Scrivania& scrivania, const QString& nome) {
+    QWidget& widget = Trova(scrivania, nome);
+    QWindow* finestra = widget.window()->windowHandle();
+    const QPoint dove = widget.mapTo(widget.window(), widget.rect().center());
+    QTest::mousePress(finestra, Qt::LeftButton, {}, dove);
+    QTest::mouseRelease(finestra, Qt::LeftButton, {}, dove);
+    QTest::mousePress(finestra, Qt::LeftButton, {}, dove);
+    QTest::mouseRelease(finestra, Qt::LeftButton, {}, dove);
+}
+
+TEST(Bottone, AClickIsDownUpClick) {
+    Palco palco;
+    Clicca(palco.scrivania, "bottone");
+    EXPECT_EQ(palco.Diario(), (Righe{"bottone giu", "bottone su", "bottone click"}));
+}
+
+TEST(Bottone, TwoQuickClicksAreTwoClicks) {
+    Palco palco;
+    FaiDoppioClick(palco.scrivania, "bottone");
+    EXPECT_EQ(palco.Diario(), (Righe{"bottone giu", "bottone su", "bottone click", "bottone giu",
+                                     "bottone su", "bottone click"}));
+}
+
+TEST(Bottone, ADisabledOneTellsNothing) {
+    Palco palco([](FormDiProva& form) { form.bottone.Enabled = false; });
+    EXPECT_FALSE(Trova(palco.scrivania, "bottone").isEnabled());
+    Clicca(palco.scrivania, "bottone");
+    EXPECT_EQ(palco.Diario(), Righe{});
+}
+
+TEST(Bottone, OneInADisabledFrameIsDisabledWithIt) {
+    Palco palco;
+    palco.NellaLogica([](FormDiProva& form) { form.cornice.Enabled = false; });
+    EXPECT_FALSE(Trova(palco.scrivania, "dentro").isEnabled());
+    palco.NellaLogica([](FormDiProva& form) { form.cornice.Visible = false; });
+    EXPECT_FALSE(Trova(palco.scrivania, "dentro").isVisible());
+}
+
+TEST(Bottone, ItsColourIsTheControls) {
+    Palco palco;
+    palco.NellaLogica([](FormDiProva& form) { form.bottone.BackColor = Rgb(10, 200, 30); });
+    QWidget& bottone = Trova(palco.scrivania, "bottone");
+    const QImage foto = Fotografa(bottone);
+    EXPECT_EQ(foto.pixelColor(12, foto.height() / 2), QColor(10, 200, 30));
+}
+
+TEST(Bottone, TheAccessKeyOfItsCaptionPushesIt) {
+    Palco palco;
+    Batti(palco.scrivania, Qt::Key_V, Qt::AltModifier);
+    EXPECT_EQ(palco.Diario().back(), "bottone click");
+}
+
+TEST(Etichetta, ADoubleClickIsDownUpClickDoubleClickUp) {
+    Palco palco;
+    FaiDoppioClick(palco.scrivania, "toccabile");
+    EXPECT_EQ(palco.Diario(), (Righe{"toccabile giu", "toccabile su", "toccabile click",
+                                     "toccabile doppio", "toccabile su"}));
+}
+
+TEST(Etichetta, OneThatCanBeClickedIsAButtonToTheKeyboardAndToAScreenReader) {
+    Palco palco;
+    QWidget& toccabile = Trova(palco.scrivania, "toccabile");
+    EXPECT_TRUE(toccabile.focusPolicy() & Qt::TabFocus);
+    const auto* accessibile = QAccessible::queryAccessibleInterface(&toccabile);
+    ASSERT_TRUE(accessibile);
+    EXPECT_EQ(accessibile->role(), QAccessible::Button);
+    EXPECT_EQ(accessibile->text(QAccessible::Name), "Mostra il nome");
+    toccabile.setFocus();
+    Batti(palco.scrivania, Qt::Key_Space);
+    EXPECT_EQ(palco.Diario(), (Righe{"giu 32", "su 32", "toccabile click"}));
+}
+
+TEST(Etichetta, APlainOneIsTextToAScreenReaderAndNoStopOfTheTabKey) {
+    Palco palco;
+    QWidget& scritta = Trova(palco.scrivania, "scritta");
+    const auto* accessibile = QAccessible::queryAccessibleInterface(&scritta);
+    ASSERT_TRUE(accessibile);
+    EXPECT_EQ(accessibile->role(), QAccessible::StaticText);
+    EXPECT_EQ(accessibile->text(QAccessible::Name), "Una scritta");
+    EXPECT_EQ(scritta.focusPolicy(), Qt::NoFocus);
+}
+
+TEST(Spunta, AClickTellsItsNewStateAndTheLogicCanSetItSilently) {
+    Palco palco;
+    auto& spunta = dynamic_cast<QCheckBox&>(Trova(palco.scrivania, "spunta"));
+    spunta.click();
+    EXPECT_EQ(palco.Diario(), (Righe{"spunta click"}));
+    palco.NellaLogica([](FormDiProva& form) {
+        EXPECT_TRUE(form.spunta.Value());
+        form.spunta.Value = false;
+    });
+    EXPECT_FALSE(spunta.isChecked());
+    EXPECT_EQ(palco.Diario(), Righe{});
+}
+
+}  // namespace
+}  // namespace corvana::prova

@@ -1,0 +1,107 @@
+#include <gtest/gtest.h>
+
+#include <QMainWindow>
+#include <QTest>
+#include <QWindow>
+
+#include "tests/desktop/stage.h"
+
+namespace corvana::prova {
+namespace {
+
+TEST(Scrivania, AWindowShowsItsTitleAtItsDesignedSize) {
+    Palco palco;
+    QMainWindow& finestra = palco.scrivania.Davanti()->Finestra();
+    EXPECT_EQ(finestra.windowTitle(), "Prova");
+    EXPECT_EQ(finestra.centralWidget()->size(), QSize(780, 320));
+    palco.NellaLogica([](FormDiProva& form) { form.Caption = "Altra"; });
+    EXPECT_EQ(finestra.windowTitle(), "Altra");
+}
+
+TEST(Scrivania, ClosingAWindowOnlyAsksTheLogic) {
+    Palco palco;
+    palco.NellaLogica([](FormDiProva& form) { form.chiudibile = false; });
+    palco.scrivania.Davanti()->Finestra().close();
+    EXPECT_EQ(palco.Diario(), (Righe{"unload"}));
+    EXPECT_TRUE(palco.scrivania.Davanti()->Finestra().isVisible());
+}
+
+TEST(Scrivania, AnAcceptedCloseEndsTheLogic) {
+    Palco palco;
+    palco.scrivania.Davanti()->Finestra().close();
+    EXPECT_TRUE(Aspetta([&] { return palco.scrivania.Finita(); }));
+    EXPECT_FALSE(palco.scrivania.Davanti());
+}
+
+TEST(Scrivania, AModalWindowLocksTheOneBeneathAndGivesItBack) {
+    Palco palco;
+    QWindow* sotto = palco.scrivania.Davanti()->Finestra().windowHandle();
+    palco.Ordina([](FormDiProva& form) {
+        form.finestre.MostraModale(form.sopra);
+        form.scritta.Caption = "tornato";
+    });
+    QMainWindow& sopra = AspettaFinestra(palco.scrivania, "FormSopra").Finestra();
+    EXPECT_TRUE(sopra.isModal());
+    EXPECT_EQ(sopra.windowHandle()->transientParent(), sotto);
+    Clicca(palco.scrivania, "ok");
+    AspettaFinestra(palco.scrivania, "FormDiProva");
+    EXPECT_TRUE(
+        Aspetta([&] { return Trova(palco.scrivania, "scritta").accessibleName() == "tornato"; }));
+}
+
+TEST(Scrivania, TenChangesCostOneRepaint) {
+    struct Conta : QObject {
+        int dipinti = 0;
+        bool eventFilter(QObject*, QEvent* evento) override {
+            if (evento->type() == QEvent::Paint) ++dipinti;
+            return false;
+        }
+    };
+    Palco palco;
+    QWidget& scritta = Trova(palco.scrivania, "scritta");
+    Conta conta;
+    scritta.installEventFilter(&conta);
+    palco.NellaLogica([](FormDiProva& form) {
+        for (int i = 0; i < 10; ++i)
+            form.scritta.Caption = "volta " + std::to_string(i);
+    });
+    ASSERT_TRUE(Aspetta([&] { return conta.dipinti > 0; }));
+    EXPECT_EQ(conta.dipinti, 1);
+    EXPECT_EQ(scritta.accessibleName(), "volta 9");
+}
+
+TEST(Scrivania, TheFocusGoesWhereTheLogicWantsIt) {
+    Palco palco;
+    palco.NellaLogica([](FormDiProva& form) { form.secondo.SetFocus(); });
+    EXPECT_TRUE(Trova(palco.scrivania, "secondo").hasFocus());
+}
+
+TEST(Scrivania, TheTabKeyGoesInTheOrderOfTheControlsAndSkipsPlainLabels) {
+    Palco palco;
+    Trova(palco.scrivania, "toccabile").setFocus();
+    for (const char* prossimo :
+         {"bottone", "secondo", "casella", "lista", "barra", "ritta", "spunta", "dentro"}) {
+        Batti(palco.scrivania, Qt::Key_Tab);
+        EXPECT_TRUE(Trova(palco.scrivania, prossimo).hasFocus()) << prossimo;
+    }
+}
+
+TEST(Scrivania, AnExceptionOfTheLogicIsTheProcesssFailure) {
+    Scrivania scrivania;
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(scrivania.Esegui([] { throw std::runtime_error("rotto"); }), 1);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("rotto"), std::string::npos);
+    Scrivania altra;
+    EXPECT_EQ(altra.Esegui([] {}), 0);
+}
+
+TEST(Scrivania, ARequestToEndClosesEveryWindowFromTheFrontBack) {
+    Palco palco;
+    palco.Ordina([](FormDiProva& form) { form.finestre.MostraModale(form.sopra); });
+    AspettaFinestra(palco.scrivania, "FormSopra");
+    palco.scrivania.ChiediUscita();
+    EXPECT_TRUE(Aspetta([&] { return palco.scrivania.Finita(); }));
+}
+
+}  // namespace
+}  // namespace corvana::prova

@@ -1,0 +1,74 @@
+#include <gtest/gtest.h>
+
+#include <QListWidget>
+
+#include "tests/desktop/stage.h"
+
+namespace corvana::prova {
+namespace {
+
+QListWidget& ListaDi(Palco& palco) {
+    return dynamic_cast<QListWidget&>(Trova(palco.scrivania, "lista"));
+}
+
+void CliccaRiga(QListWidget& lista, int riga) {
+    Clicca(*lista.viewport(), lista.visualItemRect(lista.item(riga)).center());
+}
+
+TEST(Lista, ClickingARowSelectsItAndTellsIt) {
+    Palco palco;
+    CliccaRiga(ListaDi(palco), 3);
+    EXPECT_EQ(palco.Diario(), (Righe{"lista click"}));
+    palco.NellaLogica([](FormDiProva& form) { EXPECT_EQ(form.lista.ListIndex(), 3); });
+}
+
+TEST(Lista, ClickingTheSelectedRowIsAClickToo) {
+    Palco palco;
+    CliccaRiga(ListaDi(palco), 1);
+    palco.Diario();
+    CliccaRiga(ListaDi(palco), 1);
+    EXPECT_FALSE(palco.Diario().empty());
+}
+
+TEST(Lista, TheArrowKeysSelect) {
+    Palco palco;
+    palco.NellaLogica([](FormDiProva& form) { form.lista.ListIndex = 0; });
+    ListaDi(palco).setFocus();
+    Batti(palco.scrivania, Qt::Key_Down);
+    EXPECT_EQ(palco.Diario(), (Righe{"giu 40", "lista click", "su 40"}));
+    EXPECT_EQ(ListaDi(palco).currentRow(), 1);
+}
+
+TEST(Lista, ASelectionByTheLogicIsShownAndNotToldBack) {
+    Palco palco;
+    palco.NellaLogica([](FormDiProva& form) { form.lista.ListIndex = 4; });
+    EXPECT_EQ(ListaDi(palco).currentRow(), 4);
+    palco.NellaLogica([](FormDiProva& form) { form.lista.ListIndex = -1; });
+    EXPECT_EQ(ListaDi(palco).currentRow(), -1);
+    EXPECT_EQ(palco.Diario(), Righe{});
+}
+
+TEST(Lista, LettersDontSearchTheRows) {
+    Palco palco;
+    ListaDi(palco).setFocus();
+    Batti(palco.scrivania, Qt::Key_F);
+    EXPECT_EQ(palco.Diario(), (Righe{"giu 70", "su 70"}));
+    EXPECT_EQ(ListaDi(palco).currentRow(), -1);
+}
+
+TEST(Lista, NewRowsKeepTheSelection) {
+    Palco palco;
+    palco.NellaLogica([](FormDiProva& form) {
+        form.lista.ListIndex = 1;
+        form.lista.PonRiga(1, "D");
+        form.lista.AddItem("Sol");
+    });
+    EXPECT_EQ(ListaDi(palco).count(), 6);
+    EXPECT_EQ(ListaDi(palco).item(1)->text(), "D");
+    EXPECT_EQ(ListaDi(palco).currentRow(), 1);
+    palco.NellaLogica([](FormDiProva& form) { form.lista.Clear(); });
+    EXPECT_EQ(ListaDi(palco).count(), 0);
+}
+
+}  // namespace
+}  // namespace corvana::prova

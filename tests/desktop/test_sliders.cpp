@@ -1,0 +1,78 @@
+#include <gtest/gtest.h>
+
+#include <QSlider>
+#include <QStyleOptionSlider>
+#include <QTest>
+#include <QWheelEvent>
+#include <QWindow>
+
+#include "tests/desktop/stage.h"
+
+namespace corvana::prova {
+namespace {
+
+QSlider& BarraDi(Palco& palco, const char* nome = "barra") {
+    return dynamic_cast<QSlider&>(Trova(palco.scrivania, nome));
+}
+
+QPoint Pollice(QSlider& barra) {
+    QStyleOptionSlider opzioni;
+    opzioni.initFrom(&barra);
+    opzioni.orientation = barra.orientation();
+    opzioni.minimum = barra.minimum();
+    opzioni.maximum = barra.maximum();
+    opzioni.sliderPosition = opzioni.sliderValue = barra.value();
+    opzioni.subControls = QStyle::SC_All;
+    return barra.style()
+        ->subControlRect(QStyle::CC_Slider, &opzioni, QStyle::SC_SliderHandle, &barra)
+        .center();
+}
+
+TEST(Barra, DraggingTheThumbScrollsAndLettingGoChanges) {
+    Palco palco;
+    QSlider& barra = BarraDi(palco);
+    const QPoint da = Pollice(barra);
+    QTest::mousePress(&barra, Qt::LeftButton, {}, da);
+    QTest::mouseMove(&barra, da + QPoint(20, 0));
+    EXPECT_EQ(palco.Diario(), (Righe{"barra scroll"}));
+    QTest::mouseRelease(&barra, Qt::LeftButton, {}, da + QPoint(20, 0));
+    EXPECT_EQ(palco.Diario(), (Righe{"barra change"}));
+    palco.NellaLogica([](FormDiProva& form) { EXPECT_GT(form.barra.Value(), 30); });
+}
+
+TEST(Barra, TouchingTheThumbWithoutMovingItChangesNothing) {
+    Palco palco;
+    QTest::mouseClick(&BarraDi(palco), Qt::LeftButton, {}, Pollice(BarraDi(palco)));
+    EXPECT_EQ(palco.Diario(), Righe{});
+}
+
+TEST(Barra, KeysChangeItByOneAndByThePage) {
+    Palco palco;
+    BarraDi(palco).setFocus();
+    Batti(palco.scrivania, Qt::Key_Right);
+    Batti(palco.scrivania, Qt::Key_PageUp);
+    EXPECT_EQ(palco.Diario(),
+              (Righe{"giu 39", "barra change", "su 39", "giu 33", "barra change", "su 33"}));
+    EXPECT_EQ(BarraDi(palco).value(), 41);
+}
+
+TEST(Barra, AValueOfTheLogicIsShownAndNotToldBack) {
+    Palco palco;
+    palco.NellaLogica([](FormDiProva& form) { form.barra.Value = 77; });
+    EXPECT_EQ(BarraDi(palco).value(), 77);
+    EXPECT_EQ(palco.Diario(), Righe{});
+}
+
+TEST(Barra, ATallOneIsUprightWithItsSmallestValueOnTop) {
+    Palco palco;
+    QSlider& ritta = BarraDi(palco, "ritta");
+    EXPECT_EQ(ritta.orientation(), Qt::Vertical);
+    EXPECT_TRUE(ritta.invertedAppearance());
+    ritta.setFocus();
+    Batti(palco.scrivania, Qt::Key_Down);
+    EXPECT_EQ(ritta.value(), 1);
+    EXPECT_EQ(BarraDi(palco).orientation(), Qt::Horizontal);
+}
+
+}  // namespace
+}  // namespace corvana::prova
