@@ -30,6 +30,9 @@ install_missing() {
 build() {
     local preset=$1
     shift
-    [ -e "build/$preset/build.ninja" ] || cmake --preset "$preset" >/dev/null
+    if [ ! -e "build/$preset/build.ninja" ]; then
+        echo "Building ($preset): the first time takes a few minutes."
+        cmake --preset "$preset" >/dev/null
+    fi
     cmake --build --preset "$preset" ${1:+--target "$@"} -- --quiet
 }

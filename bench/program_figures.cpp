@@ -1,0 +1,111 @@
+// The program as a whole, from outside: start to painted window, memory, processor use at rest.
+// Usage: bench_program PROGRAM, on an X screen on which nothing else shows.
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPixmap>
+#include <QProcess>
+#include <QScreen>
+#include <QThread>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
+
+#include "bench/figures.h"
+
+namespace {
+
+using namespace corvana;
+
+constexpr int avvii = 5;
+
+/// A window stands on the black screen and its face is painted.
+bool Dipinta() {
+    const QImage schermo = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
+    int chiari = 0;
+    for (int y = 0; y < schermo.height(); y += 16)
+        for (int x = 0; x < schermo.width(); x += 16)
+            if (qGray(schermo.pixel(x, y)) > 40) ++chiari;
+    return chiari > 300;
+}
+
+class Programma {
+public:
+    explicit Programma(const QString& percorso) {
+        tempo_.start();
+        processo_.setProcessChannelMode(QProcess::ForwardedChannels);
+        processo_.start(percorso);
+    }
+    /// Milliseconds until the window is painted.
+    double AspettaFinestra() {
+        while (!Dipinta())
+            QThread::msleep(1);
+        return static_cast<double>(tempo_.nsecsElapsed()) / 1e6;
+    }
+    void Ferma() {
+        processo_.terminate();
+        processo_.waitForFinished(5000);
+    }
+    std::string Cartella() const { return "/proc/" + std::to_string(processo_.processId()); }
+
+private:
+    QElapsedTimer tempo_;
+    QProcess processo_;
+};
+
+double LeggiPss(const std::string& cartella) {
+    std::ifstream file(cartella + "/smaps_rollup");
+    for (std::string riga; std::getline(file, riga);)
+        if (riga.starts_with("Pss:")) return std::stod(riga.substr(4)) / 1024;
+    return 0;
+}
+
+/// Seconds that each thread has run so far, by its number and name.
+std::map<std::string, double> LeggiFili(const std::string& cartella) {
+    std::map<std::string, double> fili;
+    for (const auto& filo : std::filesystem::directory_iterator(cartella + "/task")) {
+        std::string nome;
+        double nanosecondi = 0;
+        std::getline(std::ifstream(filo.path() / "comm"), nome);
+        std::ifstream(filo.path() / "schedstat") >> nanosecondi;
+        fili[filo.path().filename().string() + " " + nome] = nanosecondi / 1e9;
+    }
+    return fili;
+}
+
+void MisuraRiposo(Programma& programma) {
+    constexpr int secondi = 10;
+    const auto prima = LeggiFili(programma.Cartella());
+    QThread::sleep(secondi);
+    double somma = 0;
+    for (const auto& [filo, dopo] : LeggiFili(programma.Cartella())) {
+        const auto inizio = prima.find(filo);
+        const double quota = (dopo - (inizio == prima.end() ? 0 : inizio->second)) / secondi * 100;
+        somma += quota;
+        std::printf("  at rest over 10 s, thread %-30s %6.3f %%\n", filo.c_str(), quota);
+    }
+    std::printf("%-52s %6.3f %%\n", "processor use at rest, all threads", somma);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const QGuiApplication applicazione(argc, argv);
+    const QString percorso = applicazione.arguments().value(1);
+    std::vector<double> tempi;
+    for (int i = 0; i < avvii; ++i) {
+        Programma programma(percorso);
+        tempi.push_back(programma.AspettaFinestra());
+        programma.Ferma();
+    }
+    misura::Stampa("start to painted main window", tempi, "ms");
+    Programma programma(percorso);
+    programma.AspettaFinestra();
+    QThread::sleep(5);
+    std::printf("%-52s %.1f MiB\n", "memory (PSS), synthesiser ready",
+                LeggiPss(programma.Cartella()));
+    MisuraRiposo(programma);
+    programma.Ferma();
+}
