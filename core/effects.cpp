@@ -53,4 +53,11 @@ void EffettoPulsante(StatoHover& hover, Controllo& sfondo, Controllo& etichetta,
     etichetta.ForeColor = colore;
 }
 
+void RitagliaForm(Form& form, int larghezza, int altezza) {
+    constexpr int twipPerPixel = 15;
+    form.stile = "arrotondata";
+    form.Width = larghezza * twipPerPixel;
+    form.Height = altezza * twipPerPixel;
+}
+
 }  // namespace corvana

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "core/globals.h"
-#include "forms/control.h"
+#include "forms/form.h"
 
 namespace corvana {
 
@@ -26,5 +26,8 @@ void EffettoImmagine(StatoHover& hover, Controllo& controllo, std::string_view s
 /// The same for a label that lies on a picture: the picture sinks and the label takes `colore`.
 void EffettoPulsante(StatoHover& hover, Controllo& sfondo, Controllo& etichetta,
                      std::string_view stato, Colore colore);
+
+/// Makes the window a borderless one with rounded corners of 22 by 22 pixels, of that size in pixels.
+void RitagliaForm(Form& form, int larghezza, int altezza);
 
 }  // namespace corvana

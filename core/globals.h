@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 
+#include "core/metronome_state.h"
 #include "core/random.h"
 #include "core/settings.h"
 #include "forms/windows.h"
@@ -28,6 +29,44 @@ struct TestiLingua {
     std::string TxtRisposteEsatte, TxtRisposteErrate, TxtRisposteDate, TxtPercentuale;
     std::string TxtTempoImpiegato, TxtNoteMostrate, TxtVelocita;
     std::string TipX1, TipX2;
+    std::string msgSenzaSuono;  ///< no sound device was found
+
+    // The instrument picker's, filled by the main window.
+    std::string TipContralto, TipTenore, TipBasso;
+
+    // The metronome's pattern: the two paragraphs of its explanation.
+    std::string TxtSpiegaSequenza, TxtSpiegaTempo;
+
+    // The about box: what stands behind the version, and two lines more.
+    std::string TxtVersione, TxtMotto, TxtLicenza;
+
+    // The ear trainer: prompts and messages, tool tips ("tt"), captions ("cap").
+    std::string msgPrimoLimite, msgSecondoLimite, msgScegliRif, msgAscolta, msgFermato;
+    std::string msgInt, msgAcc, msgPremiStart;
+    std::string msgTastoPrima, msgTastoDopo;  ///< around the name of the asked key
+    std::string msgAccTroppoAlto, msgStrettoSotto, msgStrettoSopra, msgRifFuori;
+    std::string ttRifSi, ttRifNo, ttMelodico, ttMisto, ttArmonico, ttIntAmmesso, ttIntEscluso;
+    std::string ttAccAmmesso, ttAccEscluso, ttMostraTasti, ttNascondiTasti, ttToAmmessa,
+        ttToEsclusa;
+    std::string capRifFisso, capRifVariabile, capMostraTasti, capNascondiTasti;
+    std::string capSoloBianchi, capTuttiTasti;
+
+    // The composer: messages, and the titles ("tit") and prompts ("prm") of its input boxes.
+    std::string TxtIncolla;  ///< caption of the label that waits for the second click of a paste
+    std::string msgUscireSenzaSalvare;
+    std::string titSalvaConNome, prmNomeMelodia, msgNomeMelodiaErrato;
+    std::string msgMelodiaEsiste, msgSostituirla;  ///< before the name of the melody; the next line
+    std::string msgSalvataSuA, msgDiscoPieno, msgDiscoNonPronto, msgFileDanneggiato;
+    std::string TxtMelodiaIntera;  ///< label of the bookmark of the whole melody
+    std::string prmNomeRiferimento, msgNomeRiferimentoErrato, titRinominaRiferimento;
+    std::string msgEliminaRiferimento;  ///< before the bookmark and " ?"
+    std::string titRinominaMelodia;
+    std::string prmNuovoNome, msgNuovoNomeErrato;  ///< of a melody as of a bookmark
+    std::string msgTrasposizioneNo, msgNoteFuori;  ///< two lines of one message
+    std::string titNuovaCartella, prmNomeCartella, msgNomeCartellaErrato;
+    std::string msgEliminaCartella, msgEliminaMelodia;  ///< before the name and " ?"
+    std::string msgCartellaNonVuota;
+    std::string msgCartellaEsiste, msgNuovoNomeEsiste;  ///< before the name
 };
 
 struct Globali {
@@ -41,7 +80,7 @@ struct Globali {
     bool ComposerAperto = false;
     bool IntoAperto = false;
     bool PickerAperto = false;
-    bool MetroAttivo = false;          ///< the metronome's loop is running
+    StatoMetronomo metronomo;
     std::int32_t ContestoInto = 0;     ///< help page that the ear trainer opens with
     std::array<bool, 5> PaginaInto{};  ///< the page that the ear trainer opens on
     StatoHover hover;

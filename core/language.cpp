@@ -16,6 +16,8 @@ void Applica(Globali& globali, const Bersaglio& bersaglio, const std::string& te
     Controllo* controllo = form.Trova(bersaglio.controllo);
     if (!controllo) return;
     if (bersaglio.cosa == Cosa::Testo) controllo->PonTesto(testo);
+    if (bersaglio.cosa == Cosa::Seguito)
+        controllo->PonTesto(globali.testi.*bersaglio.stringa + "\r\n\r\n" + testo);
     if (bersaglio.cosa == Cosa::Consiglio) controllo->ToolTipText = testo;
     if (bersaglio.cosa == Cosa::Riga)
         dynamic_cast<Lista&>(*controllo).PonRiga(bersaglio.elemento, testo);
@@ -28,11 +30,6 @@ void ApplicaLinea(const Ambiente& ambiente, const std::string& linea, Form& form
 }
 
 }  // namespace
-
-std::span<const Bersaglio> Bersagli(std::string_view nomeForm) {
-    if (nomeForm == "corvanamainf") return BersagliPrincipali();
-    return {};
-}
 
 bool FileLinguaEsiste(const Ambiente& ambiente) {
     return ambiente.file.Esiste(ambiente.globali.PercorsoLingua);

@@ -1,4 +1,7 @@
-// What each id of the language files sets: one table for each window. Any thread.
+// What each id of the language files sets: one table for each window, in ascending order of id.
+// An element of an array of controls goes by the array's name and its index, "Label4" and 7 being
+// "Label47". The ear trainer's strips `lblT` have no rows, which is as well: "lblT1" and "lblT2"
+// are labels of their own there. Any thread.
 #pragma once
 
 #include <span>
@@ -10,6 +13,7 @@ namespace corvana {
 
 enum class Cosa : std::uint8_t {
     Testo,      ///< caption of a control, or text of a box
+    Seguito,    ///< the same, behind the text of a string variable and an empty line
     Consiglio,  ///< tool tip
     Riga,       ///< row `elemento` of a list
     Stringa,    ///< a string variable
@@ -23,10 +27,37 @@ struct Bersaglio {
     std::string TestiLingua::*stringa = nullptr;
 };
 
+constexpr Bersaglio Testo(int id, std::string_view controllo) {
+    return {id, Cosa::Testo, controllo};
+}
+
+constexpr Bersaglio Seguito(int id, std::string_view controllo, std::string TestiLingua::*primo) {
+    return {id, Cosa::Seguito, controllo, 0, primo};
+}
+
+constexpr Bersaglio Consiglio(int id, std::string_view controllo) {
+    return {id, Cosa::Consiglio, controllo};
+}
+
+constexpr Bersaglio Riga(int id, std::string_view lista, int riga) {
+    return {id, Cosa::Riga, lista, riga};
+}
+
+constexpr Bersaglio Stringa(int id, std::string TestiLingua::*variabile) {
+    return {id, Cosa::Stringa, {}, 0, variabile};
+}
+
 /// The targets of a window, by its name in lower case; empty for an unknown one.
 std::span<const Bersaglio> Bersagli(std::string_view nomeForm);
 
-/// The main window's.
+/// The tables behind it.
 std::span<const Bersaglio> BersagliPrincipali();
+std::span<const Bersaglio> BersagliConfMetro();
+std::span<const Bersaglio> BersagliMidiTest();
+std::span<const Bersaglio> BersagliAbout();
+std::span<const Bersaglio> BersagliOptions();
+std::span<const Bersaglio> BersagliInto();
+std::span<const Bersaglio> BersagliComposer();
+std::span<const Bersaglio> BersagliCopyFromA();
 
 }  // namespace corvana

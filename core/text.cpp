@@ -37,6 +37,16 @@ std::string Percento(long parte, long tutto) {
     return std::to_string(centesimi / 100) + (decimali.size() < 2 ? ".0" : ".") + decimali + "%";
 }
 
+std::string UnBytePerCarattere(std::string_view testo) {
+    std::string corto;
+    for (const char c : testo) {
+        const auto byte = static_cast<unsigned char>(c);
+        const bool continua = (byte & 0xC0U) == 0x80U;
+        if (!continua) corto += byte < 0x80U ? c : '?';
+    }
+    return corto;
+}
+
 std::string Minuscolo(std::string_view testo) {
     std::string minuscolo(testo);
     std::transform(minuscolo.begin(), minuscolo.end(), minuscolo.begin(),

@@ -17,6 +17,10 @@ long NumeroIntero(std::string_view testo, long basso, long alto);
 /// `parte` / `tutto` by the pattern "0.00%", halves rounded up. Both at least 0, `tutto` above 0.
 std::string Percento(long parte, long tutto);
 
+/// The text with one byte for each of its UTF-8 characters: those of ASCII as they are, '?' for any
+/// other.
+std::string UnBytePerCarattere(std::string_view testo);
+
 /// Lower case of the ASCII letters.
 std::string Minuscolo(std::string_view testo);
 

@@ -1,5 +1,7 @@
 #include "forms/control.h"
 
+#include <algorithm>
+
 #include "forms/fault.h"
 #include "forms/form.h"
 
@@ -70,8 +72,12 @@ void Lista::Ripeti() {
     Finestra().Annuncia(*this, ListIndex);
 }
 
+bool Barra::Contiene(int valore) const {
+    return valore >= std::min(Min(), Max()) && valore <= std::max(Min(), Max());
+}
+
 void Barra::PonValore(int valore) {
-    if (valore < Min || valore > Max) throw Guasto(guastoProprieta, "Invalid property value");
+    if (!Contiene(valore)) throw Guasto(guastoProprieta, "Invalid property value");
     if (valore == Value()) return;
     Value = valore;
     if (Change) Change();
@@ -79,7 +85,7 @@ void Barra::PonValore(int valore) {
 
 void Barra::Accogli(const Evento& e) {
     const bool muove = e.fatto == Fatto::Change || e.fatto == Fatto::Scroll;
-    if (muove && e.valore >= Min && e.valore <= Max) Value.PonDaUtente(e.valore);
+    if (muove && Contiene(e.valore)) Value.PonDaUtente(e.valore);
 }
 
 void Barra::Ripeti() {

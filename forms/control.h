@@ -136,7 +136,8 @@ struct Lista : Controllo {
     void Ripeti() override;
 };
 
-/// A slider or scroll bar. Setting `Value` from code fires `Change` when it changes.
+/// A slider or scroll bar: `Min` at its left or upper end, `Max` at the other; either may be the
+/// larger. `PonValore` fires `Change` when the value changes.
 struct Barra : Controllo {
     Barra(Form& form, std::string nome, Controllo* padre = nullptr)
         : Controllo(form, std::move(nome), Genere::Barra, padre) {}
@@ -144,6 +145,7 @@ struct Barra : Controllo {
     Proprieta<int, Nome::Max> Max{*this, 100};
     Proprieta<int, Nome::Value> Value{*this, 0};
     int LargeChange = 10;
+    bool Contiene(int valore) const;
     /// Throws `Guasto` 380 when `valore` lies outside of `Min` to `Max`.
     void PonValore(int valore);
     void Accogli(const Evento& e) override;

@@ -24,6 +24,10 @@ void Form::Annuncia(const Controllo& controllo, const ProprietaBase& proprieta) 
     if (specchio_) specchio_->Cambiato(controllo, proprieta.NomeProprieta(), proprieta.Leggi());
 }
 
+void Form::Trascina() const {
+    if (specchio_) specchio_->Trascina(*this);
+}
+
 void Form::DaiFuoco(const Controllo& controllo) {
     if (specchio_) specchio_->Fuoco(controllo);
 }

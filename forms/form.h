@@ -36,6 +36,9 @@ public:
 
     void PonTesto(const std::string& testo) override { Caption = testo; }
 
+    /// Lets the pointer drag the window, while its left button is down.
+    void Trascina() const;
+
     /// For the controls alone: a new one's number, a change to tell, the focus to give.
     int Iscrivi(Controllo& controllo);
     void Annuncia(const Controllo& controllo, const ProprietaBase& proprieta);

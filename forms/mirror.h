@@ -20,7 +20,9 @@ public:
     virtual void Mostra(const Form& form, bool modale) = 0;
     virtual void Cambiato(const Controllo& controllo, Nome nome, const Valore& valore) = 0;
     virtual void Fuoco(const Controllo& controllo) = 0;
-    /// The form is gone; it may be destroyed when the call returns.
+    /// The pointer, whose left button is down on the form, drags the window from now on.
+    virtual void Trascina(const Form& form) { static_cast<void>(form); }
+    /// The form, which still has its identity, is gone; it may be destroyed when the call returns.
     virtual void Chiudi(const Form& form) = 0;
 };
 

@@ -6,6 +6,22 @@
 
 namespace corvana {
 
+namespace {
+
+/// The control that the event is for, whichever of the open windows it lies in; or null.
+Controllo* Destinatario(const std::vector<Form*>& aperte, const Evento& evento) {
+    const auto form = std::find_if(aperte.begin(), aperte.end(), [&](const Form* aperta) {
+        return aperta->Identita() == evento.finestra;
+    });
+    if (form == aperte.end()) return nullptr;
+    const auto& controlli = (*form)->Controlli();
+    const bool esiste =
+        evento.controllo >= 0 && evento.controllo < static_cast<int>(controlli.size());
+    return esiste ? controlli[static_cast<std::size_t>(evento.controllo)] : nullptr;
+}
+
+}  // namespace
+
 Finestre::Finestre(Pompa& pompa, Dialoghi& dialoghi, Specchio* specchio)
     : pompa_(pompa), dialoghi_(dialoghi), specchio_(specchio) {
     pompa_.PonConsegna([this](const Evento& evento) { Consegna(evento); });
@@ -41,9 +57,9 @@ bool Finestre::Scarica(Form& form) {
     form.Form_Unload(Cancel);
     if (Cancel) return false;
     std::erase(aperte_, &form);
+    if (specchio_) specchio_->Chiudi(form);
     form.specchio_ = nullptr;
     form.identita_ = 0;
-    if (specchio_) specchio_->Chiudi(form);
     return true;
 }
 
@@ -56,15 +72,13 @@ void Finestre::Consegna(const Evento& evento) {
     // A release must never be lost, whoever is in front: a key would seem held for ever.
     if (evento.fatto == Fatto::FuocoPerso) return tasti_.LasciaTutti();
     if (evento.fatto == Fatto::KeyUp) tasti_.Segna(evento.codice, false);
-    Form* form = Davanti();
-    if (!form || form->Identita() != evento.finestra) return;
-    const auto& controlli = form->Controlli();
-    if (evento.controllo < 0 || evento.controllo >= static_cast<int>(controlli.size())) return;
-    Controllo& controllo = *controlli[static_cast<std::size_t>(evento.controllo)];
-    if (!controllo.Utilizzabile()) return controllo.Ripeti();
+    Controllo* controllo = Destinatario(aperte_, evento);
+    if (!controllo) return;
+    Form& form = controllo->Finestra();
+    if (&form != Davanti() || !controllo->Utilizzabile()) return controllo->Ripeti();
     if (evento.fatto == Fatto::KeyDown) tasti_.Segna(evento.codice, true);
-    controllo.Accogli(evento);
-    Riferisci(*form, controllo, evento);
+    controllo->Accogli(evento);
+    Riferisci(form, *controllo, evento);
 }
 
 void Finestre::Riferisci(Form& form, Controllo& controllo, const Evento& evento) {

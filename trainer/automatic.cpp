@@ -61,8 +61,9 @@ bool CorvanaMainF::AttendiRisposta() {
     // The first pass doesn't wait: a key held from the note before answers this one at once.
     a_.pompa.PompaEventi();
     for (;;) {
-        // With the window gone there is no output left to silence.
-        if (!Identita()) return false;
+        // With the window gone there is no output left to silence; and the mode changes only
+        // between runs, so that by then this one is over.
+        if (!Identita() || Modo != "automatico") return false;
         if (a_.finestre.Tasti().Premuto(vk::esc)) break;
         LeggiTasti();
         if (a_.pompa.Adesso() >= InizioNota + SecondiNota) return true;

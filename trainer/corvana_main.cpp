@@ -12,15 +12,11 @@ constexpr double pausaPrimaDellaSigla = 0.5;
 constexpr std::int16_t canaleSigla = 1;
 constexpr std::int32_t canaliConStrumento = 4;
 
-const char* AvvisoSenzaSuono(const Globali& globali) {
-    if (globali.PercorsoLingua.ends_with("langen.csv"))
-        return "No sound device was found. Everything works, in silence.\n"
-               "Connect headphones or loudspeakers, or start the sound service: "
-               "Corvana will sound by itself.";
-    return "Non è stato trovato nessun dispositivo audio. Tutto funziona, in silenzio.\n"
-           "Collega una cuffia o un altoparlante, o avvia il servizio audio: "
-           "Corvana suonerà da sola.";
-}
+/// What stands in for the language's text when no language file is there.
+constexpr const char* avvisoSenzaSuono =
+    "Nessun dispositivo audio: tutto funziona, in silenzio. Collega una cuffia o un altoparlante, "
+    "o "
+    "avvia il servizio audio: Corvana suonerà da sola.";
 
 }  // namespace
 
@@ -66,6 +62,7 @@ void CorvanaMainF::Form_Load() {
     CaricamentoLista = true;
     Nascondinote();
     primaAttivazione_ = true;
+    if (secondarie_.metronomo.carica) secondarie_.metronomo.carica();
     RipristinaStato();
     AbilitaRisposte(false);
     DipingiSfondi();
@@ -94,7 +91,9 @@ void CorvanaMainF::ApriSuono() {
         a_.suono.CambiaStrumento(a_.globali.StrumentoGlobale, canale);
     a_.suono.Attendi(pausaPrimaDellaSigla);
     a_.suono.SuonaSigla(canaleSigla);
-    if (!a_.suono.Udibile()) a_.dialoghi.MsgBox(AvvisoSenzaSuono(a_.globali));
+    if (a_.suono.Udibile()) return;
+    const std::string& avviso = a_.globali.testi.msgSenzaSuono;
+    a_.dialoghi.MsgBox(avviso.empty() ? avvisoSenzaSuono : avviso);
 }
 
 void CorvanaMainF::AbilitaComandi(bool abilita) {
@@ -106,7 +105,7 @@ void CorvanaMainF::AbilitaComandi(bool abilita) {
 }
 
 void CorvanaMainF::Form_Unload(bool& Cancel) {
-    if (a_.globali.MetroAttivo) {
+    if (a_.globali.metronomo.MetroAttivo) {
         Cancel = true;
         return;
     }

@@ -54,6 +54,7 @@ void CorvanaMainF::PonFermo(bool fermo) {
     f1.Enabled = fermo;
     Esci.Enabled = fermo;
     cmdEsci.Enabled = fermo;
+    cmdEscibg.Enabled = fermo;
     Regolo.Visible = fermo;
 }
 

@@ -24,7 +24,7 @@ void CorvanaMainF::CollegaMenu() {
     mnuRicTasto.Click = [this] { ApriInto(std::nullopt, 3); };
     mnuRicTo.Click = [this] { ApriInto(std::nullopt, 4); };
     mnuComposer.Click = [this] { Apri(secondarie_.frmComposer); };
-    mnuMetro.Click = [this] { Apri(secondarie_.metronomo); };
+    mnuMetro.Click = [this] { Apri(secondarie_.metronomo.apri); };
     mnuPromemoria.Click = [this] { Apri(secondarie_.frmOptions); };
     mnuMidiTest.Click = [this] { Apri(secondarie_.frmMidiTest); };
     Nominote1.Click = [this] { Nominote1_Click(); };
@@ -48,7 +48,7 @@ void CorvanaMainF::DisabilitaAssenti() {
     };
     pone(secondarie_.frmInto, Intonazione, mnuRint, mnuRac, mnuRicTo, mnuRicTasto, ToolButton[0]);
     pone(secondarie_.frmComposer, mnuComposer, ToolButton[1]);
-    pone(secondarie_.metronomo, mnuMetro, ToolButton[2]);
+    pone(secondarie_.metronomo.apri, mnuMetro, ToolButton[2]);
     pone(secondarie_.frmOptions, mnuPromemoria, ToolButton[3]);
     pone(secondarie_.frmStrum, mnuSs, ToolButton[4]);
     pone(secondarie_.frmMidiTest, mnuMidiTest);
@@ -75,7 +75,7 @@ void CorvanaMainF::EsegueToolButton(int numero) {
     switch (numero) {
         case 1: return ApriInto(3, 0);
         case 2: return Apri(secondarie_.frmComposer);
-        case 3: return Apri(secondarie_.metronomo);
+        case 3: return Apri(secondarie_.metronomo.alterna);
         case 4: return Apri(secondarie_.frmOptions);
         case 5: return Apri(secondarie_.frmStrum);
         case 6: return mnuNormale.Checked ? mnuAutomatico_Click() : mnuNormale_Click();
@@ -114,6 +114,7 @@ void CorvanaMainF::CambiaLingua(bool inglese) {
     a_.impostazioni.ScriviValore("Language", inglese ? "en" : "it");
     PonNomiRisposte(inglese);
     if (FileLinguaEsiste(a_)) UpdateString(a_, *this);
+    Apri(secondarie_.metronomo.cambiaLingua);
     MostraVelocità();
     frmRisultati.Visible = false;
 }

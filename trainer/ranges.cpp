@@ -20,7 +20,7 @@ std::optional<int> RigaDaLimiti(int limiteBasso, int limiteAlto) {
 std::uint8_t PosizioneEstratta(double r, std::uint8_t limiteBasso, std::uint8_t limiteAlto) {
     const auto ampiezza = static_cast<float>(limiteAlto - limiteBasso + 1);
     const float somma = static_cast<float>(r) * ampiezza + static_cast<float>(limiteBasso);
-    return std::min(static_cast<std::uint8_t>(somma), limiteAlto);
+    return static_cast<std::uint8_t>(std::min(static_cast<int>(somma), int{limiteAlto}));
 }
 
 void CorvanaMainF::Mostranota() {

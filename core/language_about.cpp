@@ -1,0 +1,24 @@
+#include <array>
+
+#include "core/language_targets.h"
+
+namespace corvana {
+
+namespace {
+
+using T = TestiLingua;
+
+constexpr std::array bersagli = {
+    Stringa(79, &T::TxtVersione),
+    Stringa(80, &T::TxtMotto),
+    Stringa(81, &T::TxtLicenza),
+    Testo(82, "Text2"),
+};
+
+}  // namespace
+
+std::span<const Bersaglio> BersagliAbout() {
+    return bersagli;
+}
+
+}  // namespace corvana

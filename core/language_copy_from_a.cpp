@@ -1,0 +1,22 @@
+#include <array>
+
+#include "core/language_targets.h"
+
+namespace corvana {
+
+namespace {
+
+constexpr std::array bersagli = {
+    Testo(375, "frmCopyFromA"),
+    Testo(376, "Label1"),
+    Testo(377, "cmdCopia"),
+    Consiglio(378, "cmdChiudi"),
+};
+
+}  // namespace
+
+std::span<const Bersaglio> BersagliCopyFromA() {
+    return bersagli;
+}
+
+}  // namespace corvana

@@ -1,0 +1,112 @@
+#include <array>
+
+#include "core/language_targets.h"
+
+namespace corvana {
+
+namespace {
+
+using T = TestiLingua;
+
+constexpr std::array bersagli = {
+    Testo(157, "frmInto"),
+    Testo(158, "Esercizio"),
+    Testo(159, "mnuNotA"),
+    Testo(160, "mnuRint"),
+    Testo(161, "mnuRicTa"),
+    Testo(162, "mnuRicTasto"),
+    Testo(163, "mnuRicTo"),
+    Testo(164, "strumento"),
+    Testo(165, "mnuPiano"),
+    Testo(165, "mnuSs"),
+    Testo(166, "mnuOrgano"),
+    Testo(168, "Opzioni"),
+    Testo(169, "cmdEsci"),
+    Testo(170, "Label2"),
+    Testo(171, "Label1"),
+    Consiglio(172, "lblPerc"),
+    Testo(173, "Label6"),
+    Consiglio(174, "Label6"),
+    Stringa(175, &T::ttRifSi),
+    Stringa(176, &T::ttRifNo),
+    Consiglio(177, "lblIntoNN"),
+    Consiglio(178, "lblIntoSh"),
+    Testo(179, "cmdReimposta"),
+    Stringa(180, &T::msgPrimoLimite),
+    Stringa(181, &T::msgSecondoLimite),
+    Stringa(182, &T::msgScegliRif),
+    Stringa(183, &T::msgAscolta),
+    Stringa(184, &T::msgFermato),
+    Consiglio(185, "Lbdoc"),
+    Testo(186, "Label7"),
+    Consiglio(187, "Label7"),
+    Stringa(188, &T::ttMelodico),
+    Stringa(189, &T::ttMisto),
+    Stringa(190, &T::ttArmonico),
+    // The names on "Dim" and "Min" read the same in every language and have no row.
+    Testo(191, "Label40"),
+    Testo(192, "Label41"),
+    Testo(193, "Label42"),
+    Testo(194, "Label43"),
+    Testo(195, "Label44"),
+    Testo(196, "Label45"),
+    Testo(197, "Label46"),
+    Testo(198, "Label47"),
+    Testo(199, "Label414"),
+    Testo(200, "Label420"),
+    Testo(201, "Label421"),
+    Testo(202, "Label422"),
+    Testo(203, "Label423"),
+    Testo(204, "Label424"),
+    Stringa(205, &T::ttIntAmmesso),
+    Stringa(206, &T::ttIntEscluso),
+    Consiglio(207, "IntRoot"),
+    Stringa(208, &T::capRifFisso),
+    Stringa(209, &T::capRifVariabile),
+    Consiglio(210, "lblRifInf"),
+    Consiglio(211, "lblRifSup"),
+    Consiglio(212, "lblIntSh"),
+    Consiglio(213, "lblNi"),
+    Consiglio(214, "lblNs"),
+    Stringa(215, &T::msgInt),
+    Stringa(216, &T::msgAcc),
+    Stringa(217, &T::msgPremiStart),
+    Testo(218, "TipoAcc1"),
+    Testo(219, "TipoAcc3"),
+    Stringa(220, &T::ttAccAmmesso),
+    Stringa(221, &T::ttAccEscluso),
+    Testo(222, "lblModoVt"),
+    Consiglio(223, "lblModoVt"),
+    Stringa(224, &T::capMostraTasti),
+    Stringa(225, &T::capNascondiTasti),
+    Stringa(226, &T::ttMostraTasti),
+    Stringa(227, &T::ttNascondiTasti),
+    Testo(228, "cmdRes"),
+    Consiglio(229, "cmdRes"),
+    Stringa(230, &T::msgAccTroppoAlto),
+    Stringa(231, &T::msgStrettoSotto),
+    Stringa(232, &T::msgStrettoSopra),
+    Testo(233, "Label9"),
+    Testo(234, "Label10"),
+    Testo(235, "lblRipeti"),
+    Testo(235, "lblRipInto"),
+    Testo(235, "lblRipta"),
+    Testo(235, "lblRipInt"),
+    Consiglio(236, "lblTsh"),
+    Stringa(237, &T::ttToAmmessa),
+    Stringa(238, &T::ttToEsclusa),
+    Stringa(239, &T::capSoloBianchi),
+    Stringa(240, &T::capTuttiTasti),
+    Stringa(241, &T::msgTastoPrima),
+    Stringa(242, &T::msgTastoDopo),
+    Consiglio(243, "lblSceltaTasti"),
+    Stringa(244, &T::msgRifFuori),
+};
+
+}  // namespace
+
+std::span<const Bersaglio> BersagliInto() {
+    return bersagli;
+}
+
+}  // namespace corvana

@@ -1,0 +1,21 @@
+#include <array>
+
+#include "core/language_targets.h"
+
+namespace corvana {
+
+namespace {
+
+constexpr std::array bersagli = {
+    Testo(75, "Label2"),
+    Testo(76, "Label1"),
+    Testo(77, "cmdTest"),
+};
+
+}  // namespace
+
+std::span<const Bersaglio> BersagliMidiTest() {
+    return bersagli;
+}
+
+}  // namespace corvana
