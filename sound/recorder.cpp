@@ -39,7 +39,7 @@ std::string Registratore::midiOutGetErrorTextA(int codice) {
 }
 
 int Registratore::midiOutGetDevCapsA(std::int32_t id, std::string& nome) {
-    if (id == dispositivoPredefinito) {
+    if (id == dispositivoPredefinito && !senzaPredefinito) {
         nome = "Corvana";
         return midiSenzaErrore;
     }

@@ -40,6 +40,7 @@ public:
     int esitoClose = 0;
     int esitoShortMsg = 0;
     bool udibile = true;
+    bool senzaPredefinito = false;  ///< the machine has no default output
     std::vector<std::string> nomi;  ///< of the ports 0 and up
 
     std::vector<Voce> messaggi;  ///< all that were accepted

@@ -59,8 +59,9 @@ void Suono::MessaggioMidi(std::int16_t stato, std::int16_t dato1, std::int16_t d
 }
 
 void Suono::CambiaStrumento(std::int32_t programma, std::int32_t canaleIndice) {
-    const std::int32_t messaggio = programma * 256 + cambioProgramma + canaleIndice;
-    piattaforma_.midiOutShortMsg(HandleMidi, static_cast<std::uint32_t>(messaggio));
+    const auto messaggio =
+        static_cast<std::uint32_t>(std::int64_t{programma} * 256 + cambioProgramma + canaleIndice);
+    piattaforma_.midiOutShortMsg(HandleMidi, messaggio);
 }
 
 void Suono::ErroreMidi(const std::string& operazione, std::int16_t codice) {

@@ -1,11 +1,25 @@
 #include "sound/outputs/abandonable_thread.h"
 
+#include <signal.h>
+
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
 #include <utility>
 
 namespace corvana {
+
+namespace {
+
+/// Writing to a server that has died must not end the program.
+void IgnoraCondottiRotti() {
+    sigset_t segnali;
+    sigemptyset(&segnali);
+    sigaddset(&segnali, SIGPIPE);
+    pthread_sigmask(SIG_BLOCK, &segnali, nullptr);
+}
+
+}  // namespace
 
 struct FiloAbbandonabile::Fine {
     std::mutex blocco;
@@ -22,6 +36,7 @@ struct FiloAbbandonabile::Fine {
 FiloAbbandonabile::FiloAbbandonabile(std::function<void()> corpo, double pazienza)
     : fine_(std::make_shared<Fine>()), pazienza_(pazienza) {
     filo_ = std::thread([fine = fine_, corpo = std::move(corpo)]() mutable {
+        IgnoraCondottiRotti();
         corpo();
         corpo = nullptr;
         fine->Segnala();

@@ -17,7 +17,8 @@ namespace corvana {
 
 namespace {
 
-constexpr int frameDiBuffer = 256;
+/// Of 256, a sound server under load drops one now and then.
+constexpr int frameDiBuffer = 512;
 constexpr std::chrono::seconds fraITentativi{1};
 constexpr std::chrono::milliseconds attesaDelPrimo{1500};
 constexpr double pazienza = 1;
@@ -50,8 +51,13 @@ struct FlussoAudio::Stato {
     explicit Stato(std::shared_ptr<MotoreSonoro> m) : motore(std::move(m)) {}
 
     std::shared_ptr<MotoreSonoro> motore;
-    OrologioFlusso orologio;  ///< of the device's thread while a device is open
-    bool puntuale = false;    ///< likewise: that thread has asked to be on time
+    /// Of the device's thread while a device is open.
+    struct Ascolto {
+        OrologioFlusso orologio;
+        bool puntuale = false;  ///< that thread has asked to be on time
+    };
+    std::mutex turno;
+    Ascolto ascolto;
 
     std::mutex blocco;
     std::condition_variable arrivo;
@@ -73,6 +79,7 @@ public:
             if (Apri()) AspettaPerdita();
             Chiudi();
         } while (!FinitoEntroIlProssimo());
+        SDL_TLSCleanup();
     }
 
 private:
@@ -90,12 +97,13 @@ private:
 
 void FlussoAudio::Custode::Rendi(void* dato, Uint8* buffer, int byte) {
     auto& stato = *static_cast<Stato*>(dato);
-    if (!std::exchange(stato.puntuale, true)) PreferisciPuntualita();
+    const std::lock_guard guardia(stato.turno);
+    if (!std::exchange(stato.ascolto.puntuale, true)) PreferisciPuntualita();
+    OrologioFlusso& orologio = stato.ascolto.orologio;
     const int frame = byte / static_cast<int>(2 * sizeof(float));
-    const double istante = stato.orologio.Prossimo(AdessoMonotono(), frame);
+    const double istante = orologio.Prossimo(AdessoMonotono(), frame);
     stato.motore->mescolatore.Rendi(reinterpret_cast<float*>(buffer), frame,
-                                    istante - stato.orologio.Ritardo(),
-                                    stato.orologio.PerSecondo());
+                                    istante - orologio.Ritardo(), orologio.PerSecondo());
 }
 
 int FlussoAudio::Custode::Osserva(void* dato, SDL_Event* evento) {
@@ -122,8 +130,10 @@ bool FlussoAudio::Custode::Apri() {
     }
     Annuncia(dispositivo);
     if (dispositivo == 0) return false;
-    stato_->orologio = {};
-    stato_->puntuale = false;
+    {
+        const std::lock_guard guardia(stato_->turno);
+        stato_->ascolto = {};
+    }
     stato_->motore->mescolatore.PonAttivo(true);
     SDL_PauseAudioDevice(dispositivo, 0);
     return true;

@@ -1,20 +1,14 @@
-// The machine's MIDI ports: which there are, and how to open one. A search runs on a thread of its
-// own, since a server that doesn't answer would hold it for ever. Logic thread.
+// The machine's MIDI ports, as they are counted for the user. A search runs on a thread of its own,
+// since a server that doesn't answer would hold it for ever. Logic thread.
 #pragma once
 
 #include <memory>
-#include <string>
 #include <vector>
 
 #include "sound/outputs/abandonable_thread.h"
-#include "sound/outputs/port.h"
+#include "sound/outputs/rtmidi_ports.h"
 
 namespace corvana {
-
-struct PortaNota {
-    int interfaccia = 0;  ///< of the MIDI library, which of its interfaces offers the port
-    std::string nome;
-};
 
 class PorteMidi {
 public:
@@ -26,16 +20,15 @@ public:
     int Cerca();
     /// Port `id` of the last search; null when there is none. Searches when nothing was yet.
     const PortaNota* Trova(int id);
+    AperturaPorta ComeAprirla(const PortaNota& porta) const { return ComeAprire(porta, jack_); }
 
 private:
     struct Esito;
 
+    std::shared_ptr<AccessoJack> jack_;
     std::vector<PortaNota> note_;
     std::shared_ptr<Esito> esito_;
     std::unique_ptr<FiloAbbandonabile> ricerca_;
 };
-
-/// How to open a port that was found.
-AperturaPorta ComeAprire(const PortaNota& porta);
 
 }  // namespace corvana

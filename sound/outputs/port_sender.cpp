@@ -55,16 +55,17 @@ MittentePorta::~MittentePorta() {
 }
 
 void MittentePorta::Esegui(Stato& stato, const AperturaPorta& apertura) {
-    const std::unique_ptr<PortaUscita> porta = apertura();
+    std::unique_ptr<PortaUscita> porta = apertura();
     stato.Passa(porta ? Stato::Fase::Aperta : Stato::Fase::Persa);
-    bool viva = porta != nullptr;
     while (const auto messaggio = stato.coda.Prendi()) {
-        if (!viva) continue;
-        viva =
+        if (!porta) continue;
+        const bool viva =
             messaggio->azzera ? SpedisciAzzeramento(*porta) : Spedisci(*porta, messaggio->parola);
-        if (!viva) stato.Passa(Stato::Fase::Persa);
+        if (viva) continue;
+        porta.reset();
+        stato.Passa(Stato::Fase::Persa);
     }
-    if (viva) SpedisciAzzeramento(*porta);
+    if (porta) SpedisciAzzeramento(*porta);
 }
 
 bool MittentePorta::Aperta(double secondi) {

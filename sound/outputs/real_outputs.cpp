@@ -45,7 +45,7 @@ int UsciteReali::ApriSintetizzatore() {
 int UsciteReali::ApriPorta(std::shared_ptr<MittentePorta>& porta, std::int32_t id) {
     const PortaNota* nota = porte_->Trova(id);
     if (!nota) return midiDispositivoErrato;
-    auto mittente = std::make_shared<MittentePorta>(ComeAprire(*nota));
+    auto mittente = std::make_shared<MittentePorta>(porte_->ComeAprirla(*nota));
     const bool aperta = mittente->Aperta(attesaApertura);
     if (!aperta) {
         Congeda(std::move(mittente));

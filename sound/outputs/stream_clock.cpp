@@ -22,7 +22,9 @@ constexpr double saltoCerto = 0.2;
 constexpr double saltoProbabile = 0.01;
 constexpr double durataDelSalto = 0.25;
 
-constexpr double margine = 0.001;
+/// What a call may come early on a steady device, and what is kept in hand on any other.
+constexpr double margine = 0.003;
+constexpr double scorta = 0.001;
 constexpr double ritardoMassimo = 0.08;
 
 }  // namespace
@@ -34,9 +36,8 @@ double OrologioFlusso::Prossimo(double adesso, int frame) {
     const bool assestato = adesso - aggancio_ > assestamento;
     Segui(scarto, assestato ? bandaDiRegime : bandaIniziale, frame);
     const double durata = frame * durataNominale;
-    ritardo_ = std::max(ritardo_, 2 * durata);
-    if (assestato)
-        ritardo_ = std::max(ritardo_, std::min(durata - scarto + margine, ritardoMassimo));
+    const double anticipo = assestato ? std::max(margine, scorta - scarto) : margine;
+    ritardo_ = std::max(ritardo_, std::min(durata + anticipo, ritardoMassimo));
     return istante;
 }
 

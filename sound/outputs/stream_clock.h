@@ -15,7 +15,8 @@ public:
     double PerSecondo() const { return 1 / durataFrame_; }
 
     /// How long, in seconds, a message is held back so that it never comes too late for its place:
-    /// two buffers, or what the device's bursts demand. It grows where it must and never shrinks.
+    /// a buffer and 3 ms, or what the device's bursts demand. It grows where it must and never
+    /// shrinks.
     double Ritardo() const { return ritardo_; }
 
 private:

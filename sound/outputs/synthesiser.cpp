@@ -3,6 +3,7 @@
 #include <fluidsynth.h>
 
 #include <filesystem>
+#include <mutex>
 #include <system_error>
 #include <utility>
 
@@ -17,7 +18,12 @@ constexpr int polifonia = 64;
 constexpr int polifoniaDiCostruzione = 256;
 constexpr int tutti = -1;
 
-void Ammutolisci() {
+std::once_flag preparata;
+
+void PreparaLibreria() {
+    // Else it asks the audio library for devices, which may be waiting for a dead sound server.
+    const char* nessunDispositivo[] = {nullptr};
+    fluid_audio_driver_register(nessunDispositivo);
     for (int livello = FLUID_PANIC; livello < LAST_LOG_LEVEL; ++livello)
         fluid_set_log_function(livello, nullptr, nullptr);
 }
@@ -57,7 +63,7 @@ Sintetizzatore::Sintetizzatore(std::unique_ptr<Motore> motore) : motore_(std::mo
 Sintetizzatore::~Sintetizzatore() = default;
 
 std::unique_ptr<Sintetizzatore> Sintetizzatore::Carica(const std::string& font) {
-    Ammutolisci();
+    std::call_once(preparata, PreparaLibreria);
     if (!FileOrdinario(font) || !fluid_is_soundfont(font.c_str())) return nullptr;
     auto motore = std::make_unique<Motore>();
     if (!motore->synth || fluid_synth_sfload(motore->synth, font.c_str(), 1) == FLUID_FAILED)

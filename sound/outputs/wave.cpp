@@ -2,6 +2,7 @@
 
 #include <SDL2/SDL.h>
 
+#include <algorithm>
 #include <cstring>
 #include <filesystem>
 #include <memory>
@@ -17,7 +18,6 @@ constexpr std::uintmax_t dimensioneMassima = 8'000'000;
 
 struct Rilascio {
     void operator()(Uint8* dati) const { SDL_FreeWAV(dati); }
-    void operator()(SDL_AudioStream* flusso) const { SDL_FreeAudioStream(flusso); }
 };
 
 bool Ammissibile(const std::string& percorso) {
@@ -27,17 +27,18 @@ bool Ammissibile(const std::string& percorso) {
 }
 
 std::vector<float> Converti(const SDL_AudioSpec& formato, const Uint8* dati, Uint32 byte) {
-    const std::unique_ptr<SDL_AudioStream, Rilascio> flusso(SDL_NewAudioStream(
-        formato.format, formato.channels, formato.freq, AUDIO_F32SYS, 1, frequenza));
-    if (!flusso || SDL_AudioStreamPut(flusso.get(), dati, static_cast<int>(byte)) < 0 ||
-        SDL_AudioStreamFlush(flusso.get()) < 0)
+    SDL_AudioCVT passaggio{};
+    if (SDL_BuildAudioCVT(&passaggio, formato.format, formato.channels, formato.freq, AUDIO_F32SYS,
+                          1, frequenza) < 0)
         return {};
-    const int pronti = SDL_AudioStreamAvailable(flusso.get());
-    std::vector<float> campioni(static_cast<std::size_t>(pronti) / sizeof(float));
-    const int letti = SDL_AudioStreamGet(flusso.get(), campioni.data(),
-                                         static_cast<int>(campioni.size() * sizeof(float)));
-    if (letti < 0) return {};
-    campioni.resize(static_cast<std::size_t>(letti) / sizeof(float));
+    const auto crescita = static_cast<std::size_t>(std::max(passaggio.len_mult, 1));
+    std::vector<Uint8> spazio(byte * crescita);
+    std::copy_n(dati, byte, spazio.begin());
+    passaggio.buf = spazio.data();
+    passaggio.len = passaggio.len_cvt = static_cast<int>(byte);
+    if (passaggio.needed && SDL_ConvertAudio(&passaggio) < 0) return {};
+    std::vector<float> campioni(static_cast<std::size_t>(passaggio.len_cvt) / sizeof(float));
+    std::memcpy(campioni.data(), spazio.data(), campioni.size() * sizeof(float));
     return campioni;
 }
 

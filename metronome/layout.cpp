@@ -1,0 +1,102 @@
+#include "metronome/layout.h"
+
+#include <array>
+
+#include "metronome/conf_metro.h"
+#include "metronome/panel.h"
+
+namespace corvana {
+
+namespace {
+
+constexpr std::array pannelloMetronomo = {
+    Posto{"BgMetro", 0, 0, 7050, 990, {}, {}, "pannello"},
+    Posto{"frmMetroC", 285, 60, 1500, 270, "Metronomo", {}, "titolo"},
+    Posto{"lblTs", 285, 360, 540, 270, "2/4", "Cambia il tempo", "scelta"},
+    Posto{"lblX12", 900, 360, 450, 270, "x1", {}, "scelta"},
+    Posto{"lblTempo", 1440, 330, 690, 330, "60", "Pulsazioni al minuto", "cifra"},
+    Posto{"MetroTempoS", 2190, 360, 2610, 270, {}, "Pulsazioni al minuto"},
+    Posto{"MetroVol", 4890, 90, 270, 810, {}, "Volume"},
+    Posto{"cmdSSmetro", 5250, 120, 1350, 360, " Start / Stop "},
+    Posto{"cmdSetup", 5250, 540, 1350, 330, "a b c ...", "Scegli i suoni e la sequenza"},
+    Posto{"lblCloseMetro", 6690, 60, 270, 270, "×", "Chiudi il metronomo", "chiudi"},
+};
+
+constexpr std::array conf = {
+    Posto{"frmConfMetro", 0, 0, 6600, 5400, "Metronomo"},
+    Posto{"Label1", 240, 180, 3000, 270, "Suoni", {}, "titolo"},
+    Posto{"lblA", 240, 510, 900, 270, "a", {}, "lettera"},
+    Posto{"lblB1", 1260, 510, 900, 270, "b", {}, "lettera"},
+    Posto{"lblC", 2280, 510, 900, 270, "c", {}, "lettera"},
+    Posto{"InstrA", 240, 810, 900, 2340},
+    Posto{"InstrB1", 1260, 810, 900, 2340},
+    Posto{"InstrC", 2280, 810, 900, 2340},
+    Posto{"Label2", 3480, 180, 2880, 270, "Sequenza", {}, "titolo"},
+    Posto{"txtPattern", 3480, 510, 2880, 360},
+    Posto{"Label3", 3480, 990, 1500, 270, "Tempo", {}, "titolo"},
+    Posto{"txtTempo", 3480, 1320, 1200, 360},
+    Posto{"seqPreset", 3480, 1830, 2880, 1320},
+    Posto{"Text1",
+          240,
+          3330,
+          6120,
+          1260,
+          "Puoi comporre a piacere  una sequenza di pulsazioni (abc)  fino a \r\n"
+          "un massimo di 20 caratteri. Inserisci il tempo corrispondente nella \r\n"
+          "relativa casella.",
+          {},
+          "spiegazione"},
+    Posto{"cmdTest", 3480, 4770, 1350, 420, "Test"},
+    Posto{"cmdOk", 5010, 4770, 1350, 420, "O K", {}, "principale"},
+};
+
+void Riempi(Lista& lista, std::initializer_list<const char*> righe) {
+    for (const char* riga : righe)
+        lista.AddItem(riga);
+}
+
+void DisponiLuci(PannelloMetronomo& pannello) {
+    constexpr int primaLuce = 285;
+    constexpr int passo = 120;
+    int left = primaLuce;
+    for (Etichetta& luce : pannello.lblPuls) {
+        luce.Left = left;
+        luce.Top = 690;
+        luce.Width = 120;
+        luce.Height = 165;
+        luce.stile = "luce";
+        luce.BackColor = coloreLuceSpenta;
+        luce.Visible = false;
+        left += passo;
+    }
+}
+
+}  // namespace
+
+void DisponiMetronomo(Form& finestra, PannelloMetronomo& pannello) {
+    Disponi(finestra, pannelloMetronomo.data(), pannelloMetronomo.size());
+    DisponiLuci(pannello);
+    pannello.MetroTempoS.Min = 20;
+    pannello.MetroTempoS.Max = 200;
+    pannello.MetroTempoS.Value = 60;
+    pannello.MetroVol.Min = 127;
+    pannello.MetroVol.Max = 0;
+    pannello.MetroVol.Value = 127;
+    pannello.cmdSSmetro.BackColor = finestra.Trova("cmdEsci")->BackColor();
+}
+
+void DisponiConfMetro(frmConfMetro& finestra) {
+    Disponi(finestra, conf.data(), conf.size());
+    Riempi(finestra.InstrA, {"38", "40", "46", "49", "53", "61", "65", "66", "76", "77", "81"});
+    Riempi(finestra.InstrB1, {"27", "35", "36", "45", "48", "54", "69", "75", "82", "85"});
+    Riempi(finestra.InstrC, {"31", "33", "34", "37", "42", "43", "44", "51"});
+    Riempi(finestra.seqPreset, {"abcb  2/4", "abcbcb  3/4", "abcbcbcb  4/4"});
+    finestra.txtPattern.MaxLength = 20;
+    finestra.txtTempo.MaxLength = 5;
+    finestra.Text1.Locked = true;
+    finestra.lblA.ForeColor = Rgb(255, 0, 0);
+    finestra.lblB1.ForeColor = Rgb(0, 255, 0);
+    finestra.lblC.ForeColor = Rgb(0, 0, 255);
+}
+
+}  // namespace corvana

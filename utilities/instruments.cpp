@@ -1,0 +1,105 @@
+#include "utilities/instruments.h"
+
+#include <algorithm>
+#include <array>
+
+#include "core/effects.h"
+#include "core/language.h"
+#include "core/notation.h"
+#include "forms/keys.h"
+
+namespace corvana {
+
+namespace {
+
+constexpr int strumenti = 128;
+constexpr Colore rosso = 255;
+constexpr Colore blu = 0xFF0000;
+/// Where the window opens, in twips from the main window.
+constexpr int aDestra = 900;
+constexpr int inBasso = 2600;
+
+constexpr std::array posti = {
+    Posto{"frmStrum", 0, 0, 4245, 3150, "Corvana"},
+    Posto{"List1", 225, 225, 2850, 2700},
+    Posto{"cmdTest", 3300, 300, 720, 720, {}, "Test", "icona:prova"},
+    Posto{"cmdEscibg", 3195, 2475, 825, 420, {}, {}, "pulsante"},
+    Posto{"cmdEsci", 3195, 2475, 825, 420, "O K", {}, "pulsante"},
+};
+
+}  // namespace
+
+frmStrum::frmStrum(const Ambiente& ambiente) : Form("frmStrum"), a_(ambiente) {
+    Disponi(*this, posti.data(), posti.size());
+    cmdEsci.ForeColor = blu;
+    List1.Click = [this] { List1_Click(); };
+    cmdEsci.Click = cmdEscibg.Click = [this] { cmdEsci_Click(); };
+    cmdTest.Click = [this] { cmdTest_Click(); };
+    MouseDown = [this](const Evento& e) { Form_MouseDown(e.codice); };
+    CollegaHover();
+}
+
+void frmStrum::Form_Load() {
+    a_.globali.PickerAperto = true;
+    a_.globali.hover = {};
+    RitagliaForm(*this, 283, 210);
+    Gradiente(*this, 191, 255, 0, 255, 255, 0, "ds", "i");
+    Righe righe;
+    for (std::int32_t i = 0; i < strumenti; ++i)
+        righe.push_back(std::to_string(i) + " - " + NomeStrumento(i));
+    List1.List = std::move(righe);
+    Left = aDestra;
+    Top = inBasso;
+    // A stored state edited by hand may name an instrument that the list hasn't.
+    List1.Seleziona(std::clamp(a_.globali.StrumentoGlobale, 0, strumenti - 1));
+}
+
+void frmStrum::List1_Click() {
+    a_.globali.StrumentoGlobale = List1.ListIndex;
+    a_.suono.CambiaStrumento(List1.ListIndex, 0);
+}
+
+void frmStrum::cmdTest_Click() {
+    a_.suono.SuonaSigla(1);
+}
+
+void frmStrum::cmdEsci_Click() {
+    a_.finestre.Scarica(*this);
+}
+
+void frmStrum::Form_KeyDown(const Evento& tasto) {
+    if (tasto.codice == vk::esc) cmdEsci_Click();
+}
+
+void frmStrum::Form_MouseDown(int Button) {
+    if (Button == bottoneSinistro) Trascina();
+}
+
+void frmStrum::Form_Unload(bool& /*Cancel*/) {
+    a_.globali.PickerAperto = false;
+    a_.globali.hover = {};
+}
+
+void frmStrum::CollegaHover() {
+    StatoHover& hover = a_.globali.hover;
+    cmdEsci.MouseMove = cmdEscibg.MouseMove = [this, &hover](const Evento&) {
+        if (hover.HoverNome != "cmdesci") LasciaHover();
+        hover.HoverNome = "cmdesci";
+        EffettoPulsante(hover, cmdEscibg, cmdEsci, "over", rosso);
+    };
+    cmdTest.MouseMove = [this, &hover](const Evento&) {
+        if (hover.HoverNome != "cmdtest") LasciaHover();
+        hover.HoverNome = "cmdtest";
+        EffettoImmagine(hover, cmdTest, "over");
+    };
+    MouseMove = [this](const Evento&) { LasciaHover(); };
+}
+
+void frmStrum::LasciaHover() {
+    StatoHover& hover = a_.globali.hover;
+    if (hover.HoverNome == "cmdesci") EffettoPulsante(hover, cmdEscibg, cmdEsci, "out", blu);
+    if (hover.HoverNome == "cmdtest") EffettoImmagine(hover, cmdTest, "out");
+    hover.HoverNome.clear();
+}
+
+}  // namespace corvana

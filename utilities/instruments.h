@@ -1,0 +1,36 @@
+// The list of the 128 instruments, for whoever opens it: what a choice changes is the caller's.
+// Logic thread.
+#pragma once
+
+#include "core/globals.h"
+#include "forms/form.h"
+
+namespace corvana {
+
+class frmStrum final : public Form {
+public:
+    explicit frmStrum(const Ambiente& ambiente);
+
+    Etichetta lblTitolo{*this, "lblTitolo"};
+    Lista List1{*this, "List1"};
+    Figura cmdEscibg{*this, "cmdEscibg"};
+    Etichetta cmdEsci{*this, "cmdEsci"};
+    Figura cmdTest{*this, "cmdTest"};
+
+    void Form_Load() override;
+    void Form_KeyDown(const Evento& tasto) override;
+    void Form_MouseDown(int Button);
+    void Form_Unload(bool& Cancel) override;
+
+    void List1_Click();
+    void cmdEsci_Click();
+    void cmdTest_Click();
+
+private:
+    void CollegaHover();
+    void LasciaHover();
+
+    Ambiente a_;
+};
+
+}  // namespace corvana
