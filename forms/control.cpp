@@ -34,7 +34,7 @@ void Controllo::SetFocus() {
 }
 
 void Casella::Accogli(const Evento& e) {
-    if (e.fatto == Fatto::Change) Text.PonDaUtente(e.testo);
+    if (e.fatto == Fatto::Change && !Locked) Text.PonDaUtente(e.testo);
 }
 
 void Casella::Ripeti() {

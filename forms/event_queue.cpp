@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cmath>
+#include <limits>
 
 namespace corvana {
 
@@ -47,10 +47,10 @@ bool CodaEventi::Vuota() const {
 bool CodaEventi::Aspetta(double fino) {
     std::unique_lock guardia(blocco_);
     const auto pronto = [this] { return !eventi_.empty(); };
-    if (std::isinf(fino))
+    if (fino == std::numeric_limits<double>::infinity())
         arrivo_.wait(guardia, pronto);
     else
-        arrivo_.wait_until(guardia, Istante(fino), pronto);
+        arrivo_.wait_until(guardia, Istante(std::max(fino, 0.0)), pronto);
     return pronto();
 }
 

@@ -1,5 +1,7 @@
 #include "forms/pump.h"
 
+#include <algorithm>
+
 namespace corvana {
 
 namespace {
@@ -18,8 +20,10 @@ void Pompa::PompaEventi() {
 }
 
 void Pompa::AttendiEvento(double fino) {
+    // Time never runs back, though the instant asked for may have passed.
+    const double scadenza = std::max(fino, Adesso());
     orologio_.AspettaEvento(coda_, fino);
-    scadenza_ = coda_.Vuota() ? fino : -perSempre;
+    scadenza_ = coda_.Vuota() ? scadenza : -perSempre;
     PompaEventi();
 }
 

@@ -39,8 +39,8 @@ void Finestre::MostraModale(Form& form) {
 }
 
 void Finestre::Apri(Form& form, bool modale) {
-    form.identita_ = ++ultimaIdentita_;
     form.Form_Load();
+    form.identita_ = ++ultimaIdentita_;
     aperte_.push_back(&form);
     form.specchio_ = specchio_;
     if (specchio_) specchio_->Mostra(form, modale);

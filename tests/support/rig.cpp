@@ -2,41 +2,55 @@
 
 namespace corvana::prova {
 
+namespace {
+
+Evento EventoTasto(Fatto fatto, int codice) {
+    Evento e;
+    e.fatto = fatto;
+    e.codice = codice;
+    return e;
+}
+
+}  // namespace
+
 Banco::Banco() {
     globali.CartellaProgramma = "/programma";
     impostazioni.CreaSeManca();
 }
 
+Evento Banco::Fatta(Evento evento, const std::string& controllo) const {
+    const Form* davanti = finestre.Davanti();
+    if (!davanti) throw std::logic_error("no window for " + controllo);
+    const Controllo* c = davanti->Trova(controllo.empty() ? davanti->Name : controllo);
+    if (!c) throw std::logic_error("no control " + controllo);
+    evento.finestra = davanti->Identita();
+    evento.controllo = c->Numero();
+    return evento;
+}
+
 void Banco::Manda(double t, Evento evento, const std::string& controllo) {
-    Quando(t, [this, evento, controllo]() mutable {
-        const Form* davanti = finestre.Davanti();
-        if (!davanti) return;
-        const Controllo* c = davanti->Trova(controllo.empty() ? davanti->Name : controllo);
-        if (!c) throw std::logic_error("no control " + controllo);
-        evento.finestra = davanti->Identita();
-        evento.controllo = c->Numero();
-        coda.Aggiungi(evento);
+    Quando(t, [this, evento, controllo] {
+        if (finestre.Davanti()) coda.Aggiungi(Fatta(evento, controllo));
     });
 }
 
-void Banco::Clicca(double t, const std::string& controllo, int valore) {
+void Banco::Fa(double t, Fatto fatto, const std::string& controllo, int valore) {
     Evento e;
+    e.fatto = fatto;
     e.valore = valore;
     Manda(t, e, controllo);
 }
 
+void Banco::Clicca(double t, const std::string& controllo, int valore) {
+    Fa(t, Fatto::Click, controllo, valore);
+}
+
 void Banco::Premi(double t, int codice) {
-    Evento e;
-    e.fatto = Fatto::KeyDown;
-    e.codice = codice;
-    Manda(t, e, "");
+    Manda(t, EventoTasto(Fatto::KeyDown, codice), "");
 }
 
 void Banco::Lascia(double t, int codice) {
-    Evento e;
-    e.fatto = Fatto::KeyUp;
-    e.codice = codice;
-    Manda(t, e, "");
+    Manda(t, EventoTasto(Fatto::KeyUp, codice), "");
 }
 
 void Banco::Tasto(double t, int codice) {

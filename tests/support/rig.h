@@ -6,6 +6,7 @@
 #include "forms/virtual_clock.h"
 #include "sound/recorder.h"
 #include "tests/support/memory_files.h"
+#include "tests/support/recorded_mirror.h"
 #include "tests/support/scripted_dialogs.h"
 
 namespace corvana::prova {
@@ -32,7 +33,8 @@ struct Banco {
     Pompa pompa{orologio, coda};
     Registratore uscita{[this] { return pompa.Adesso(); }};
     DialoghiDaCopione dialoghi;
-    Finestre finestre{pompa, dialoghi, nullptr};
+    SpecchioRegistrato specchio;
+    Finestre finestre{pompa, dialoghi, &specchio};
     Suono suono{uscita, pompa, dialoghi};
     FileInMemoria file;
     Impostazioni impostazioni{file, dialoghi, percorsoImpostazioni};
@@ -41,8 +43,10 @@ struct Banco {
 
     static constexpr const char* percorsoImpostazioni = "/config/settings";
 
-    Ambiente Tutto() {
-        return {globali, pompa, finestre, dialoghi, suono, impostazioni, file, casuale};
+    Ambiente Tutto() { return Con(casuale); }
+    /// The same with another source of chance.
+    Ambiente Con(Casuale& altra) {
+        return {globali, pompa, finestre, dialoghi, suono, impostazioni, file, altra};
     }
 
     /// At the instant `t` of the script (seconds): anything, or an event of the window in front.
@@ -51,9 +55,14 @@ struct Banco {
     void Premi(double t, int codice);
     void Lascia(double t, int codice);
     void Tasto(double t, int codice);  ///< pressed and let go
+    void Fa(double t, Fatto fatto, const std::string& controllo, int valore = 0);
     void Manda(double t, Evento evento, const std::string& controllo);
     /// The end of the script: the run unwinds there.
     void Fine(double t);
+
+    /// The event as the face would make it now, for a control of the window in front ("" is the
+    /// window itself).
+    Evento Fatta(Evento evento, const std::string& controllo) const;
 
     /// Runs `logica` to the script's end. True when it was unwound, false when it returned.
     bool Esegui(const std::function<void()>& logica);

@@ -1,0 +1,153 @@
+#include "core/real_files.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <csignal>
+#include <fstream>
+
+#include "core/settings.h"
+#include "tests/core/temporary_folder.h"
+#include "tests/support/scripted_dialogs.h"
+
+namespace corvana::prova {
+
+namespace {
+
+std::string Contenuto(const std::string& percorso) {
+    std::ifstream file(percorso, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// While it lives no file of this process may grow beyond `byte`: the disk seems full.
+class DiscoPieno {
+public:
+    explicit DiscoPieno(rlim_t byte) : segnale_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &limite_);
+        const rlimit stretto{byte, limite_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &stretto);
+    }
+    DiscoPieno(const DiscoPieno&) = delete;
+    DiscoPieno& operator=(const DiscoPieno&) = delete;
+    ~DiscoPieno() {
+        setrlimit(RLIMIT_FSIZE, &limite_);
+        std::signal(SIGXFSZ, segnale_);
+    }
+
+private:
+    rlimit limite_{};
+    void (*segnale_)(int);
+};
+
+}  // namespace
+
+TEST(FileReali, WhatWasWrittenIsReadByteForByte) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    std::string byte;
+    for (int i = 0; i < 300000; ++i)
+        byte += static_cast<char>(i * 7);
+    EXPECT_EQ(file.ScriviAtomico(cartella.Di("a"), byte), 0);
+    std::string letto = "old";
+    EXPECT_EQ(file.Leggi(cartella.Di("a"), letto), 0);
+    EXPECT_EQ(letto, byte);
+}
+
+TEST(FileReali, AWriteReplacesTheContentWholeAndLeavesNoTemporary) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    file.ScriviAtomico(cartella.Di("a"), "a long old content");
+    EXPECT_EQ(file.ScriviAtomico(cartella.Di("a"), "new"), 0);
+    EXPECT_EQ(Contenuto(cartella.Di("a")), "new");
+    EXPECT_EQ(file.ScriviAtomico(cartella.Di("a"), ""), 0);
+    EXPECT_EQ(Contenuto(cartella.Di("a")), "");
+    EXPECT_EQ(cartella.Quanti(), 1);
+}
+
+TEST(FileReali, AFullDiskLeavesTheOldContentAndNoTemporary) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    ASSERT_EQ(file.ScriviAtomico(cartella.Di("a"), "old"), 0);
+    {
+        const DiscoPieno pieno(1000);
+        EXPECT_EQ(file.ScriviAtomico(cartella.Di("a"), std::string(100000, 'n')), EFBIG);
+    }
+    EXPECT_EQ(Contenuto(cartella.Di("a")), "old");
+    EXPECT_EQ(cartella.Quanti(), 1);
+}
+
+TEST(FileReali, AWriteBelowWhatIsNoFolderTellsItsError) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    file.ScriviAtomico(cartella.Di("a"), "x");
+    EXPECT_EQ(file.ScriviAtomico(cartella.Di("a/b"), "y"), ENOTDIR);
+    EXPECT_EQ(file.ScriviAtomico(cartella.Di("none/b"), "y"), ENOENT);
+    EXPECT_EQ(cartella.Quanti(), 1);
+}
+
+TEST(FileReali, AWriteOntoAFolderTellsItsErrorAndLeavesNoTemporary) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    ASSERT_EQ(file.CreaCartella(cartella.Di("f")), 0);
+    EXPECT_EQ(file.ScriviAtomico(cartella.Di("f"), "y"), EISDIR);
+    EXPECT_EQ(cartella.Quanti(), 1);
+}
+
+TEST(FileReali, ReadingTellsWhatFailedAndGivesNothing) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    std::string contenuto = "old";
+    EXPECT_EQ(file.Leggi(cartella.Di("none"), contenuto), ENOENT);
+    EXPECT_EQ(contenuto, "");
+    EXPECT_EQ(file.Leggi(cartella.Di(""), contenuto), EISDIR);
+}
+
+TEST(FileReali, OnlyAFileExistsAsAFile) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    EXPECT_FALSE(file.Esiste(cartella.Di("a")));
+    EXPECT_FALSE(file.Esiste(cartella.Di("")));
+    file.ScriviAtomico(cartella.Di("a"), "");
+    EXPECT_TRUE(file.Esiste(cartella.Di("a")));
+}
+
+TEST(FileReali, AFolderIsMadeWithThoseAboveItAndMayBeThere) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    EXPECT_EQ(file.CreaCartella(cartella.Di("a/b/c")), 0);
+    EXPECT_EQ(file.CreaCartella(cartella.Di("a/b/c")), 0);
+    EXPECT_TRUE(std::filesystem::is_directory(cartella.Di("a/b/c")));
+    file.ScriviAtomico(cartella.Di("file"), "");
+    EXPECT_EQ(file.CreaCartella(cartella.Di("file/c")), ENOTDIR);
+}
+
+TEST(ImpostazioniSuDisco, AreMadeInAFolderThatIsMadeWithThem) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    DialoghiDaCopione dialoghi;
+    Impostazioni impostazioni(file, dialoghi, cartella.Di("config/corvana/settings"));
+    impostazioni.CreaSeManca();
+    EXPECT_EQ(Contenuto(cartella.Di("config/corvana/settings")),
+              "Language=\nCorvanaLastS=\nLastDir=\nIntoLastS=\n");
+    impostazioni.ScriviValore("LastDir", "/perché\n");
+    EXPECT_EQ(impostazioni.LeggiValore("LastDir"), "/perché\n");
+    EXPECT_TRUE(dialoghi.messaggi.empty());
+}
+
+TEST(ImpostazioniSuDisco, TellTheSystemsErrorCodes) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    DialoghiDaCopione dialoghi;
+    Impostazioni assenti(file, dialoghi, cartella.Di("none"));
+    Impostazioni cartelle(file, dialoghi, cartella.Di(""));
+    EXPECT_EQ(assenti.LeggiValore("Language"), "");
+    EXPECT_EQ(cartelle.LeggiValore("Language"), "");
+    EXPECT_EQ(dialoghi.messaggi,
+              (std::vector<std::string>{"Error1 Opening key: 2",
+                                        "Error1 Opening key: " + std::to_string(EISDIR)}));
+    assenti.ScriviValore("Language", "en");
+    EXPECT_EQ(cartella.Quanti(), 0);
+}
+
+}  // namespace corvana::prova

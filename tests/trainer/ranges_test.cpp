@@ -1,0 +1,102 @@
+// The exercises' table and the draw from a range.
+#include "trainer/ranges.h"
+
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include <cmath>
+
+#include "core/random.h"
+#include "trainer/positions.h"
+
+namespace corvana::prova {
+
+namespace {
+
+struct Attesa {
+    const char* testo;
+    int basso, alto;
+};
+
+constexpr std::array<Attesa, 11> attese = {{
+    {"Chiave di Sol: SI - MI", 43, 53},
+    {"Chiave di Sol: Sol - Sol", 41, 55},
+    {"Chiave di Sol: Fa - Do", 40, 58},
+    {"Chiave di Sol: Fa - Sol", 40, 62},
+    {"---------------------------", 0, 0},
+    {"Chiave di Fa: Sol - La", 18, 26},
+    {"Chiave di Fa: Mi - Do", 16, 28},
+    {"Chiave di Fa: Do - Mi", 14, 30},
+    {"Chiave di Fa: Sol - Fa", 11, 31},
+    {"----------------------------", 0, 0},
+    {"5 Ottave Do - Si", 14, 64},
+}};
+
+const double quasiUno = 1 - std::ldexp(1.0, -53);
+
+std::uint8_t Byte(int numero) {
+    return static_cast<std::uint8_t>(numero);
+}
+
+}  // namespace
+
+TEST(RigheEsercizio, AreTheElevenOfTheList) {
+    for (std::size_t i = 0; i < attese.size(); ++i) {
+        EXPECT_EQ(righeEsercizio.at(i).testo, attese.at(i).testo);
+        EXPECT_EQ(righeEsercizio.at(i).limiteBasso, attese.at(i).basso) << i;
+        EXPECT_EQ(righeEsercizio.at(i).limiteAlto, attese.at(i).alto) << i;
+    }
+}
+
+TEST(RigaDaLimiti, FindsEachRowByItsLimitsAndNoSeparator) {
+    for (std::size_t i = 0; i < attese.size(); ++i) {
+        const bool separatore = attese.at(i).basso == 0;
+        const auto riga = RigaDaLimiti(attese.at(i).basso, attese.at(i).alto);
+        EXPECT_EQ(riga.value_or(-1), separatore ? -1 : static_cast<int>(i));
+    }
+}
+
+TEST(RigaDaLimiti, KnowsNoOtherPair) {
+    int trovate = 0;
+    for (int basso = 0; basso <= 255; ++basso)
+        for (int alto = 0; alto <= 255; ++alto)
+            trovate += RigaDaLimiti(basso, alto).has_value();
+    EXPECT_EQ(trovate, 9);
+}
+
+TEST(PosizioneEstratta, IsTheWholePartOfTheDrawTimesTheWidthPlusTheLowerLimit) {
+    EXPECT_EQ(PosizioneEstratta(0, 43, 53), 43);
+    EXPECT_EQ(PosizioneEstratta(0.0909, 43, 53), 43);
+    EXPECT_EQ(PosizioneEstratta(0.091, 43, 53), 44);
+    EXPECT_EQ(PosizioneEstratta(0.5, 43, 53), 48);
+    EXPECT_EQ(PosizioneEstratta(0.999, 43, 53), 53);
+}
+
+TEST(PosizioneEstratta, NeverExceedsTheUpperLimitForTheLargestDrawThereIs) {
+    for (int basso = 0; basso <= 255; ++basso)
+        for (int alto = basso; alto <= 255; ++alto)
+            ASSERT_EQ(PosizioneEstratta(quasiUno, Byte(basso), Byte(alto)), alto)
+                << basso << " to " << alto;
+}
+
+RC_GTEST_PROP(PosizioneEstratta, LiesInTheRangeForAnyDraw, ()) {
+    const int basso = *rc::gen::inRange(0, 256);
+    const int alto = *rc::gen::inRange(basso, 256);
+    // Any multiple of 2^-53 below 1.
+    const auto numeratore = *rc::gen::inRange<std::int64_t>(0, std::int64_t{1} << 53);
+    const double r = std::ldexp(static_cast<double>(numeratore), -53);
+    const int posizione = PosizioneEstratta(r, Byte(basso), Byte(alto));
+    RC_ASSERT(posizione >= basso);
+    RC_ASSERT(posizione <= alto);
+}
+
+TEST(PosizioneEstratta, TheProgramsOwnDrawsReachEveryPositionOfARow) {
+    CasualeFisso casuale;
+    std::array<int, 256> volte{};
+    for (int i = 0; i < 10000; ++i)
+        ++volte.at(PosizioneEstratta(casuale.Estrai(), 14, 64));
+    for (int numero = 14; numero <= 64; ++numero)
+        EXPECT_GT(volte.at(static_cast<std::size_t>(numero)), 100) << numero;
+}
+
+}  // namespace corvana::prova
