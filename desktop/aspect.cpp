@@ -72,6 +72,10 @@ QColor InQt(Colore colore, const QColor& altrimenti) {
     return {Rosso(colore), Verde(colore), Blu(colore)};
 }
 
+Colore InColore(const QColor& colore) {
+    return Rgb(colore.red(), colore.green(), colore.blue());
+}
+
 QString SenzaAccesso(const QString& caption) {
     QString nudo;
     for (qsizetype i = 0; i < caption.size(); ++i) {

@@ -36,6 +36,8 @@ QString InQt(const std::string& testo);
 /// The colour, or `altrimenti` when the control leaves it to the face.
 QColor InQt(Colore colore, const QColor& altrimenti);
 
+Colore InColore(const QColor& colore);
+
 /// A caption without the marks of its access key.
 QString SenzaAccesso(const QString& caption);
 /// What a screen reader says for the control: its tool tip, else its caption.

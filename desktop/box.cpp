@@ -7,6 +7,8 @@
 #include <QPushButton>
 
 #include "desktop/aspect.h"
+#include "desktop/icon_painter.h"
+#include "desktop/look.h"
 
 namespace corvana {
 
@@ -17,7 +19,10 @@ QDialog* CreaMessaggio(const ApriRiquadro& richiesta, QWidget* sopra) {
     auto* box = new QMessageBox(sopra);
     box->setTextFormat(Qt::PlainText);
     box->setText(InQt(richiesta.testo));
-    box->setIcon(domanda ? QMessageBox::Question : QMessageBox::Information);
+    const QString segno = domanda ? QStringLiteral("domanda") : QStringLiteral("messaggio");
+    constexpr int lato = 48;
+    box->setIconPixmap(
+        IconaDelProgramma(segno).pixmap(QSize(lato, lato), box->devicePixelRatioF()));
     box->setStandardButtons(domanda ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     if (domanda) box->setEscapeButton(QMessageBox::No);
     return box;
@@ -44,7 +49,7 @@ QDialog* ApriDialogo(const ApriRiquadro& richiesta, QWidget* sopra,
     const bool immissione = richiesta.genere == GenereRiquadro::Immissione;
     QDialog* box = immissione ? CreaImmissione(richiesta, sopra) : CreaMessaggio(richiesta, sopra);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowTitle(richiesta.titolo.empty() ? QApplication::applicationDisplayName()
+    box->setWindowTitle(richiesta.titolo.empty() ? QString::fromLatin1(nomeProgramma)
                                                  : InQt(richiesta.titolo));
     QObject::connect(box, &QDialog::finished, box,
                      [box, risposta](int esito) { risposta(RispostaDiDialogo(*box, esito)); });

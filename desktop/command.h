@@ -51,6 +51,11 @@ struct ChiudiFinestra {
     std::uint32_t finestra;
 };
 
+/// The system is to drag the window from here on, as if by its caption.
+struct TrascinaFinestra {
+    std::uint32_t finestra;
+};
+
 enum class GenereRiquadro : std::uint8_t { Messaggio, Domanda, Immissione };
 
 struct ApriRiquadro {
@@ -63,6 +68,6 @@ struct ApriRiquadro {
 struct FineLogica {};
 
 using Comando = std::variant<MostraFinestra, CambiaProprieta, DaiFuoco, ChiudiFinestra,
-                             ApriRiquadro, FineLogica>;
+                             TrascinaFinestra, ApriRiquadro, FineLogica>;
 
 }  // namespace corvana

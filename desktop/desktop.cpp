@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QWindow>
 #include <algorithm>
 #include <cstdio>
 
@@ -110,7 +111,14 @@ void Scrivania::Fai(const DaiFuoco& comando) {
 
 void Scrivania::Fai(const ChiudiFinestra& comando) {
     std::erase_if(finestre_, [&](const auto& f) { return f->Identita() == comando.finestra; });
-    if (uscita_ && !finestre_.empty()) finestre_.back()->ChiediChiusura();
+    if (finestre_.empty()) return;
+    finestre_.back()->Finestra().activateWindow();
+    if (uscita_) finestre_.back()->ChiediChiusura();
+}
+
+void Scrivania::Fai(const TrascinaFinestra& comando) {
+    if (VistaFinestra* finestra = Cerca(comando.finestra))
+        finestra->Finestra().windowHandle()->startSystemMove();
 }
 
 void Scrivania::Fai(const ApriRiquadro& comando) {

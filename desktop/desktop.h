@@ -54,6 +54,7 @@ private:
     void Fai(const CambiaProprieta& comando);
     void Fai(const DaiFuoco& comando);
     void Fai(const ChiudiFinestra& comando);
+    void Fai(const TrascinaFinestra& comando);
     void Fai(const ApriRiquadro& comando);
     void Fai(const FineLogica& comando);
     VistaFinestra* Cerca(std::uint32_t identita);

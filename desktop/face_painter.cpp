@@ -8,19 +8,34 @@ namespace corvana {
 namespace {
 
 constexpr double raggioPulsante = 7;
-constexpr double raggioCarta = 10;
-constexpr double raggioTondo = 5;
 
-double Raggio(const Aspetto& a, double scala) {
-    if (a.Ha("pulsante")) return raggioPulsante * scala;
-    if (a.Ha("carta")) return raggioCarta * scala;
-    return a.Ha("tondo") ? raggioTondo * scala : 0;
-}
+/// What a style word makes of a control's ground.
+struct Forma {
+    const char* parola;
+    double raggio;  ///< of the corners, in designed pixels
+    bool bordata;
+    bool premibile;       ///< it answers to the pointer
+    const QColor* fondo;  ///< where the control has no colour of its own
+};
 
-QColor FondoProprio(const Aspetto& a) {
-    if (a.Ha("pulsante")) return InQt(a.fondo, tinta::bottone);
-    if (a.Ha("carta")) return InQt(a.fondo, tinta::pannello);
-    return InQt(a.fondo, Qt::transparent);
+const Forma forme[] = {
+    {"pulsante", raggioPulsante, true, true, &tinta::bottone},
+    {"carta", 10, true, false, &tinta::pannello},
+    {"arrotondata", 11, true, false, &tinta::finestra},
+    {"pannello", 11, true, false, &tinta::pannello},
+    {"scelta", 6, true, true, &tinta::bottone},
+    {"aiuto", 12, true, true, &tinta::bottone},
+    {"chiudi", 9, true, true, &tinta::bottone},
+    {"barra", 6, true, false, nullptr},
+    {"luce", 3, true, false, nullptr},
+    {"tondo", 5, false, false, nullptr},
+};
+const Forma nuda{"", 0, false, false, nullptr};
+
+const Forma& FormaDi(const Aspetto& a) {
+    for (const Forma& forma : forme)
+        if (a.Ha(forma.parola)) return forma;
+    return nuda;
 }
 
 QColor Sotto(QColor colore, const Tocco& tocco) {
@@ -29,14 +44,10 @@ QColor Sotto(QColor colore, const Tocco& tocco) {
     return tocco.sopra ? PiuScura(colore, 0.035) : colore;
 }
 
-QBrush Pennello(const Aspetto& a, const QRectF& area, const Tocco& tocco) {
+QBrush Pennello(const Aspetto& a, const Forma& forma, const QRectF& area, const Tocco& tocco) {
     if (a.sfumatura.Presente()) return PennelloSfumatura(a.sfumatura, area);
-    const QColor colore = FondoProprio(a);
-    return a.Ha("pulsante") ? QBrush(Sotto(colore, tocco)) : QBrush(colore);
-}
-
-bool Bordato(const Aspetto& a) {
-    return a.bordo != 0 || a.Ha("carta") || a.Ha("pulsante");
+    const QColor colore = InQt(a.fondo, forma.fondo ? *forma.fondo : QColor(Qt::transparent));
+    return forma.premibile ? Sotto(colore, tocco) : colore;
 }
 
 /// A hairline of the screen, whatever the scale, so that it stays thin and sharp.
@@ -58,13 +69,14 @@ void Ombra(QPainter& p, const QRectF& area, double raggio, double scala) {
 
 void DipingiFondo(QPainter& p, const QRectF& area, const Aspetto& a, double scala,
                   const Tocco& tocco) {
-    const double raggio = Raggio(a, scala);
+    const Forma& forma = FormaDi(a);
+    const double raggio = forma.raggio * scala;
     p.setRenderHint(QPainter::Antialiasing, raggio > 0);
     p.setPen(Qt::NoPen);
-    p.setBrush(Pennello(a, area, tocco));
+    p.setBrush(Pennello(a, forma, area, tocco));
     p.drawRoundedRect(area, raggio, raggio);
     p.setRenderHint(QPainter::Antialiasing);
-    if (Bordato(a)) Contorna(p, area, raggio, tinta::filo, scala);
+    if (forma.bordata || a.bordo != 0) Contorna(p, area, raggio, tinta::filo, scala);
 }
 
 void DipingiBottone(QPainter& p, const QRectF& area, const Aspetto& a, double scala,
@@ -95,6 +107,18 @@ void DipingiTesto(QPainter& p, const QRectF& area, const Aspetto& a, double scal
     p.drawText(area,
                static_cast<int>(Allineamento(a.stile)) | Qt::TextWordWrap | Qt::TextHideMnemonic,
                a.caption);
+}
+
+void DipingiTasto(QPainter& p, const QRectF& area, double scala) {
+    p.setRenderHint(QPainter::Antialiasing);
+    const QSizeF misura(26 * scala, area.height());
+    QRectF tasto(QPointF(), misura);
+    tasto.moveCenter(area.center());
+    p.setPen(Qt::NoPen);
+    p.setBrush(tinta::filoForte);
+    p.drawRoundedRect(tasto, 4 * scala, 4 * scala);
+    p.setBrush(tinta::carta);
+    p.drawRoundedRect(tasto.adjusted(scala, scala, -scala, -2.5 * scala), 3.5 * scala, 3.5 * scala);
 }
 
 void DipingiAnello(QPainter& p, const QRectF& area, double scala) {

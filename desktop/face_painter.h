@@ -16,9 +16,8 @@ struct Tocco {
     bool abilitato = true;
 };
 
-/// Gradient or colour, and border, in the shape that the style words name: "tondo" has round
-/// corners, "pulsante" is a raised button, "carta" a panel with a soft edge. Without any of them
-/// nothing is painted.
+/// Gradient or colour, and border, in the shape that a style word names; a plain rectangle without
+/// one. A control with neither colour nor such a word shows what lies beneath it.
 void DipingiFondo(QPainter& p, const QRectF& area, const Aspetto& aspetto, double scala,
                   const Tocco& tocco);
 
@@ -29,6 +28,9 @@ void DipingiBottone(QPainter& p, const QRectF& area, const Aspetto& aspetto, dou
 /// The caption in the control's letters and colour.
 void DipingiTesto(QPainter& p, const QRectF& area, const Aspetto& aspetto, double scala,
                   bool abilitato);
+
+/// The key of a keyboard, in the middle of `area`.
+void DipingiTasto(QPainter& p, const QRectF& area, double scala);
 
 /// Tells which control has the keyboard.
 void DipingiAnello(QPainter& p, const QRectF& area, double scala);

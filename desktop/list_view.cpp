@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QPainter>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 #include <functional>
@@ -14,7 +15,16 @@ namespace corvana {
 
 namespace {
 
-constexpr double aria = 5;  ///< pixels between the list's edge and its rows
+// A slim thumb without arrows, in the colours of the theme.
+constexpr const char* stileScorrimento =
+    "QScrollBar:vertical{background:transparent;width:10px;margin:1px;}"
+    "QScrollBar::handle:vertical{background:#dcd2c0;border-radius:4px;min-height:24px;}"
+    "QScrollBar::handle:vertical:hover{background:#b9ac96;}"
+    "QScrollBar::add-line,QScrollBar::sub-line{height:0;}"
+    "QScrollBar::add-page,QScrollBar::sub-page{background:transparent;}";
+
+constexpr double altezzaRiga = 20;  ///< designed pixels
+constexpr double aria = 5;          ///< pixels between the list's edge and its rows
 
 class Elenco final : public QListWidget {
 public:
@@ -48,7 +58,13 @@ protected:
         if (std::exchange(preme_, false) && currentRow() >= 0) scelta_(currentRow());
     }
     void focusInEvent(QFocusEvent* evento) override {
-        QListWidget::focusInEvent(evento);
+        {
+            // Qt would select the first row of a list in which none is.
+            const QSignalBlocker silenzio(this);
+            const int scelta = currentRow();
+            QListWidget::focusInEvent(evento);
+            setCurrentRow(scelta);
+        }
         update();
     }
     void focusOutEvent(QFocusEvent* evento) override {
@@ -76,8 +92,8 @@ class Riga final : public QStyledItemDelegate {
 public:
     Riga(const Vista& vista, QObject& padre) : QStyledItemDelegate(&padre), vista_(vista) {}
 
-    QSize sizeHint(const QStyleOptionViewItem& opzioni, const QModelIndex&) const override {
-        return {0, static_cast<int>(opzioni.fontMetrics.height() * 1.32)};
+    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
+        return {0, static_cast<int>(altezzaRiga * vista_.Scala())};
     }
     void paint(QPainter* p, const QStyleOptionViewItem& o,
                const QModelIndex& indice) const override {
@@ -127,6 +143,7 @@ VistaLista::VistaLista(const CopiaControllo& copia, Mittente mittente, QWidget& 
     auto* elenco = new Elenco(
         *this, [this](int riga) { Manda(Fatto::Click, riga); }, padre);
     lista_ = elenco;
+    lista_->verticalScrollBar()->setStyleSheet(QString::fromLatin1(stileScorrimento));
     lista_->setItemDelegate(new Riga(*this, *lista_));
     PonWidget(*lista_, lista_->viewport());
     PonRighe();

@@ -3,7 +3,10 @@
 #include <QApplication>
 #include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 
+#include "desktop/face_painter.h"
+#include "desktop/icon_painter.h"
 #include "desktop/theme.h"
 
 namespace corvana {
@@ -14,9 +17,16 @@ class Stile final : public QProxyStyle {
 public:
     Stile() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
+    void drawPrimitive(PrimitiveElement cosa, const QStyleOption* o, QPainter* p,
+                       const QWidget* widget) const override {
+        if (cosa != PE_PanelButtonCommand) return QProxyStyle::drawPrimitive(cosa, o, p, widget);
+        const auto e = [o](StateFlag stato) { return o->state.testFlag(stato); };
+        DipingiBottone(*p, QRectF(o->rect), {}, 1,
+                       {e(State_MouseOver), e(State_Sunken), e(State_HasFocus), e(State_Enabled)});
+    }
     int styleHint(StyleHint cosa, const QStyleOption* opzioni, const QWidget* widget,
                   QStyleHintReturn* altro) const override {
-        if (cosa == SH_EtchDisabledText) return 0;
+        if (cosa == SH_EtchDisabledText || cosa == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
         return QProxyStyle::styleHint(cosa, opzioni, widget, altro);
     }
 };
@@ -25,7 +35,7 @@ public:
 
 void VestiProgramma(QApplication& qt) {
     QApplication::setApplicationName(QStringLiteral("corvana"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Corvana"));
+    QApplication::setWindowIcon(IconaDelProgramma(QStringLiteral("corvana")));
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(new Stile);
     QApplication::setPalette(TavolozzaDelProgramma());

@@ -5,6 +5,9 @@ class QApplication;
 
 namespace corvana {
 
+/// What titles call the program.
+constexpr const char* nomeProgramma = "Corvana";
+
 /// Name, style, colours and letters of the program, once after the application was made.
 void VestiProgramma(QApplication& qt);
 

@@ -90,10 +90,11 @@ QPainterPath TracciaSegnoAMano(Segno segno) {
 QPainterPath TracciaGraffa(double altezza, double larghezza) {
     const double h = altezza, l = larghezza, mezzo = h / 2;
     QPainterPath graffa(QPointF(0, 0));
-    graffa.cubicTo(-1.35 * l, 0.16 * h, 0.25 * l, 0.36 * h, -l, mezzo);
-    graffa.cubicTo(0.25 * l, 0.64 * h, -1.35 * l, 0.84 * h, 0, h);
-    graffa.cubicTo(-0.75 * l, 0.80 * h, 0.62 * l, 0.64 * h, -l, mezzo);
-    graffa.cubicTo(0.62 * l, 0.36 * h, -0.75 * l, 0.20 * h, 0, 0);
+    graffa.cubicTo(-1.75 * l, 0.13 * h, 0.45 * l, 0.38 * h, -l, mezzo);
+    graffa.cubicTo(0.45 * l, 0.62 * h, -1.75 * l, 0.87 * h, 0, h);
+    const QPointF dentro(-0.7 * l, mezzo);
+    graffa.cubicTo({-0.85 * l, 0.85 * h}, {1.1 * l, 0.64 * h}, dentro);
+    graffa.cubicTo({1.1 * l, 0.36 * h}, {-0.85 * l, 0.15 * h}, {0, 0});
     return graffa;
 }
 

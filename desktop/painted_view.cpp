@@ -5,6 +5,8 @@
 #include <QLabel>
 
 #include "desktop/icon_painter.h"
+#include "desktop/ornament_painter.h"
+#include "desktop/theme.h"
 
 namespace corvana {
 
@@ -54,16 +56,26 @@ protected:
     }
 };
 
+/// The question mark stays on its button when it is taken away to show that the help is on.
+Aspetto Acceso(Aspetto aspetto) {
+    if (!aspetto.Ha("aiuto") || !aspetto.caption.isEmpty()) return aspetto;
+    aspetto.caption = QStringLiteral("?");
+    aspetto.fondo = InColore(tinta::accento);
+    aspetto.penna = Rgb(255, 255, 255);
+    return aspetto;
+}
+
 }  // namespace
 
 VistaDipinta::VistaDipinta(const CopiaControllo& copia, Mittente mittente, QWidget& padre)
     : Vista(copia, mittente) {
     PonWidget(CreaWidget(padre));
     VistaDipinta::Rinfresca(Nome::Caption);
+    if (copia.tipo == Genere::Casella) Widget()->setAccessibleName(Stato().text);
 }
 
 bool VistaDipinta::Cliccabile() const {
-    return Origine().ascoltaClick;
+    return Origine().ascoltaClick && Origine().tipo != Genere::Casella;
 }
 
 QWidget& VistaDipinta::CreaWidget(QWidget& padre) {
@@ -78,9 +90,12 @@ QWidget& VistaDipinta::CreaWidget(QWidget& padre) {
 }
 
 void VistaDipinta::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
-    DipingiFondo(p, area, Stato(), Scala(), tocco);
+    if (Stato().Ha("pulsante")) return DipingiBottone(p, area, Stato(), Scala(), tocco);
+    const Aspetto aspetto = Acceso(Stato());
+    DipingiFondo(p, area, aspetto, Scala(), tocco);
+    if (Stato().Ha("ornamento")) DipingiOrnamento(p, area, Scala());
     const bool finestra = Origine().tipo == Genere::Finestra;
-    if (!finestra) DipingiTesto(p, area, Stato(), Scala(), tocco.abilitato);
+    if (!finestra) DipingiTesto(p, area, aspetto, Scala(), tocco.abilitato);
     if (tocco.fuoco) DipingiAnello(p, area, Scala());
 }
 
@@ -90,6 +105,32 @@ void VistaDipinta::Rinfresca(Nome nome) {
         if (auto* etichetta = qobject_cast<QLabel*>(Widget()))
             etichetta->setText(SenzaAccesso(Stato().caption));
     Vista::Rinfresca(nome);
+}
+
+void VistaSpiegazione::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
+    Aspetto aspetto = Stato();
+    aspetto.caption = aspetto.text.replace(QLatin1Char('&'), QLatin1String("&&"));
+    DipingiFondo(p, area, aspetto, Scala(), tocco);
+    DipingiTesto(p, area, aspetto, Scala(), tocco.abilitato);
+}
+
+void VistaSpiegazione::Rinfresca(Nome nome) {
+    if (nome == Nome::Text) Widget()->setAccessibleName(Stato().text);
+    Vista::Rinfresca(nome);
+}
+
+void VistaColonne::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
+    const QStringList parole = SenzaAccesso(Stato().caption).split(QLatin1Char('-'));
+    const double passo = area.width() / static_cast<double>(parole.size());
+    for (qsizetype i = 0; i < parole.size(); ++i) {
+        Aspetto una = Stato();
+        una.caption = parole[i].trimmed();
+        una.stile << QStringLiteral("centro") << QStringLiteral("mezzo");
+        const QRectF colonna(area.x() + static_cast<double>(i) * passo, area.y(), passo,
+                             area.height());
+        if (Stato().Ha("tasti")) DipingiTasto(p, colonna, Scala());
+        DipingiTesto(p, colonna, una, Scala(), tocco.abilitato);
+    }
 }
 
 void VistaIcona::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {

@@ -23,6 +23,24 @@ private:
     bool Cliccabile() const;
 };
 
+/// A text of several lines that is only to be read: style "spiegazione" of a text box.
+class VistaSpiegazione final : public VistaDipinta {
+public:
+    using VistaDipinta::VistaDipinta;
+    void Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) override;
+
+protected:
+    void Rinfresca(Nome nome) override;
+};
+
+/// Words between dashes, each in its own column: style "colonne"; with "tasti" each looks like a
+/// key.
+class VistaColonne final : public VistaDipinta {
+public:
+    using VistaDipinta::VistaDipinta;
+    void Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) override;
+};
+
 /// A picture of the program's own set: style "icona:" and its name.
 class VistaIcona final : public VistaDipinta {
 public:

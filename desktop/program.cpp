@@ -2,10 +2,9 @@
 
 #include "core/real_files.h"
 #include "core/single_instance.h"
-#include "core/startup.h"
 #include "desktop/application.h"
 #include "forms/real_clock.h"
-#include "trainer/corvana_main.h"
+#include "program/program.h"
 
 namespace corvana {
 
@@ -25,10 +24,9 @@ void EseguiProgramma(Applicazione& applicazione, const Macchina& macchina) {
     Suono suono(*uscite, pompa, dialoghi);
     if (!istanza.AltraIstanza()) impostazioni.CreaSeManca();
     const Ambiente ambiente{globali, pompa, finestre, dialoghi, suono, impostazioni, file, casuale};
-    CorvanaMainF principale(ambiente, {});
-    if (macchina.pronta) macchina.pronta(principale);
-    Main(ambiente, istanza.AltraIstanza(), [&] { finestre.Mostra(principale); });
-    finestre.Esegui();
+    Programma programma(ambiente);
+    if (macchina.pronta) macchina.pronta(programma.principale);
+    programma.Esegui(istanza.AltraIstanza());
 }
 
 }  // namespace corvana

@@ -58,6 +58,10 @@ void SpecchioRemoto::Fuoco(const Controllo& controllo) {
     cassetta_.Metti(DaiFuoco{controllo.Finestra().Identita(), controllo.Numero()});
 }
 
+void SpecchioRemoto::Trascina(const Form& form) {
+    cassetta_.Metti(TrascinaFinestra{form.Identita()});
+}
+
 void SpecchioRemoto::Chiudi(const Form& form) {
     cassetta_.Metti(ChiudiFinestra{form.Identita()});
 }

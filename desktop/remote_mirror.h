@@ -26,6 +26,7 @@ public:
     void Mostra(const Form& form, bool modale) override;
     void Cambiato(const Controllo& controllo, Nome nome, const Valore& valore) override;
     void Fuoco(const Controllo& controllo) override;
+    void Trascina(const Form& form) override;
     void Chiudi(const Form& form) override;
 
     void MsgBox(const std::string& testo) override;

@@ -13,7 +13,7 @@ constexpr double spazioPentagramma = 2 * altezzaPosizione;  ///< from one line t
 constexpr int primaLineaBasso = 18, primaLineaViolino = 46;  ///< positions of the lowest lines
 constexpr int lineePentagramma = 5;
 
-constexpr double inizioLinee = 225, fineLinee = 6180;  ///< where the lines begin and end
+constexpr double inizioLinee = 195, fineLinee = 6150;  ///< where the lines begin and end
 
 /// The height of a position's ideal line.
 double AltezzaDi(int posizione);

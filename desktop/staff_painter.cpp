@@ -41,6 +41,12 @@ QPainterPath Testa(const QPointF& centro) {
 
 }  // namespace
 
+void DipingiFoglio(QPainter& p, const QSizeF& misura, double pixel) {
+    p.fillRect(QRectF(QPointF(), misura), tinta::carta);
+    p.fillRect(QRectF(misura.width() - pixel, 0, pixel, misura.height()), tinta::filo);
+    p.fillRect(QRectF(0, misura.height() - pixel, misura.width(), pixel), tinta::filo);
+}
+
 void DipingiPentagrammi(QPainter& p, double pixel) {
     p.setRenderHint(QPainter::Antialiasing);
     for (const int prima : {primaLineaViolino, primaLineaBasso})
@@ -50,11 +56,11 @@ void DipingiPentagrammi(QPainter& p, double pixel) {
     const double basso = AltezzaDi(primaLineaBasso);
     p.fillRect(QRectF(inizioLinee - 12, alto - 8, 24, basso - alto + 16), tinta::inchiostro);
     p.save();
-    p.translate(inizioLinee - 40, alto);
-    p.fillPath(TracciaGraffa(basso - alto, 120), tinta::inchiostro);
+    p.translate(inizioLinee - 30, alto);
+    p.fillPath(TracciaGraffa(basso - alto, 95), tinta::inchiostro);
     p.restore();
-    Chiave(p, Segno::ChiaveViolino, inizioLinee + 75, primaLineaViolino);
-    Chiave(p, Segno::ChiaveBasso, inizioLinee + 55, primaLineaBasso);
+    Chiave(p, Segno::ChiaveViolino, inizioLinee + 70, primaLineaViolino);
+    Chiave(p, Segno::ChiaveBasso, inizioLinee + 45, primaLineaBasso);
 }
 
 void DipingiNota(QPainter& p, int posizione, double x, double pixel) {

@@ -6,6 +6,9 @@
 
 namespace corvana {
 
+/// The sheet on which the staves stand, up against the window's edges.
+void DipingiFoglio(QPainter& p, const QSizeF& misura, double pixel);
+
 /// Lines, brace and clefs. `pixel` is one pixel of the screen in twips: the lines are as thick as a
 /// whole number of them and lie on them, and so stay sharp.
 void DipingiPentagrammi(QPainter& p, double pixel);

@@ -4,11 +4,11 @@
 
 namespace corvana {
 
-void VistaPentagramma::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
-    DipingiFondo(p, area, Stato(), Scala(), tocco);
+void VistaPentagramma::Dipingi(QPainter& p, const QRectF& area, const Tocco&) {
     const double scala = Scala() / twipsPerPixel;
     const double pixel = 1 / (scala * p.device()->devicePixelRatioF());
     p.scale(scala, scala);
+    DipingiFoglio(p, area.size() / scala, pixel);
     DipingiPentagrammi(p, pixel);
     for (const VistaNota* nota : note_)
         if (nota->SiVede()) DipingiNota(p, nota->Posizione(), nota->Ascissa(), pixel);

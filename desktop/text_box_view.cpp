@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPainterPath>
 
 #include "desktop/face_painter.h"
 #include "desktop/theme.h"
@@ -23,7 +24,10 @@ protected:
         Aspetto fondo = vista_.Stato();
         if (fondo.fondo == coloreDiSistema && !fondo.locked) fondo.fondo = Rgb(255, 254, 251);
         QPainter p(this);
+        fondo.bordo = 1;
+        fondo.stile << QStringLiteral("tondo");
         DipingiFondo(p, QRectF(rect()), fondo, vista_.Scala(), {});
+        DipingiSegno(p);
         if (hasFocus()) DipingiAnello(p, QRectF(rect()), vista_.Scala());
         p.end();
         QLineEdit::paintEvent(evento);
@@ -43,6 +47,27 @@ protected:
     }
 
 private:
+    /// What the number tells, for those who don't know its place or its colour.
+    void DipingiSegno(QPainter& p) const {
+        const bool giusto = vista_.Stato().Ha("giuste");
+        if (!giusto && !vista_.Stato().Ha("sbagliate")) return;
+        const double s = vista_.Scala();
+        QPainterPath segno;
+        if (giusto) {
+            segno.addPolygon(QPolygonF({{-5, 0}, {-1.5, 4}, {5, -4.5}}));
+        } else {
+            segno.addPolygon(QPolygonF({{-4, -4}, {4, 4}}));
+            segno.addPolygon(QPolygonF({{-4, 4}, {4, -4}}));
+        }
+        p.setRenderHint(QPainter::Antialiasing);
+        p.setBrush(Qt::NoBrush);
+        p.setPen(QPen(giusto ? tinta::giusto : tinta::sbagliato, 2.4, Qt::SolidLine, Qt::RoundCap,
+                      Qt::RoundJoin));
+        p.translate(14 * s, height() / 2.0);
+        p.scale(s, s);
+        p.drawPath(segno);
+        p.resetTransform();
+    }
     /// As if that had been typed.
     void Inserisci(const QString& testo) {
         QKeyEvent altro(QEvent::KeyPress, 0, Qt::NoModifier, testo);
@@ -84,6 +109,7 @@ VistaCasella::VistaCasella(const CopiaControllo& copia, Mittente mittente, QWidg
 void VistaCasella::PonTesto() {
     // Setting the same text again would move the cursor to its end.
     if (casella_->text() != Stato().text) casella_->setText(Stato().text);
+    Riscala();
 }
 
 void VistaCasella::PonColori() {
@@ -101,7 +127,15 @@ void VistaCasella::Rinfresca(Nome nome) {
 }
 
 void VistaCasella::Riscala() {
-    casella_->setFont(Carattere(Stato().stile, Scala()));
+    QFont font = Carattere(Stato().stile, Scala());
+    // A box that is only read never scrolls: what is too long for it gets smaller letters.
+    const double spazio = casella_->width() - 16 * Scala();
+    while (Stato().locked && font.pixelSize() > 6 &&
+           QFontMetricsF(font).horizontalAdvance(Stato().text) > spazio)
+        font.setPixelSize(font.pixelSize() - 1);
+    casella_->setFont(font);
+    const int margine = static_cast<int>(4 * Scala());
+    casella_->setTextMargins(margine, 0, margine, 0);
 }
 
 }  // namespace corvana

@@ -16,10 +16,12 @@ struct StileTesto {
 };
 
 constexpr StileTesto stili[] = {
-    {"titolo", 14, QFont::DemiBold},
-    {"cifra", 21, QFont::DemiBold},
-    {"piccolo", 11, QFont::Normal},
-    {"nome", 22, QFont::Bold},
+    {"titolo", 14, QFont::DemiBold},   {"cifra", 21, QFont::DemiBold},
+    {"piccolo", 11, QFont::Normal},    {"nome", 22, QFont::Bold},
+    {"risposta", 15, QFont::DemiBold}, {"principale", 15, QFont::DemiBold},
+    {"insegna", 24, QFont::Bold},      {"lettera", 15, QFont::Bold},
+    {"aiuto", 15, QFont::DemiBold},    {"chiudi", 15, QFont::DemiBold},
+    {"percento", 14, QFont::DemiBold},
 };
 constexpr StileTesto semplice{"", 13, QFont::Normal};
 
@@ -81,9 +83,11 @@ QFont Carattere(const QStringList& stile, double scala) {
 
 Qt::Alignment Allineamento(const QStringList& stile) {
     const auto ha = [&](const char* parola) { return stile.contains(QLatin1String(parola)); };
-    const Qt::Alignment riga = ha("centro")   ? Qt::AlignHCenter
-                               : ha("destra") ? Qt::AlignRight
-                                              : Qt::AlignLeft;
+    for (const char* centrato : {"pulsante", "scelta", "aiuto", "chiudi", "lettera", "insegna"})
+        if (ha(centrato)) return Qt::AlignCenter;
+    Qt::Alignment riga = Qt::AlignLeft;
+    if (ha("centro")) riga = Qt::AlignHCenter;
+    if (ha("destra")) riga = Qt::AlignRight;
     return riga | (ha("mezzo") ? Qt::AlignVCenter : Qt::AlignTop);
 }
 

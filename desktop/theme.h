@@ -19,6 +19,8 @@ inline const QColor inchiostroTenue{0x6A, 0x62, 0x56};
 inline const QColor spento{0xA8, 0x9F, 0x91};   ///< what can't be used now
 inline const QColor accento{0x1F, 0x6F, 0x78};  ///< focus, selection, thumbs
 inline const QColor accentoTenue{0xD6, 0xE8, 0xE6};
+inline const QColor giusto{0x2A, 0x7D, 0x3F};
+inline const QColor sbagliato{0xBF, 0x36, 0x2C};
 inline const QColor bottone{0xFF, 0xFD, 0xF8};
 }  // namespace tinta
 
@@ -27,11 +29,11 @@ QPalette TavolozzaDelProgramma();
 /// The typeface of everything but music, by the first family that the machine has.
 QString FamigliaDelTesto();
 
-/// The letters for the style words, `scala` times the designed size. "titolo", "cifra", "piccolo",
-/// "nome" change the size, "forte" the weight.
+/// The letters for the style words, `scala` times the designed size; "forte" makes them heavier.
 QFont Carattere(const QStringList& stile, double scala);
 
-/// Where a text stands for the style words: "centro", "destra", "mezzo" (of the height).
+/// Where a text stands for the style words: "centro", "destra", "mezzo" (of the height); the words
+/// that name a button-like face put it in the middle.
 Qt::Alignment Allineamento(const QStringList& stile);
 
 /// One step towards dark or light, for what is pressed or lies under the pointer.

@@ -20,8 +20,16 @@ std::unique_ptr<Vista> CreaDipinta(const CopiaControllo& copia, Mittente mittent
         return std::make_unique<VistaPentagramma>(copia, mittente, padre);
     if (stile.contains(QLatin1String("regolo")))
         return std::make_unique<VistaRegolo>(copia, mittente, padre);
+    if (stile.contains(QLatin1String("colonne")))
+        return std::make_unique<VistaColonne>(copia, mittente, padre);
     if (EIcona(stile)) return std::make_unique<VistaIcona>(copia, mittente, padre);
     return std::make_unique<VistaDipinta>(copia, mittente, padre);
+}
+
+std::unique_ptr<Vista> CreaCasella(const CopiaControllo& copia, Mittente mittente, QWidget& padre) {
+    if (copia.stile == "spiegazione")
+        return std::make_unique<VistaSpiegazione>(copia, mittente, padre);
+    return std::make_unique<VistaCasella>(copia, mittente, padre);
 }
 
 }  // namespace
@@ -30,7 +38,7 @@ std::unique_ptr<Vista> CreaVista(const CopiaControllo& copia, Mittente mittente,
                                  VistaPentagramma* pentagramma) {
     switch (copia.tipo) {
         case Genere::Bottone: return std::make_unique<VistaBottone>(copia, mittente, padre);
-        case Genere::Casella: return std::make_unique<VistaCasella>(copia, mittente, padre);
+        case Genere::Casella: return CreaCasella(copia, mittente, padre);
         case Genere::Lista: return std::make_unique<VistaLista>(copia, mittente, padre);
         case Genere::Barra: return std::make_unique<VistaBarra>(copia, mittente, padre);
         case Genere::Spunta: return std::make_unique<VistaSpunta>(copia, mittente, padre);

@@ -91,8 +91,15 @@ void VistaFinestra::CreaTutti(const std::vector<CopiaControllo>& controlli, Tast
                      [&sbarra = menu.sbarra] { ApriPrimoMenu(sbarra); });
     for (const CopiaControllo& copia : controlli)
         Crea(copia, menu, padri.contains(copia.numero));
+    if (viste_.front()->Stato().Ha("arrotondata")) Arrotonda();
     finestra_->setWindowTitle(viste_.front()->Stato().caption);
     finestra_->setObjectName(viste_.front()->Stato().nome);
+}
+
+void VistaFinestra::Arrotonda() {
+    finestra_->setWindowFlag(Qt::FramelessWindowHint);
+    finestra_->setAttribute(Qt::WA_TranslucentBackground);
+    finestra_->centralWidget()->setAutoFillBackground(false);
 }
 
 void VistaFinestra::Crea(const CopiaControllo& copia, const Menu& menu, bool haVoci) {

@@ -36,6 +36,8 @@ private:
     friend class Guscio;
     void Crea(const CopiaControllo& copia, const Menu& menu, bool haVoci);
     void CreaTutti(const std::vector<CopiaControllo>& controlli, Tastiera& tastiera);
+    /// Without the system's frame; the face paints its own round corners.
+    void Arrotonda();
     void OrdinaFuoco();
     void Apri(bool modale, VistaFinestra* sotto);
     /// The face as large as the window lets it be, in its middle.

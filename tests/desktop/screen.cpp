@@ -59,6 +59,13 @@ void Clicca(QWidget& widget, QPoint dove) {
     QTest::mouseClick(finestra, Qt::LeftButton, {}, widget.mapTo(widget.window(), dove));
 }
 
+void Muovi(QWidget& widget, QPoint dove) {
+    QWindow* finestra = widget.window()->windowHandle();
+    // The pointer may lie there already, and what doesn't move isn't told.
+    QTest::mouseMove(finestra, QPoint(0, 0));
+    QTest::mouseMove(finestra, widget.mapTo(widget.window(), dove));
+}
+
 void Premi(Scrivania& scrivania, Qt::Key tasto, Qt::KeyboardModifiers modificatori) {
     QTest::keyPress(Davanti(scrivania).Finestra().windowHandle(), tasto, modificatori);
 }

@@ -26,6 +26,9 @@ VistaFinestra& AspettaFinestra(Scrivania& scrivania, const QString& nome);
 void Clicca(Scrivania& scrivania, const QString& nome);
 void Clicca(QWidget& widget, QPoint dove);
 
+/// Brings the pointer there, with no button down.
+void Muovi(QWidget& widget, QPoint dove);
+
 /// A key of the window in front goes down, up, or both, as the system would tell it.
 void Premi(Scrivania& scrivania, Qt::Key tasto, Qt::KeyboardModifiers modificatori = {});
 void Lascia(Scrivania& scrivania, Qt::Key tasto, Qt::KeyboardModifiers modificatori = {});

@@ -31,6 +31,11 @@ public:
         Respira();
     }
     void Premi(const char* nome) { Clicca(scrivania_, QString::fromUtf8(nome)); }
+    void Attendi(const QString& finestra) { AspettaFinestra(scrivania_, finestra); }
+    void Chiudi() {
+        scrivania_.Davanti()->Finestra().close();
+        Attendi(QStringLiteral("CorvanaMainF"));
+    }
     bool Pronto() {
         return Aspetta([this] { return Di("Start").isEnabled(); });
     }
@@ -61,6 +66,25 @@ void FotografaTutto(Servizio& s) {
     s.Scegli("mnuAutomatico");
     Aspetta([&] { return s.Di("Slider1").isVisible(); });
     s.Scatta("automatic");
+    s.Scegli("mnuMetro");
+    Aspetta([&] { return s.Di("frmMetro").isVisible(); });
+    s.Scatta("metronome");
+}
+
+/// A window that opens over the main one, by the control or the menu entry that opens it.
+void FotografaSopra(Servizio& s, const QString& finestra, const std::function<void()>& apri) {
+    apri();
+    s.Attendi(finestra);
+    s.Scatta(finestra);
+    s.Chiudi();
+}
+
+void FotografaSecondarie(Servizio& s) {
+    for (const auto& [voce, finestra] : {std::pair{"mnuVersione", "frmAbout"},
+                                         {"mnuSs", "frmStrum"},
+                                         {"mnuMidiTest", "frmMidiTest"}})
+        FotografaSopra(s, QString::fromLatin1(finestra), [&s, v = voce] { s.Scegli(v); });
+    FotografaSopra(s, QStringLiteral("frmConfMetro"), [&s] { s.Premi("cmdSetup"); });
 }
 
 Macchina MacchinaDiProva(const QString& dati, const QString& stato) {
@@ -85,6 +109,7 @@ int main(int argc, char** argv) {
     AspettaFinestra(scrivania, "CorvanaMainF");
     Servizio servizio(scrivania, QString::fromLocal8Bit(argv[1]));
     FotografaTutto(servizio);
+    FotografaSecondarie(servizio);
     scrivania.Termina();
     return 0;
 }

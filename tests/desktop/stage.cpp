@@ -62,6 +62,12 @@ void Palco::NellaLogica(std::function<void(FormDiProva&)> azione) {
 }
 
 Righe Palco::Diario() {
+    Righe diario = DiarioIntero();
+    std::erase_if(diario, [](const std::string& riga) { return riga.ends_with(" mossa"); });
+    return diario;
+}
+
+Righe Palco::DiarioIntero() {
     NellaLogica({});
     const std::lock_guard guardia(blocco_);
     return std::exchange(diario_, {});

@@ -31,8 +31,11 @@ public:
     /// The same without waiting, for an action that itself waits for the user.
     void Ordina(std::function<void(FormDiProva&)> azione);
 
-    /// What the form's handlers were called for since the last call, in order.
+    /// What the form's handlers were called for since the last call, in order, without the moves of
+    /// the pointer.
     Righe Diario();
+    /// The moves too.
+    Righe DiarioIntero();
 
 private:
     void Logica(const std::function<void(FormDiProva&)>& prepara);

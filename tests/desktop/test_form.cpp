@@ -48,7 +48,8 @@ FormDiProva::FormDiProva(Finestre& f, Dialoghi& d, Diario diario)
     : Form("FormDiProva"), finestre(f), dialoghi(d), diario_(std::move(diario)) {
     Componi();
     for (Controllo* c : Controlli())
-        if (c != this && c != &scritta && c != &Regolo && c->Padre() != &staff && c != &staff)
+        if (c != this && c != &scritta && c != &cornice && c != &Regolo && c->Padre() != &staff &&
+            c != &staff)
             Ascolta(*c);
     Regolo.MouseDown = [this](const Evento& e) { diario_("Regolo " + std::to_string(e.y)); };
     icona.MouseMove = [this](const Evento&) { diario_("icona mossa"); };

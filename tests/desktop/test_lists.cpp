@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QListWidget>
+#include <QMainWindow>
 
 #include "tests/desktop/stage.h"
 
@@ -68,6 +69,15 @@ TEST(Lista, NewRowsKeepTheSelection) {
     EXPECT_EQ(ListaDi(palco).currentRow(), 1);
     palco.NellaLogica([](FormDiProva& form) { form.lista.Clear(); });
     EXPECT_EQ(ListaDi(palco).count(), 0);
+}
+
+TEST(Lista, ItsRowsGrowWithTheWindow) {
+    Palco palco;
+    EXPECT_EQ(ListaDi(palco).sizeHintForRow(0), 20);
+    QMainWindow& finestra = palco.scrivania.Davanti()->Finestra();
+    finestra.resize(finestra.width() * 2, finestra.height() * 2);
+    EXPECT_TRUE(Aspetta(
+        [&] { return ListaDi(palco).visualItemRect(ListaDi(palco).item(0)).height() >= 38; }));
 }
 
 }  // namespace

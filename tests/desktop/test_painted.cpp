@@ -1,18 +1,16 @@
 #include <gtest/gtest.h>
 
 #include <QSvgRenderer>
-#include <QTest>
-#include <QWindow>
 
+#include "desktop/theme.h"
 #include "tests/desktop/stage.h"
 
 namespace corvana::prova {
 namespace {
 
-void Muovi(Scrivania& scrivania, const QString& sopra) {
-    QWidget& widget = Trova(scrivania, sopra);
-    QTest::mouseMove(widget.window()->windowHandle(),
-                     widget.mapTo(widget.window(), widget.rect().center()));
+void Sorvola(Palco& palco, const char* nome) {
+    QWidget& widget = Trova(palco.scrivania, nome);
+    Muovi(widget, widget.rect().center());
 }
 
 TEST(Figura, TheToolTipIsLive) {
@@ -44,17 +42,17 @@ TEST(Figura, TheMouseLeavesTheFocusWhereItIs) {
 
 TEST(Figura, MovesOverItAreItsOwnAndElsewhereTheWindows) {
     Palco palco;
-    Muovi(palco.scrivania, "bottone");
+    Sorvola(palco, "bottone");
     palco.Diario();
-    Muovi(palco.scrivania, "icona");
-    EXPECT_EQ(palco.Diario().back(), "icona mossa");
-    Muovi(palco.scrivania, "spunta");
-    EXPECT_EQ(palco.Diario().back(), "finestra mossa");
+    Sorvola(palco, "icona");
+    EXPECT_EQ(palco.DiarioIntero().back(), "icona mossa");
+    Sorvola(palco, "spunta");
+    EXPECT_EQ(palco.DiarioIntero().back(), "finestra mossa");
 }
 
 TEST(Figura, EveryIconOfTheProgramIsADrawingOfItsOwn) {
-    for (const char* nome :
-         {"orecchio", "composer", "metronomo", "promemoria", "strumenti", "modo", "aiuto"}) {
+    for (const char* nome : {"orecchio", "composer", "metronomo", "promemoria", "strumenti", "modo",
+                             "aiuto", "prova", "corvana", "messaggio", "domanda"}) {
         QSvgRenderer disegno(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(nome)));
         EXPECT_TRUE(disegno.isValid()) << nome;
         EXPECT_EQ(disegno.viewBox(), QRect(0, 0, 32, 32)) << nome;
@@ -70,18 +68,52 @@ TEST(Etichetta, HidingItAndColouringItIsSeen) {
     EXPECT_FALSE(scritta.isVisible());
 }
 
+bool HaColore(const QImage& foto, const QColor& colore) {
+    for (int x = 0; x < foto.width(); ++x)
+        for (int y = 0; y < foto.height(); ++y)
+            if (foto.pixelColor(x, y) == colore) return true;
+    return false;
+}
+
 TEST(Etichetta, ItsTextHasTheControlsColour) {
     Palco palco;
     palco.NellaLogica([](FormDiProva& form) {
         form.scritta.Caption = "MMMM";
         form.scritta.ForeColor = Rgb(255, 0, 0);
     });
+    EXPECT_TRUE(HaColore(Fotografa(Trova(palco.scrivania, "scritta")), QColor(255, 0, 0)));
+}
+
+TEST(Etichetta, WordsInColumnsStandSideBySideAndLookLikeKeys) {
+    Palco palco([](FormDiProva& form) {
+        form.scritta.stile = "colonne tasti";
+        form.scritta.Caption = "d  - 1";
+    });
     const QImage foto = Fotografa(Trova(palco.scrivania, "scritta"));
-    bool rosso = false;
-    for (int x = 0; x < foto.width(); ++x)
-        for (int y = 0; y < foto.height(); ++y)
-            rosso |= foto.pixelColor(x, y) == QColor(255, 0, 0);
-    EXPECT_TRUE(rosso);
+    for (const int x : {25, 75})
+        EXPECT_EQ(foto.pixelColor(x - 9, 10), tinta::carta) << x;
+    EXPECT_NE(foto.pixelColor(50, 10), tinta::carta);
+}
+
+TEST(Casella, AnExplanationIsATextOfSeveralLinesThatTakesNoFocus) {
+    Palco palco([](FormDiProva& form) {
+        form.casella.stile = "spiegazione";
+        form.casella.Text = "Bach & figli\r\nseconda riga";
+    });
+    QWidget& casella = Trova(palco.scrivania, "casella");
+    EXPECT_EQ(casella.focusPolicy(), Qt::NoFocus);
+    EXPECT_EQ(casella.accessibleName(), "Bach & figli\nseconda riga");
+    palco.NellaLogica([](FormDiProva& form) { form.casella.Text = "altro"; });
+    EXPECT_EQ(casella.accessibleName(), "altro");
+}
+
+TEST(Etichetta, TheHelpButtonKeepsItsSignWhileItIsOn) {
+    Palco palco([](FormDiProva& form) { form.toccabile.stile = "aiuto"; });
+    QWidget& aiuto = Trova(palco.scrivania, "toccabile");
+    Trova(palco.scrivania, "bottone").setFocus();
+    EXPECT_FALSE(HaColore(Fotografa(aiuto), tinta::accento));
+    palco.NellaLogica([](FormDiProva& form) { form.toccabile.Caption = ""; });
+    EXPECT_TRUE(HaColore(Fotografa(aiuto), tinta::accento));
 }
 
 }  // namespace

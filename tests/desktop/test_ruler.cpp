@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QTest>
-#include <QWindow>
-
 #include "tests/desktop/stage.h"
 #include "trainer/positions.h"
 
@@ -51,8 +48,7 @@ TEST(Regolo, TheBandUnderThePointerStandsOut) {
     Palco palco;
     QWidget& regolo = RegoloDi(palco);
     const QImage prima = Fotografa(regolo);
-    QTest::mouseMove(regolo.window()->windowHandle(),
-                     regolo.mapTo(regolo.window(), QPoint(8, 120)));
+    Muovi(regolo, {8, 120});
     ASSERT_TRUE(Aspetta([&] { return Fotografa(regolo) != prima; }));
     EXPECT_NE(Fotografa(regolo).pixelColor(8, 120), prima.pixelColor(8, 120));
 }

@@ -100,10 +100,13 @@ TEST(Pentagramma, OnlyThePlaceOfANoteIsPaintedAnew) {
     Palco palco;
     Area area;
     Trova(palco.scrivania, "staff").installEventFilter(&area);
-    palco.NellaLogica([](FormDiProva& form) { form.n50.Visible = true; });
-    ASSERT_TRUE(Aspetta([&] { return !area.dipinta.isEmpty(); }));
-    EXPECT_LT(area.dipinta.width(), 60);
-    EXPECT_LT(area.dipinta.height(), 60);
+    // The platform may yet ask for the whole window of its own accord, but not for ever.
+    EXPECT_TRUE(Aspetta([&] {
+        area.dipinta = {};
+        palco.NellaLogica([](FormDiProva& form) { form.n50.Visible = !form.n50.Visible(); });
+        return Aspetta([&] { return !area.dipinta.isEmpty(); }) && area.dipinta.width() < 60 &&
+               area.dipinta.height() < 60;
+    }));
 }
 
 }  // namespace

@@ -51,6 +51,17 @@ std::vector<double> Brillantezza(std::span<const float> mono, std::size_t passo)
     return energie;
 }
 
+/// How well `parte` follows `modello`, whatever its loudness.
+double Concordanza(std::span<const float> parte, std::span<const float> modello, std::size_t ogni) {
+    double prodotto = 0;
+    double energia = 1e-9;
+    for (std::size_t i = 0; i < modello.size(); i += ogni) {
+        prodotto += static_cast<double>(parte[i]) * modello[i];
+        energia += static_cast<double>(parte[i]) * parte[i];
+    }
+    return prodotto / std::sqrt(energia);
+}
+
 }  // namespace
 
 std::vector<float> Mono(std::span<const float> stereo) {
@@ -121,6 +132,22 @@ std::vector<double> Attacchi(std::span<const float> mono) {
         if (*qui > crescita * quiete + fondo) attacchi.push_back(quando);
     }
     return attacchi;
+}
+
+double Ritrova(std::span<const float> mono, std::span<const float> modello, double intorno,
+               double raggio) {
+    constexpr std::size_t ogni = 5;  // samples of the model that are compared
+    const auto da = static_cast<std::size_t>(std::max(0.0, intorno - raggio) * frequenzaUdito);
+    const auto a = static_cast<std::size_t>((intorno + raggio) * frequenzaUdito);
+    double migliore = 0;
+    std::size_t dove = da;
+    for (std::size_t i = da; i <= a && i + modello.size() <= mono.size(); ++i) {
+        const double somiglianza = Concordanza(mono.subspan(i, modello.size()), modello, ogni);
+        if (somiglianza <= migliore) continue;
+        migliore = somiglianza;
+        dove = i;
+    }
+    return static_cast<double>(dove) / frequenzaUdito;
 }
 
 double Forza(std::span<const float> mono, double hertz) {

@@ -30,6 +30,11 @@ double Picco(std::span<const float> campioni);
 /// 0.1 s count as one.
 std::vector<double> Attacchi(std::span<const float> mono);
 
+/// Where in `mono` a known sound begins, to some tenths of a millisecond: the place within `raggio`
+/// of `intorno`, all in seconds, where `modello` fits best.
+double Ritrova(std::span<const float> mono, std::span<const float> modello, double intorno,
+               double raggio);
+
 /// Strength of one frequency in a part, as a Goertzel filter hears it.
 double Forza(std::span<const float> mono, double hertz);
 

@@ -84,6 +84,13 @@ bool Processo::Vivo() {
     return pid_ > 0;
 }
 
+int Processo::EsitoFinale() {
+    int stato = 0;
+    waitpid(pid_, &stato, 0);
+    pid_ = 0;
+    return WIFEXITED(stato) ? WEXITSTATUS(stato) : -1;
+}
+
 void Processo::Segnala(int segnale) const {
     if (pid_ > 0) kill(pid_, segnale);
 }

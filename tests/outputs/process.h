@@ -44,6 +44,8 @@ public:
     ~Processo() { Termina(); }
 
     bool Vivo();
+    /// Waits for its end; its exit code, or -1 when a signal ended it.
+    int EsitoFinale();
     /// Sends a signal, such as SIGSTOP or SIGKILL.
     void Segnala(int segnale) const;
     /// Lets it go ahead of busy programs, where the user may ask for that. Only its first thread

@@ -47,11 +47,9 @@ TEST(Udito, NumbersNotesFromTheirFrequency) {
 TEST(Udito, FindsStrokesWithinTwoMilliseconds) {
     std::vector<float> onda(48000);
     for (const double inizio : {0.1, 0.45, 0.8})
-        for (std::size_t i = 0; i < 14400; ++i) {
-            const auto dove = static_cast<std::size_t>(inizio * frequenzaUdito) + i;
-            const double t = static_cast<double>(i) / frequenzaUdito;
-            if (dove < onda.size())
-                onda[dove] += static_cast<float>(0.4 * std::exp(-t / 0.08) * std::sin(3000 * t));
+        for (auto i = static_cast<std::size_t>(inizio * frequenzaUdito); i < onda.size(); ++i) {
+            const double t = static_cast<double>(i) / frequenzaUdito - inizio;
+            onda[i] += static_cast<float>(0.4 * std::exp(-t / 0.08) * std::sin(3000 * t));
         }
     const auto attacchi = Attacchi(onda);
     ASSERT_EQ(attacchi.size(), 3U);
@@ -59,6 +57,16 @@ TEST(Udito, FindsStrokesWithinTwoMilliseconds) {
     EXPECT_NEAR(attacchi[1], 0.45, 0.002);
     EXPECT_NEAR(attacchi[2], 0.8, 0.002);
     EXPECT_TRUE(Attacchi(std::vector<float>(48000)).empty());
+}
+
+TEST(Udito, FindsAKnownSoundAmongOthers) {
+    auto modello = Accordo({523, 777}, 0.2);
+    for (std::size_t i = 0; i < modello.size(); ++i)
+        modello[i] *= static_cast<float>(std::exp(-static_cast<double>(i) / 2000));
+    auto onda = Accordo({180}, 1);
+    for (std::size_t i = 0; i < modello.size(); ++i)
+        onda[20'000 + i] += 0.5F * modello[i];
+    EXPECT_NEAR(Ritrova(onda, modello, 0.4, 0.1), 20'000 / frequenzaUdito, 0.001);
 }
 
 TEST(Udito, MeasuresOneFrequencyAlone) {
