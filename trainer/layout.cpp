@@ -42,7 +42,7 @@ constexpr std::array menu = {
 };
 
 constexpr std::array posti = {
-    Posto{"CorvanaMainF", 0, 0, 12000, 7800, "Corvana"},
+    Posto{"CorvanaMainF", 0, 0, 12000, 7800, "Corvana", {}, "ornamento"},
     Posto{"img", 0, 0, 6330, 4710, {}, {}, "pentagramma"},
     Posto{"Regolo", 810, 15, 255, 4695, {}, "Clicca per scegliere l'intervallo", "regolo"},
     Posto{"lblnn", 1065, 2340, 525, 390, {}, {}, "nome"},
@@ -69,7 +69,7 @@ constexpr std::array posti = {
     Posto{"difficolt", 7980, 1260, 3840, 3450, {}, "Scegli le note dell'esercizio"},
     Posto{"Start", 7980, 4920, 2490, 600, "Start", {}, "principale"},
     Posto{"cmdEscibg", 10620, 4920, 1200, 600, {}, {}, "pulsante"},
-    Posto{"cmdEsci", 10620, 4920, 1200, 600, "Esci", {}, "centro mezzo"},
+    Posto{"cmdEsci", 10620, 4920, 1200, 600, "Esci", {}, "pulsante forte"},
 
     Posto{"pdo", 180, 4920, 960, 600, "DO", {}, "risposta"},
     Posto{"pre", 1290, 4920, 960, 600, "RE", {}, "risposta"},
@@ -80,9 +80,21 @@ constexpr std::array posti = {
     Posto{"psi", 6840, 4920, 960, 600, "SI", {}, "risposta"},
 
     Posto{"Shape5", 180, 5670, 4290, 870, {}, {}, "carta"},
-    Posto{"lblAuto1", 240, 5730, 4170, 300, "Do - Re - Mi - Fa - Sol - La - Si", {},
+    Posto{"lblAuto1",
+          240,
+          5730,
+          4170,
+          300,
+          "Do - Re - Mi - Fa - Sol - La - Si",
+          {},
           "colonne piccolo"},
-    Posto{"lblAuto2", 240, 6045, 4170, 405, "d   - 1    - f    - 2    - g   - 3   - h", {},
+    Posto{"lblAuto2",
+          240,
+          6045,
+          4170,
+          405,
+          "d   - 1    - f    - 2    - g   - 3   - h",
+          {},
           "colonne tasti"},
     Posto{"Shape6", 4620, 5670, 3180, 870, {}, {}, "carta"},
     Posto{"Velocità", 4770, 5745, 2880, 300},
@@ -127,8 +139,10 @@ void DisponiPrincipale(CorvanaMainF& finestra) {
     finestra.Slider1.Min = 20;
     finestra.Slider1.Max = 140;
     finestra.Slider1.Value = 30;
-    for (Casella* casella : {&finestra.conta, &finestra.er, &finestra.PercEs})
+    for (Casella* casella : {&finestra.conta, &finestra.er, &finestra.PercEs}) {
         casella->Locked = true;
+        casella->BackColor = Rgb(255, 254, 251);
+    }
     finestra.cmdEsci.BackColor = Rgb(255, 236, 200);
     finestra.cmdEsci.ForeColor = Rgb(0, 0, 255);
     finestra.Start.BackColor = finestra.cmdEsci.BackColor();
