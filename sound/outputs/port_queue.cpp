@@ -6,7 +6,7 @@ void CodaPorta::Metti(const MessaggioPorta& messaggio) {
     const std::lock_guard guardia(blocco_);
     if (messaggi_.size() >= messaggiPerPorta) {
         messaggi_.clear();
-        
+        messaggi_.push_back({0, true});
     }
     messaggi_.push_back(messaggio);
     arrivo_.notify_one();

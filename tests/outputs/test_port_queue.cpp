@@ -23,7 +23,7 @@ TEST(CodaPorta, WhenFullAResetTakesThePlaceOfWhatWaits) {
     CodaPorta coda;
     for (std::uint32_t i = 0; i <= messaggiPerPorta; ++i)
         coda.Metti({i});
-    EXPECT_EQ(coda.InAttesa(), 2U);
+    ASSERT_EQ(coda.InAttesa(), 2U);
     EXPECT_TRUE(coda.Prendi()->azzera);
     EXPECT_EQ(coda.Prendi()->parola, messaggiPerPorta);
 }
