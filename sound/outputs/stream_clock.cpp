@@ -17,9 +17,11 @@ constexpr double derivaMassima = 0.005;
 constexpr double bandaIniziale = 3;
 constexpr double bandaDiRegime = 0.2;
 constexpr double assestamento = 0.5;
-/// Seconds off the expected instant: at once a jump, or one when it lasts.
+/// Seconds; a call that a busy machine delays by more says nothing more about the device's clock.
+constexpr double scartoCredibile = 0.0005;
+/// Seconds off the expected instant: at once a new stream, or a jump of this one when it lasts.
 constexpr double saltoCerto = 0.2;
-constexpr double saltoProbabile = 0.01;
+constexpr double saltoProbabile = 0.002;
 constexpr double durataDelSalto = 0.25;
 
 /// What a call may come early on a steady device, and what is kept in hand on any other.
@@ -30,12 +32,19 @@ constexpr double ritardoMassimo = 0.08;
 }  // namespace
 
 double OrologioFlusso::Prossimo(double adesso, int frame) {
-    if (!agganciato_ || Saltato(adesso, adesso - previsto_)) Aggancia(adesso);
+    if (!agganciato_ || std::fabs(adesso - previsto_) > saltoCerto) Aggancia(adesso);
+    const double durata = frame * durataNominale;
+    // What a device's bursts are known to differ by is no jump.
+    const double raffica = std::max(0.0, ritardo_ - durata - margine);
+    SeguiSalto(adesso, adesso - previsto_, saltoProbabile + raffica);
     const double istante = previsto_;
     const double scarto = adesso - istante;
     const bool assestato = adesso - aggancio_ > assestamento;
-    Segui(scarto, assestato ? bandaDiRegime : bandaIniziale, frame);
-    const double durata = frame * durataNominale;
+    const double credibile = scartoCredibile + raffica;
+    if (assestato)
+        Segui(std::clamp(scarto, -credibile, credibile), bandaDiRegime, frame);
+    else
+        Segui(scarto, bandaIniziale, frame);
     const double anticipo = assestato ? std::max(margine, scorta - scarto) : margine;
     ritardo_ = std::max(ritardo_, std::min(durata + anticipo, ritardoMassimo));
     return istante;
@@ -44,14 +53,22 @@ double OrologioFlusso::Prossimo(double adesso, int frame) {
 void OrologioFlusso::Aggancia(double adesso) {
     agganciato_ = true;
     aggancio_ = vicino_ = previsto_ = adesso;
-    ultimoScarto_ = 0;
+    salto_ = 0;
     durataFrame_ = durataNominale;
 }
 
-bool OrologioFlusso::Saltato(double adesso, double scarto) {
-    if (std::fabs(scarto) < saltoProbabile || scarto * ultimoScarto_ < 0) vicino_ = adesso;
-    ultimoScarto_ = scarto;
-    return std::fabs(scarto) > saltoCerto || adesso - vicino_ > durataDelSalto;
+void OrologioFlusso::SeguiSalto(double adesso, double scarto, double soglia) {
+    if (std::fabs(scarto) < soglia || scarto * salto_ < 0) {
+        vicino_ = adesso;
+        salto_ = 0;
+        return;
+    }
+    // What all calls of the while were off by; any more is the machine's own delay.
+    if (salto_ == 0 || std::fabs(scarto) < std::fabs(salto_)) salto_ = scarto;
+    if (adesso - vicino_ < durataDelSalto) return;
+    previsto_ += salto_;
+    vicino_ = adesso;
+    salto_ = 0;
 }
 
 void OrologioFlusso::Segui(double scarto, double banda, int frame) {

@@ -21,8 +21,9 @@ public:
 
 private:
     void Aggancia(double adesso);
-    /// True when the stream has jumped, so that following it gently would take too long.
-    bool Saltato(double adesso, double scarto);
+    /// Goes along with a stream that has jumped by more than `soglia`: following it gently would
+    /// take too long.
+    void SeguiSalto(double adesso, double scarto, double soglia);
     void Segui(double scarto, double banda, int frame);
 
     bool agganciato_ = false;
@@ -31,7 +32,7 @@ private:
     double durataFrame_ = 0;  ///< seconds
     double ritardo_ = 0;
     double vicino_ = 0;  ///< when a call last came about when it was expected
-    double ultimoScarto_ = 0;
+    double salto_ = 0;   ///< the least that the calls since then were off by, 0 for none
 };
 
 }  // namespace corvana
