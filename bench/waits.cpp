@@ -1,8 +1,7 @@
 // How late the waits of timed sound end, idle and beside two busy loops, and whether they drift.
-#include <atomic>
 #include <cstdio>
-#include <thread>
 
+#include "bench/busy.h"
 #include "bench/figures.h"
 #include "forms/pump.h"
 #include "forms/real_clock.h"
@@ -10,28 +9,6 @@
 namespace {
 
 using namespace corvana;
-
-/// Threads that do nothing but use the processor.
-class CicliOccupati {
-public:
-    explicit CicliOccupati(int quanti) {
-        for (int i = 0; i < quanti; ++i)
-            fili_.emplace_back([this] {
-                while (!fine_.load(std::memory_order_relaxed)) {}
-            });
-    }
-    CicliOccupati(const CicliOccupati&) = delete;
-    CicliOccupati& operator=(const CicliOccupati&) = delete;
-    ~CicliOccupati() {
-        fine_ = true;
-        for (std::thread& filo : fili_)
-            filo.join();
-    }
-
-private:
-    std::atomic<bool> fine_{false};
-    std::vector<std::thread> fili_;
-};
 
 void MisuraRitardi(const std::string& titolo, double secondi, int volte) {
     OrologioReale orologio;
@@ -69,6 +46,6 @@ void MisuraTutto(const std::string& dove) {
 int main() {
     PreferisciPuntualita();
     MisuraTutto("idle");
-    const CicliOccupati cicli(2);
+    const misura::CicliOccupati cicli(2);
     MisuraTutto("beside two busy loops");
 }

@@ -1,0 +1,19 @@
+// How even a row of pulses is.
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+namespace corvana::misura {
+
+/// Seconds at which sounds begin that are cut a tenth of a second before the next: to one sample of
+/// the 48000 in a second.
+std::vector<double> Attacchi(std::span<const float> mono);
+
+/// Prints one line: how many, error of the mean period in ppm of `periodo` (seconds), and of the
+/// pulses' deviations from an even row standard deviation, 99th percentile and worst. Pulses sound
+/// by turns with two instruments, whose attacks differ: each has its own row, with one period.
+void StampaPulsi(const std::string& titolo, const std::vector<double>& istanti, double periodo);
+
+}  // namespace corvana::misura
