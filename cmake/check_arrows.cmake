@@ -11,7 +11,7 @@ foreach(window trainer metronome utilities)
     set(may_${window} forms sound core)
 endforeach()
 set(may_program forms sound core trainer metronome utilities)
-set(toolkits "#include *[<\"](Q[A-Z]|SDL|fluidsynth|RtMidi|rtmidi)")
+set(toolkits "#include *[<\"](Q[A-Z]|SDL|fluidsynth|RtMidi|rtmidi|jack/|alsa/)")
 set(faults "")
 
 foreach(folder forms sound core trainer metronome utilities program)

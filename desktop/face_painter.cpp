@@ -27,7 +27,6 @@ const Forma forme[] = {
     {"aiuto", 12, true, true, &tinta::bottone},
     {"chiudi", 9, true, true, &tinta::bottone},
     {"barra", 6, true, false, nullptr},
-    {"luce", 3, true, false, nullptr},
     {"tondo", 5, false, false, nullptr},
 };
 const Forma nuda{"", 0, false, false, nullptr};

@@ -28,8 +28,9 @@ Macchina QuestaMacchina() {
     macchina.percorsoImpostazioni =
         NellaCartella(QStandardPaths::GenericConfigLocation, "settings");
     macchina.percorsoBlocco = NellaCartella(QStandardPaths::GenericCacheLocation, "lock");
-    macchina.uscite = [](std::function<double()> istante) {
-        return std::make_unique<UsciteReali>(std::move(istante));
+    macchina.uscite = [cartella = macchina.cartellaProgramma](std::function<double()> istante) {
+        const ImpostazioniUscite impostazioni{.cartellaSegnali = cartella + "/note"};
+        return std::make_unique<UsciteReali>(std::move(istante), impostazioni);
     };
     return macchina;
 }

@@ -5,6 +5,7 @@
 #include <QLabel>
 
 #include "desktop/icon_painter.h"
+#include "desktop/light_painter.h"
 #include "desktop/ornament_painter.h"
 #include "desktop/theme.h"
 
@@ -90,6 +91,7 @@ QWidget& VistaDipinta::CreaWidget(QWidget& padre) {
 }
 
 void VistaDipinta::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
+    if (Stato().Ha("luce")) return DipingiLuce(p, area, Stato().fondo, Scala());
     if (Stato().Ha("pulsante")) return DipingiBottone(p, area, Stato(), Scala(), tocco);
     const Aspetto aspetto = Acceso(Stato());
     DipingiFondo(p, area, aspetto, Scala(), tocco);

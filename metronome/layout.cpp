@@ -10,20 +10,20 @@ namespace corvana {
 namespace {
 
 constexpr std::array pannelloMetronomo = {
-    Posto{"BgMetro", 0, 0, 7050, 990, {}, {}, "pannello"},
-    Posto{"frmMetroC", 285, 60, 1500, 270, "Metronomo", {}, "titolo"},
-    Posto{"lblTs", 285, 360, 540, 270, "2/4", "Cambia il tempo", "scelta"},
-    Posto{"lblX12", 900, 360, 450, 270, "x1", {}, "scelta"},
-    Posto{"lblTempo", 1440, 330, 690, 330, "60", "Pulsazioni al minuto", "cifra"},
-    Posto{"MetroTempoS", 2190, 360, 2610, 270, {}, "Pulsazioni al minuto"},
-    Posto{"MetroVol", 4890, 90, 270, 810, {}, "Volume"},
-    Posto{"cmdSSmetro", 5250, 120, 1350, 360, " Start / Stop "},
-    Posto{"cmdSetup", 5250, 540, 1350, 330, "a b c ...", "Scegli i suoni e la sequenza"},
-    Posto{"lblCloseMetro", 6690, 60, 270, 270, "×", "Chiudi il metronomo", "chiudi"},
+    Posto{"BgMetro", 0, 0, 7620, 990, {}, {}, "pannello"},
+    Posto{"frmMetroC", 285, 105, 1650, 360, "Metronomo", {}, "titolo mezzo"},
+    Posto{"lblTs", 2100, 105, 720, 360, "2/4", "Cambia il tempo", "scelta"},
+    Posto{"lblX12", 2910, 105, 600, 360, "x1", {}, "scelta"},
+    Posto{"lblTempo", 3600, 90, 960, 390, "60", "Pulsazioni al minuto", "cifra destra"},
+    Posto{"MetroTempoS", 2910, 585, 2370, 330, {}, "Pulsazioni al minuto"},
+    Posto{"MetroVol", 5385, 75, 330, 855, {}, "Volume"},
+    Posto{"cmdSSmetro", 5820, 90, 1380, 390, " Start / Stop "},
+    Posto{"cmdSetup", 5820, 555, 1380, 345, "a b c ...", "Scegli i suoni e la sequenza"},
+    Posto{"lblCloseMetro", 7275, 60, 270, 270, "×", "Chiudi il metronomo", "chiudi"},
 };
 
 constexpr std::array conf = {
-    Posto{"frmConfMetro", 0, 0, 6600, 5400, "Metronomo"},
+    Posto{"frmConfMetro", 0, 0, 6600, 5145, "Metronomo"},
     Posto{"Label1", 240, 180, 3000, 270, "Suoni", {}, "titolo"},
     Posto{"lblA", 240, 510, 900, 270, "a", {}, "lettera"},
     Posto{"lblB1", 1260, 510, 900, 270, "b", {}, "lettera"},
@@ -46,8 +46,8 @@ constexpr std::array conf = {
           "relativa casella.",
           {},
           "spiegazione"},
-    Posto{"cmdTest", 3480, 4770, 1350, 420, "Test"},
-    Posto{"cmdOk", 5010, 4770, 1350, 420, "O K", {}, "principale"},
+    Posto{"cmdTest", 3480, 4530, 1350, 420, "Test"},
+    Posto{"cmdOk", 5010, 4530, 1350, 420, "O K", {}, "principale"},
 };
 
 void Riempi(Lista& lista, std::initializer_list<const char*> righe) {

@@ -100,7 +100,7 @@ constexpr std::array posti = {
     Posto{"Velocità", 4770, 5745, 2880, 300},
     Posto{"Slider1", 4770, 6075, 2880, 330},
 
-    Posto{"frmMetro", 180, 6660, 7050, 990},
+    Posto{"frmMetro", 180, 6660, 7620, 990},
 
     Posto{"frmRisultati", 7980, 5670, 3840, 1980, {}, {}, "carta"},
     Posto{"bgRis0", 75, 75, 3690, 330, {}, {}, "tondo"},

@@ -14,8 +14,8 @@ namespace {
 constexpr std::array posti = {
     Posto{"frmAbout", 0, 0, 5175, 3600, "Corvana"},
     Posto{"frmBg", 0, 0, 5175, 3600, {}, {}, "pannello"},
-    Posto{"lblTitle", 300, 270, 4575, 750, {}, {}, "insegna"},
-    Posto{"lblVersion", 300, 1080, 4575, 300},
+    Posto{"lblTitle", 300, 180, 4575, 900, {}, {}, "insegna"},
+    Posto{"lblVersion", 300, 1140, 4575, 300, {}, {}, "centro"},
     Posto{"Text2",
           300,
           1500,

@@ -23,8 +23,10 @@ public:
 
     void Scatta(const QString& nome) { Salva(Fotografa(scrivania_), nome); }
     void Salva(const QImage& foto, const QString& nome) const {
-        foto.save(QDir(cartella_).filePath(nome + QStringLiteral(".png")));
+        foto.save(QDir(cartella_).filePath(lingua_ + nome + QStringLiteral(".png")));
     }
+    /// Of what is photographed from now on, the beginning of the names.
+    void PonLingua(const QString& lingua) { lingua_ = lingua; }
     QWidget& Di(const char* nome) { return Trova(scrivania_, QString::fromUtf8(nome)); }
     void Scegli(const char* voce) {
         TrovaVoce(scrivania_, QString::fromUtf8(voce)).trigger();
@@ -48,10 +50,12 @@ public:
 private:
     Scrivania& scrivania_;
     QString cartella_;
+    QString lingua_;
 };
 
 void FotografaTutto(Servizio& s) {
     s.Pronto();
+    s.Scegli("mnuNormale");
     s.Scatta("idle");
     s.Premi("lblMn");
     s.Premi("Start");
@@ -71,6 +75,21 @@ void FotografaTutto(Servizio& s) {
     s.Scatta("metronome");
 }
 
+/// Ticking, in the meter of six pulses.
+void FotografaBattito(Servizio& s) {
+    for (int i = 0; i < 3; ++i)
+        s.Premi("lblTs");
+    s.Premi("cmdSSmetro");
+    QWidget& quarta = s.Di("lblPuls3");
+    Aspetta([&] {
+        const QImage luce = Fotografa(quarta);
+        return luce.pixelColor(luce.rect().center()) == Qt::blue;
+    });
+    s.Scatta("ticking");
+    s.Premi("cmdSSmetro");
+    Aspetta([&] { return s.Di("cmdSetup").isEnabled(); });
+}
+
 /// A window that opens over the main one, by the control or the menu entry that opens it.
 void FotografaSopra(Servizio& s, const QString& finestra, const std::function<void()>& apri) {
     apri();
@@ -85,6 +104,7 @@ void FotografaSecondarie(Servizio& s) {
                                          {"mnuMidiTest", "frmMidiTest"}})
         FotografaSopra(s, QString::fromLatin1(finestra), [&s, v = voce] { s.Scegli(v); });
     FotografaSopra(s, QStringLiteral("frmConfMetro"), [&s] { s.Premi("cmdSetup"); });
+    s.Premi("lblCloseMetro");
 }
 
 Macchina MacchinaDiProva(const QString& dati, const QString& stato) {
@@ -108,8 +128,13 @@ int main(int argc, char** argv) {
     scrivania.Avvia([&] { EseguiProgramma(applicazione, macchina); });
     AspettaFinestra(scrivania, "CorvanaMainF");
     Servizio servizio(scrivania, QString::fromLocal8Bit(argv[1]));
-    FotografaTutto(servizio);
-    FotografaSecondarie(servizio);
+    for (const auto& [voce, lingua] : {std::pair{"mnuIt", "it-"}, {"mnuEn", "en-"}}) {
+        servizio.PonLingua(QString::fromLatin1(lingua));
+        servizio.Scegli(voce);
+        FotografaTutto(servizio);
+        FotografaBattito(servizio);
+        FotografaSecondarie(servizio);
+    }
     scrivania.Termina();
     return 0;
 }
