@@ -126,6 +126,7 @@ void Scrivania::Fai(const ApriRiquadro& comando) {
     riquadro_ = ApriDialogo(comando, sopra, [this, numero = comando.numero](Risposta risposta) {
         specchio_.Rispondi(numero, std::move(risposta));
     });
+    if (uscita_) riquadro_->reject();
 }
 
 void Scrivania::Fai(const FineLogica&) {

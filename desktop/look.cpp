@@ -35,6 +35,7 @@ public:
 
 void VestiProgramma(QApplication& qt) {
     QApplication::setApplicationName(QStringLiteral("corvana"));
+    QApplication::setDesktopFileName(QStringLiteral("org.corvana.Corvana"));
     QApplication::setWindowIcon(IconaDelProgramma(QStringLiteral("corvana")));
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(new Stile);

@@ -161,6 +161,8 @@ void VistaFinestra::Disponi() {
 void VistaFinestra::Apri(bool modale, VistaFinestra* sotto) {
     Disponi();
     if (modale) finestra_->setWindowModality(Qt::ApplicationModal);
+    // Nothing of the main window is marked before the logic has said what to begin with.
+    if (!modale) finestra_->centralWidget()->setFocus();
     finestra_->winId();
     if (sotto) finestra_->windowHandle()->setTransientParent(sotto->finestra_->windowHandle());
     finestra_->show();

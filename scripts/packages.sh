@@ -1,5 +1,5 @@
 # Which Debian packages each job needs, and how they are installed. Sourced by ./run, ./test,
-# ./measure and .ci/run.
+# ./measure, scripts/package and .ci/run.
 
 build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev libsdl2-dev
     libfluidsynth-dev librtmidi-dev libasound2-dev libjack-jackd2-dev)
@@ -7,6 +7,7 @@ run_packages=("${build_packages[@]}" timgm6mb-soundfont fonts-inter fonts-oflb-e
 screen_packages=(xvfb xdotool scrot)
 test_packages=("${run_packages[@]}" libgtest-dev librapidcheck-dev pulseaudio pulseaudio-utils jackd2)
 lint_packages=(clang-format clang-tidy clang libclang-rt-14-dev cppcheck)
+package_packages=(dpkg-dev file man-db lintian appstream desktop-file-utils)
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi

@@ -1,11 +1,12 @@
-# A virtual X screen of our own. Sourced.
+# A virtual X screen of our own, in a session of its own so that Ctrl-C reaches the program first.
+# Sourced.
 
 # start_virtual_screen WIDTHxHEIGHT: sets DISPLAY and screen_pid.
 start_virtual_screen() {
     local fifo number
     fifo=$(mktemp -u)
     mkfifo "$fifo"
-    Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp 3>"$fifo" 2>/dev/null &
+    setsid Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp 3>"$fifo" 2>/dev/null &
     screen_pid=$!
     read -r number <"$fifo"
     rm -f "$fifo"

@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <QTest>
 #include <QWindow>
+#include <future>
 
 #include "tests/desktop/stage.h"
 
@@ -115,6 +116,18 @@ TEST(Scrivania, ARequestToEndClosesEveryWindowFromTheFrontBack) {
     palco.Ordina([](FormDiProva& form) { form.finestre.MostraModale(form.sopra); });
     AspettaFinestra(palco.scrivania, "FormSopra");
     palco.scrivania.ChiediUscita();
+    EXPECT_TRUE(Aspetta([&] { return palco.scrivania.Finita(); }));
+}
+
+TEST(Scrivania, ABoxThatOpensAfterARequestToEndHoldsNothingUp) {
+    Palco palco;
+    std::promise<void> chiesta;
+    palco.Ordina([chiesta = chiesta.get_future().share()](FormDiProva& form) {
+        chiesta.wait();
+        form.dialoghi.MsgBox("troppo tardi");
+    });
+    palco.scrivania.ChiediUscita();
+    chiesta.set_value();
     EXPECT_TRUE(Aspetta([&] { return palco.scrivania.Finita(); }));
 }
 
