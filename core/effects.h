@@ -27,7 +27,8 @@ void EffettoImmagine(StatoHover& hover, Controllo& controllo, std::string_view s
 void EffettoPulsante(StatoHover& hover, Controllo& sfondo, Controllo& etichetta,
                      std::string_view stato, Colore colore);
 
-/// Makes the window a borderless one with rounded corners of 22 by 22 pixels, of that size in pixels.
+/// Makes the window a borderless one with rounded corners of 22 by 22 pixels, of that size in
+/// pixels.
 void RitagliaForm(Form& form, int larghezza, int altezza);
 
 }  // namespace corvana

@@ -45,7 +45,7 @@ Risposta RispostaDiDialogo(const QDialog& box, int esito) {
 }  // namespace
 
 QDialog* ApriDialogo(const ApriRiquadro& richiesta, QWidget* sopra,
-                     std::function<void(Risposta)> risposta) {
+                     const std::function<void(Risposta)>& risposta) {
     const bool immissione = richiesta.genere == GenereRiquadro::Immissione;
     QDialog* box = immissione ? CreaImmissione(richiesta, sopra) : CreaMessaggio(richiesta, sopra);
     box->setAttribute(Qt::WA_DeleteOnClose);

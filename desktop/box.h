@@ -12,6 +12,6 @@ namespace corvana {
 /// Opens the box over `sopra`, or alone when that is null. It deletes itself when it has been
 /// answered, after it told the answer.
 QDialog* ApriDialogo(const ApriRiquadro& richiesta, QWidget* sopra,
-                     std::function<void(Risposta)> risposta);
+                     const std::function<void(Risposta)>& risposta);
 
 }  // namespace corvana

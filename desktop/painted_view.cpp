@@ -118,7 +118,7 @@ void VistaSpiegazione::Dipingi(QPainter& p, const QRectF& area, const Tocco& toc
 
 void VistaSpiegazione::Rinfresca(Nome nome) {
     if (nome == Nome::Text) Widget()->setAccessibleName(Stato().text);
-    Vista::Rinfresca(nome);
+    VistaDipinta::Rinfresca(nome);
 }
 
 void VistaColonne::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {

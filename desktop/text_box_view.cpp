@@ -56,8 +56,8 @@ private:
         if (giusto) {
             segno.addPolygon(QPolygonF({{-5, 0}, {-1.5, 4}, {5, -4.5}}));
         } else {
-            segno.addPolygon(QPolygonF({{-4, -4}, {4, 4}}));
-            segno.addPolygon(QPolygonF({{-4, 4}, {4, -4}}));
+            segno.addPolygon(QPolygonF({QPointF(-4, -4), QPointF(4, 4)}));
+            segno.addPolygon(QPolygonF({QPointF(-4, 4), QPointF(4, -4)}));
         }
         p.setRenderHint(QPainter::Antialiasing);
         p.setBrush(Qt::NoBrush);

@@ -23,14 +23,14 @@ namespace corvana {
 
 /// What the main window asks of the metronome's panel. Empty functions stand for no panel.
 struct ComandiMetronomo {
-    std::function<void()> carica;         ///< puts the defaults in place
+    std::function<void()> carica;  ///< puts the defaults in place
     std::function<void()> apri;
-    std::function<void()> alterna;        ///< opens the panel or closes it
-    std::function<void()> cambiaLingua;   ///< the language strings are new
+    std::function<void()> alterna;       ///< opens the panel or closes it
+    std::function<void()> cambiaLingua;  ///< the language strings are new
 };
 
-/// Shows each of the windows that open from the main one. An empty function stands for a window that
-/// this build doesn't have: its menu entry and tool button are disabled.
+/// Shows each of the windows that open from the main one. An empty function stands for a window
+/// that this build doesn't have: its menu entry and tool button are disabled.
 struct Secondarie {
     std::function<void()> frmInto, frmComposer, frmOptions, frmMidiTest, frmStrum, frmAbout;
     std::function<void()> aiuto;

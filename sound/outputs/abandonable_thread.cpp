@@ -1,9 +1,8 @@
 #include "sound/outputs/abandonable_thread.h"
 
-#include <signal.h>
-
 #include <chrono>
 #include <condition_variable>
+#include <csignal>
 #include <mutex>
 #include <utility>
 

@@ -17,8 +17,9 @@
 #include "sound/outputs/port.h"
 #include "sound/outputs/turn.h"
 
-struct _jack_client;
-struct _jack_port;
+// The library's own names.
+struct _jack_client;  // NOLINT(bugprone-reserved-identifier)
+struct _jack_port;    // NOLINT(bugprone-reserved-identifier)
 
 namespace corvana {
 

@@ -133,8 +133,10 @@ void Mescolatore::Sfuma() {
         SuonaBlocco(nuova.data() + 2 * i, tratto);
         i += tratto;
     }
-    for (std::size_t i = 0; i < nuova.size(); ++i)
-        nuova[i] *= 1 - static_cast<float>(i / 2 + 1) / frameDiSfumatura;
+    for (std::size_t i = 0; i < nuova.size(); ++i) {
+        const std::size_t passati = i / 2 + 1;
+        nuova[i] *= 1 - static_cast<float>(passati) / frameDiSfumatura;
+    }
     sfumatura_ = nuova;
     sfumati_ = 0;
     Taglia();
