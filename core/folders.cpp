@@ -4,7 +4,7 @@ namespace corvana {
 
 std::string CercaCartellaProgramma(ArchivioFile& file, const std::string& cartellaEseguibile) {
     for (const char* relativa : {"/../share/corvana", "/../data", "/data"}) {
-        const std::string cartella = cartellaEseguibile + relativa;
+        std::string cartella = cartellaEseguibile + relativa;
         if (file.Esiste(cartella + "/langit.csv")) return cartella;
     }
     return cartellaEseguibile;

@@ -56,6 +56,12 @@ struct TrascinaFinestra {
     std::uint32_t finestra;
 };
 
+/// The help is to be shown: `file` names it, `contesto` the page.
+struct MostraAiuto {
+    std::string file;
+    int contesto;
+};
+
 enum class GenereRiquadro : std::uint8_t { Messaggio, Domanda, Immissione };
 
 struct ApriRiquadro {
@@ -68,6 +74,6 @@ struct ApriRiquadro {
 struct FineLogica {};
 
 using Comando = std::variant<MostraFinestra, CambiaProprieta, DaiFuoco, ChiudiFinestra,
-                             TrascinaFinestra, ApriRiquadro, FineLogica>;
+                             TrascinaFinestra, MostraAiuto, ApriRiquadro, FineLogica>;
 
 }  // namespace corvana

@@ -121,6 +121,15 @@ void Scrivania::Fai(const TrascinaFinestra& comando) {
         finestra->Finestra().windowHandle()->startSystemMove();
 }
 
+void Scrivania::Fai(const MostraAiuto& comando) {
+    if (uscita_) return;
+    if (!aiuto_)
+        aiuto_ = std::make_unique<FinestraAiuto>([this] {
+            if (VistaFinestra* davanti = Davanti()) davanti->Finestra().activateWindow();
+        });
+    aiuto_->Mostra(InQt(comando.file), comando.contesto);
+}
+
 void Scrivania::Fai(const ApriRiquadro& comando) {
     QWidget* sopra = finestre_.empty() ? nullptr : &finestre_.back()->Finestra();
     riquadro_ = ApriDialogo(comando, sopra, [this, numero = comando.numero](Risposta risposta) {
@@ -131,6 +140,7 @@ void Scrivania::Fai(const ApriRiquadro& comando) {
 
 void Scrivania::Fai(const FineLogica&) {
     finita_ = true;
+    aiuto_.reset();
     QApplication::exit();
 }
 

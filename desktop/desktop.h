@@ -11,6 +11,7 @@
 #include <thread>
 #include <vector>
 
+#include "desktop/help_window.h"
 #include "desktop/keyboard.h"
 #include "desktop/remote_mirror.h"
 #include "desktop/window_view.h"
@@ -46,6 +47,8 @@ public:
     VistaFinestra* Davanti();
     /// The box that waits for an answer, or null.
     QDialog* Riquadro() const { return riquadro_; }
+    /// The help; null until it is first asked for.
+    FinestraAiuto* Aiuto() const { return aiuto_.get(); }
 
 private:
     void Ritira();
@@ -55,6 +58,7 @@ private:
     void Fai(const DaiFuoco& comando);
     void Fai(const ChiudiFinestra& comando);
     void Fai(const TrascinaFinestra& comando);
+    void Fai(const MostraAiuto& comando);
     void Fai(const ApriRiquadro& comando);
     void Fai(const FineLogica& comando);
     VistaFinestra* Cerca(std::uint32_t identita);
@@ -65,6 +69,7 @@ private:
     SpecchioRemoto specchio_{cassetta_};
     Tastiera tastiera_;
     std::vector<std::unique_ptr<VistaFinestra>> finestre_;
+    std::unique_ptr<FinestraAiuto> aiuto_;
     QPointer<QDialog> riquadro_;
     QSocketNotifier notifica_;
     std::thread logica_;

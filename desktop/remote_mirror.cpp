@@ -62,6 +62,10 @@ void SpecchioRemoto::Trascina(const Form& form) {
     cassetta_.Metti(TrascinaFinestra{form.Identita()});
 }
 
+void SpecchioRemoto::Aiuto(const Form& form, const std::string& file) {
+    cassetta_.Metti(MostraAiuto{file, form.HelpContextID});
+}
+
 void SpecchioRemoto::Chiudi(const Form& form) {
     cassetta_.Metti(ChiudiFinestra{form.Identita()});
 }

@@ -8,7 +8,6 @@ namespace corvana {
 namespace {
 
 constexpr double raggio = 60;  ///< twips
-constexpr int gradi = 7;       ///< white notes to the octave
 
 QRectF Fascia(const Posizione& posizione, double larghezza) {
     return {0, static_cast<double>(posizione.fasciaDa), larghezza,

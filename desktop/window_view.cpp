@@ -160,7 +160,8 @@ void VistaFinestra::Disponi() {
 
 void VistaFinestra::Apri(bool modale, VistaFinestra* sotto) {
     Disponi();
-    if (modale) finestra_->setWindowModality(Qt::ApplicationModal);
+    // The windows beneath are blocked, the help is not.
+    if (modale) finestra_->setWindowModality(Qt::WindowModal);
     // Nothing of the main window is marked before the logic has said what to begin with.
     if (!modale) finestra_->centralWidget()->setFocus();
     finestra_->winId();

@@ -1,0 +1,149 @@
+#include "desktop/help_window.h"
+
+#include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
+#include <QShortcut>
+#include <QTextBrowser>
+#include <QToolBar>
+
+#include "desktop/look.h"
+#include "desktop/theme.h"
+
+namespace corvana {
+
+namespace {
+
+/// Pictures are taken at twice the size that they are shown at.
+constexpr double puntiPerPixel = 2;
+constexpr int margine = 30;
+constexpr QSize misura(740, 680);
+
+struct Parole {
+    QString titolo, indietro, avanti, indice, manca;
+};
+
+Parole ParoleItaliane() {
+    return {QStringLiteral("Aiuto"), QStringLiteral("‹ Indietro"), QStringLiteral("Avanti ›"),
+            QStringLiteral("Indice"),
+            QStringLiteral("Le pagine dell'aiuto non si trovano. Dovrebbero essere in:")};
+}
+
+Parole ParoleInglesi() {
+    return {QStringLiteral("Help"), QStringLiteral("‹ Back"), QStringLiteral("Forward ›"),
+            QStringLiteral("Contents"),
+            QStringLiteral("The pages of the help were not found. They should be in:")};
+}
+
+Parole NellaLingua(bool inglese) {
+    return inglese ? ParoleInglesi() : ParoleItaliane();
+}
+
+/// The pages and their pictures, these as sharp as the screen can show them.
+class Pagine final : public QTextBrowser {
+public:
+    using QTextBrowser::QTextBrowser;
+
+    QVariant loadResource(int genere, const QUrl& nome) override {
+        if (genere != QTextDocument::ImageResource) return QTextBrowser::loadResource(genere, nome);
+        const QUrl posto = nome.isRelative() ? source().resolved(nome) : nome;
+        const QImage figura(posto.toLocalFile());
+        if (figura.isNull()) return {};
+        const double scala = devicePixelRatioF();
+        QImage ridotta = figura.scaled(figura.size() * (scala / puntiPerPixel), Qt::KeepAspectRatio,
+                                       Qt::SmoothTransformation);
+        ridotta.setDevicePixelRatio(scala);
+        return ridotta;
+    }
+};
+
+}  // namespace
+
+FinestraAiuto::FinestraAiuto(std::function<void()> chiusa)
+    : chiusa_(std::move(chiusa)), testo_(new Pagine(this)) {
+    setObjectName(QStringLiteral("FinestraAiuto"));
+    DisponiFoglio();
+    CreaSbarra();
+    connect(testo_, &QTextBrowser::sourceChanged, this, [this] { MettiTitolo(); });
+    auto* esc = new QShortcut(Qt::Key_Escape, this);
+    connect(esc, &QShortcut::activated, this, &QWidget::close);
+    resize(misura);
+}
+
+void FinestraAiuto::DisponiFoglio() {
+    testo_->setObjectName(QStringLiteral("pagina"));
+    testo_->setFrameShape(QFrame::NoFrame);
+    testo_->document()->setDocumentMargin(margine);
+    QFont lettere(FamigliaDelTesto());
+    lettere.setPixelSize(14);
+    testo_->setFont(lettere);
+    setCentralWidget(testo_);
+}
+
+void FinestraAiuto::CreaSbarra() {
+    auto* sbarra = addToolBar(QString());
+    sbarra->setMovable(false);
+    sbarra->setContextMenuPolicy(Qt::PreventContextMenu);
+    indietro_ = sbarra->addAction(QString(), testo_, &QTextBrowser::backward);
+    avanti_ = sbarra->addAction(QString(), testo_, &QTextBrowser::forward);
+    indice_ = sbarra->addAction(QString(), testo_, &QTextBrowser::home);
+    indietro_->setShortcut(QKeySequence::Back);
+    avanti_->setShortcut(QKeySequence::Forward);
+    indice_->setShortcut(Qt::ALT | Qt::Key_Home);
+    connect(testo_, &QTextBrowser::backwardAvailable, indietro_, &QAction::setEnabled);
+    connect(testo_, &QTextBrowser::forwardAvailable, avanti_, &QAction::setEnabled);
+    indietro_->setEnabled(false);
+    avanti_->setEnabled(false);
+}
+
+void FinestraAiuto::Mostra(const QString& file, int contesto) {
+    const QFileInfo nome(file);
+    inglese_ = nome.completeBaseName().endsWith(QLatin1String("en"));
+    const Parole parole = NellaLingua(inglese_);
+    indietro_->setText(parole.indietro);
+    avanti_->setText(parole.avanti);
+    indice_->setText(parole.indice);
+    Vai(nome.path() + QStringLiteral("/help/") + nome.completeBaseName(), contesto);
+    showNormal();
+    raise();
+    activateWindow();
+    testo_->setFocus(Qt::OtherFocusReason);
+}
+
+void FinestraAiuto::Vai(const QString& cartella, int contesto) {
+    const QDir pagine(cartella);
+    const QString prima = QStringLiteral("index.html");
+    QString scelta = QString::number(contesto) + QStringLiteral(".html");
+    if (!pagine.exists(scelta)) scelta = prima;
+    const bool trovata = pagine.exists(scelta);
+    indice_->setEnabled(trovata);
+    if (!trovata) return DiMancanza(cartella);
+    const QUrl indirizzo = QUrl::fromLocalFile(pagine.filePath(scelta));
+    if (testo_->source() != indirizzo) testo_->setSource(indirizzo);
+}
+
+void FinestraAiuto::DiMancanza(const QString& cartella) {
+    testo_->setSource(QUrl());
+    testo_->clearHistory();
+    testo_->setHtml(QStringLiteral("<p>%1</p><p><b>%2</b></p>")
+                        .arg(NellaLingua(inglese_).manca.toHtmlEscaped(),
+                             QDir::toNativeSeparators(cartella).toHtmlEscaped()));
+    MettiTitolo();
+}
+
+QString FinestraAiuto::Pagina() const {
+    return testo_->source().fileName();
+}
+
+void FinestraAiuto::MettiTitolo() {
+    const QString pagina = testo_->documentTitle();
+    const QString titolo = pagina.isEmpty() ? NellaLingua(inglese_).titolo : pagina;
+    setWindowTitle(titolo + QStringLiteral(" – ") + QString::fromLatin1(nomeProgramma));
+}
+
+void FinestraAiuto::closeEvent(QCloseEvent* evento) {
+    QMainWindow::closeEvent(evento);
+    chiusa_();
+}
+
+}  // namespace corvana

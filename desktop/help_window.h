@@ -1,0 +1,45 @@
+// The help: pages with pictures, one folder of them for each language, in a window of its own that
+// blocks no other. GUI thread.
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+
+class QTextBrowser;
+
+namespace corvana {
+
+class FinestraAiuto final : public QMainWindow {
+public:
+    /// `chiusa` is called when the user has closed the window.
+    explicit FinestraAiuto(std::function<void()> chiusa);
+
+    /// Shows the page of that context in front. `file` is the help's name, without need of a file
+    /// there: "/x/corvana.chm" has its pages in "/x/help/corvana", "7.html" for the context 7. The
+    /// first page, "index.html", stands for one that isn't there; without that the window tells
+    /// what is missing.
+    void Mostra(const QString& file, int contesto);
+
+    /// File name of the page that is shown; empty when none was found.
+    QString Pagina() const;
+    QTextBrowser& Testo() const { return *testo_; }
+
+protected:
+    void closeEvent(QCloseEvent* evento) override;
+
+private:
+    void CreaSbarra();
+    void DisponiFoglio();
+    void Vai(const QString& cartella, int contesto);
+    void DiMancanza(const QString& cartella);
+    void MettiTitolo();
+
+    std::function<void()> chiusa_;
+    QTextBrowser* testo_;
+    QAction* indietro_;
+    QAction* avanti_;
+    QAction* indice_;
+    bool inglese_ = false;
+};
+
+}  // namespace corvana
