@@ -83,6 +83,7 @@ void frmConfMetro::SuonaCampione(std::int16_t nota) {
 }
 
 void frmConfMetro::seqPreset_Click() {
+    if (seqPreset.ListIndex < 0) return;
     const Metro& riga = predefinite.at(static_cast<std::size_t>(seqPreset.ListIndex()));
     txtTempo.Text = std::string(riga.tempo);
     txtPattern.Text = std::string(riga.sequenza);

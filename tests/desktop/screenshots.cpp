@@ -77,8 +77,10 @@ void FotografaTutto(Servizio& s) {
 
 /// Ticking, in the meter of six pulses.
 void FotografaBattito(Servizio& s) {
-    for (int i = 0; i < 3; ++i)
+    while (s.Di("lblPuls5").isHidden()) {
         s.Premi("lblTs");
+        s.Respira();
+    }
     s.Premi("cmdSSmetro");
     QWidget& quarta = s.Di("lblPuls3");
     Aspetta([&] {
