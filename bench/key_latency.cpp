@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QTimer>
 #include <QWidget>
+#include <QWindow>
 #include <atomic>
 #include <filesystem>
 
@@ -90,10 +91,11 @@ private:
                                               Qt::Key_2, Qt::Key_G, Qt::Key_3, Qt::Key_H};
         const int tasto = tasti.at(static_cast<std::size_t>(risposta));
         const auto modo = risposta % 2 ? Qt::NoModifier : Qt::KeypadModifier;
-        QWidget* fuoco = QApplication::focusWidget() ? QApplication::focusWidget() : &finestra;
+        QKeyEvent premuto(QEvent::KeyPress, tasto, modo);
         QKeyEvent lasciato(QEvent::KeyRelease, tasto, modo);
+        QApplication::sendEvent(finestra.windowHandle(), &premuto);
         premuta_ = orologio_.Adesso();
-        QApplication::sendEvent(fuoco, &lasciato);
+        QApplication::sendEvent(finestra.windowHandle(), &lasciato);
     }
 
     void Finisci(QWidget& finestra) {
