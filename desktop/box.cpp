@@ -53,6 +53,7 @@ QDialog* ApriDialogo(const ApriRiquadro& richiesta, QWidget* sopra,
                                                  : InQt(richiesta.titolo));
     QObject::connect(box, &QDialog::finished, box,
                      [box, risposta](int esito) { risposta(RispostaDiDialogo(*box, esito)); });
+    box->setWindowModality(Qt::ApplicationModal);
     box->open();
     return box;
 }

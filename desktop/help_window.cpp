@@ -18,6 +18,7 @@ namespace {
 constexpr double puntiPerPixel = 2;
 constexpr int margine = 30;
 constexpr QSize misura(740, 680);
+const QString primaPagina = QStringLiteral("index.html");
 
 struct Parole {
     QString titolo, indietro, avanti, indice, manca;
@@ -86,7 +87,9 @@ void FinestraAiuto::CreaSbarra() {
     sbarra->setContextMenuPolicy(Qt::PreventContextMenu);
     indietro_ = sbarra->addAction(QString(), testo_, &QTextBrowser::backward);
     avanti_ = sbarra->addAction(QString(), testo_, &QTextBrowser::forward);
-    indice_ = sbarra->addAction(QString(), testo_, &QTextBrowser::home);
+    indice_ = sbarra->addAction(QString(), this, [this] {
+        testo_->setSource(testo_->source().resolved(QUrl(primaPagina)));
+    });
     indietro_->setShortcut(QKeySequence::Back);
     avanti_->setShortcut(QKeySequence::Forward);
     indice_->setShortcut(Qt::ALT | Qt::Key_Home);
@@ -112,14 +115,15 @@ void FinestraAiuto::Mostra(const QString& file, int contesto) {
 
 void FinestraAiuto::Vai(const QString& cartella, int contesto) {
     const QDir pagine(cartella);
-    const QString prima = QStringLiteral("index.html");
     QString scelta = QString::number(contesto) + QStringLiteral(".html");
-    if (!pagine.exists(scelta)) scelta = prima;
+    if (!pagine.exists(scelta)) scelta = primaPagina;
     const bool trovata = pagine.exists(scelta);
     indice_->setEnabled(trovata);
     if (!trovata) return DiMancanza(cartella);
     const QUrl indirizzo = QUrl::fromLocalFile(pagine.filePath(scelta));
+    const bool altroVolume = testo_->source().resolved(QUrl(".")) != indirizzo.resolved(QUrl("."));
     if (testo_->source() != indirizzo) testo_->setSource(indirizzo);
+    if (altroVolume) testo_->clearHistory();
 }
 
 void FinestraAiuto::DiMancanza(const QString& cartella) {

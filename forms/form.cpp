@@ -28,6 +28,10 @@ void Form::Trascina() const {
     if (specchio_) specchio_->Trascina(*this);
 }
 
+void Form::ApriAiuto(const std::string& file) const {
+    if (specchio_) specchio_->Aiuto(*this, file);
+}
+
 void Form::DaiFuoco(const Controllo& controllo) {
     if (specchio_) specchio_->Fuoco(controllo);
 }

@@ -38,6 +38,8 @@ public:
 
     /// Lets the pointer drag the window, while its left button is down.
     void Trascina() const;
+    /// Shows the help in `file` at the page for the window's context.
+    void ApriAiuto(const std::string& file) const;
 
     /// For the controls alone: a new one's number, a change to tell, the focus to give.
     int Iscrivi(Controllo& controllo);

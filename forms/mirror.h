@@ -2,6 +2,8 @@
 // Every call comes on the logic thread and returns at once.
 #pragma once
 
+#include <string>
+
 #include "forms/value.h"
 
 namespace corvana {
@@ -22,6 +24,12 @@ public:
     virtual void Fuoco(const Controllo& controllo) = 0;
     /// The pointer, whose left button is down on the form, drags the window from now on.
     virtual void Trascina(const Form& form) { static_cast<void>(form); }
+    /// The help is to be shown, from `file`, at the page for the form's context. The user goes on
+    /// working beside it.
+    virtual void Aiuto(const Form& form, const std::string& file) {
+        static_cast<void>(form);
+        static_cast<void>(file);
+    }
     /// The form, which still has its identity, is gone; it may be destroyed when the call returns.
     virtual void Chiudi(const Form& form) = 0;
 };

@@ -106,11 +106,20 @@ void Finestre::Smista(Form& form, Controllo& controllo, const Evento& evento) {
         case Fatto::MouseDown: return mouse(controllo.MouseDown);
         case Fatto::MouseUp: return mouse(controllo.MouseUp);
         case Fatto::MouseMove: return mouse(controllo.MouseMove);
-        case Fatto::KeyDown: return form.Form_KeyDown(evento);
+        case Fatto::KeyDown: return TastoGiu(form, evento);
         case Fatto::KeyUp: return form.Form_KeyUp(evento);
         case Fatto::Chiudi: Scarica(form); return;
         case Fatto::FuocoPerso: return;
     }
+}
+
+void Finestre::TastoGiu(Form& form, const Evento& tasto) const {
+    if (tasto.codice == vk::f1 && !tasto.ripetuto) ChiediAiuto();
+    form.Form_KeyDown(tasto);
+}
+
+void Finestre::ChiediAiuto() const {
+    if (aiuto_ && Davanti()) aiuto_(*Davanti());
 }
 
 }  // namespace corvana

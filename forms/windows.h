@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 #include "forms/dialogs.h"
@@ -29,6 +30,11 @@ public:
     /// Delivers events until the last window is gone.
     void Esegui();
 
+    /// `aiuto` opens the help for a window. Without it F1 is a key like any other.
+    void PonAiuto(std::function<void(const Form&)> aiuto) { aiuto_ = std::move(aiuto); }
+    /// Opens the help for the window in front, as F1 does.
+    void ChiediAiuto() const;
+
     const TastiPremuti& Tasti() const { return tasti_; }
     Form* Davanti() const { return aperte_.empty() ? nullptr : aperte_.back(); }
 
@@ -39,10 +45,12 @@ private:
     /// Runs the handler; a fault that it lets escape is shown in a box.
     void Riferisci(Form& form, Controllo& controllo, const Evento& evento);
     void Smista(Form& form, Controllo& controllo, const Evento& evento);
+    void TastoGiu(Form& form, const Evento& tasto) const;
 
     Pompa& pompa_;
     Dialoghi& dialoghi_;
     Specchio* specchio_;
+    std::function<void(const Form&)> aiuto_;
     TastiPremuti tasti_;
     std::vector<Form*> aperte_;
     std::uint32_t ultimaIdentita_ = 0;

@@ -8,17 +8,26 @@
 
 namespace corvana {
 
-Programma::Programma(const Ambiente& ambiente, std::function<void()> aiuto)
-    : principale(ambiente, Apri(std::move(aiuto))),
-      metronomo(ambiente, principale, [this] { MostraModale<frmConfMetro>(); }),
-      a_(ambiente) {}
+namespace {
 
-Secondarie Programma::Apri(std::function<void()> aiuto) {
+constexpr int aiutoMetronomo = 8;
+constexpr int aiutoStrumenti = 40;
+
+}  // namespace
+
+Programma::Programma(const Ambiente& ambiente)
+    : principale(ambiente, Apri()),
+      metronomo(ambiente, principale, [this] { MostraModale<frmConfMetro>(aiutoMetronomo); }),
+      a_(ambiente) {
+    a_.finestre.PonAiuto([this](const Form& form) { form.ApriAiuto(a_.globali.FileAiuto); });
+}
+
+Secondarie Programma::Apri() {
     Secondarie s;
-    s.frmMidiTest = [this] { MostraModale<frmMidiTest>(); };
-    s.frmStrum = [this] { MostraModale<frmStrum>(); };
+    s.frmMidiTest = [this] { MostraModale<frmMidiTest>(aiutoStrumenti); };
+    s.frmStrum = [this] { MostraModale<frmStrum>(aiutoStrumenti); };
     s.frmAbout = [this] { MostraModale<frmAbout>(); };
-    s.aiuto = std::move(aiuto);
+    s.aiuto = [this] { a_.finestre.ChiediAiuto(); };
     s.metronomo = {[this] { metronomo.Carica(); }, [this] { metronomo.mnuMetro_Click(); },
                    [this] { metronomo.Alterna(); }, [this] { metronomo.ConsigliaX12(); }};
     return s;

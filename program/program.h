@@ -1,8 +1,6 @@
 // All windows of the program, and which opens which. Logic thread.
 #pragma once
 
-#include <functional>
-
 #include "metronome/panel.h"
 #include "trainer/corvana_main.h"
 
@@ -10,8 +8,7 @@ namespace corvana {
 
 class Programma {
 public:
-    /// `aiuto` opens the help; empty where there is none.
-    explicit Programma(const Ambiente& ambiente, std::function<void()> aiuto = {});
+    explicit Programma(const Ambiente& ambiente);
 
     CorvanaMainF principale;
     PannelloMetronomo metronomo;
@@ -21,12 +18,14 @@ public:
     void Esegui(bool altraIstanza);
 
 private:
+    /// `aiuto` is the window's page of the help, 0 for its first one.
     template <class F>
-    void MostraModale() {
+    void MostraModale(int aiuto = 0) {
         F finestra(a_);
+        finestra.HelpContextID = aiuto;
         a_.finestre.MostraModale(finestra);
     }
-    Secondarie Apri(std::function<void()> aiuto);
+    Secondarie Apri();
 
     Ambiente a_;
 };

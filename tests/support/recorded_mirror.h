@@ -23,6 +23,7 @@ public:
     std::vector<std::string> mostrate;  ///< names, a modal one behind "modal "
     std::vector<std::string> chiuse;
     std::vector<std::string> trascinate;
+    std::vector<std::string> aiuti;  ///< context and file of each help that was asked for
     std::vector<std::uint32_t> identitaChiuse;  ///< as the closed windows had it at that moment
 
     void Mostra(const Form& form, bool modale) override {
@@ -33,6 +34,9 @@ public:
     }
     void Fuoco(const Controllo& controllo) override { fuochi.push_back(controllo.Name); }
     void Trascina(const Form& form) override { trascinate.push_back(form.Name); }
+    void Aiuto(const Form& form, const std::string& file) override {
+        aiuti.push_back(std::to_string(form.HelpContextID()) + ' ' + file);
+    }
     void Chiudi(const Form& form) override {
         chiuse.push_back(form.Name);
         identitaChiuse.push_back(form.Identita());

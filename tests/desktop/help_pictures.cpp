@@ -1,0 +1,157 @@
+// Takes the pictures of the help from the real windows. Usage:
+// corvana_help_pictures FOLDER DATA it|en
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QPainter>
+#include <QTemporaryDir>
+
+#include "desktop/application.h"
+#include "desktop/program.h"
+#include "desktop/theme.h"
+#include "sound/recorder.h"
+#include "tests/desktop/screen.h"
+
+namespace {
+
+using namespace corvana;
+using namespace corvana::prova;
+
+class Fotografo {
+public:
+    Fotografo(Scrivania& scrivania, const char* cartella)
+        : scrivania_(scrivania), cartella_(QString::fromLocal8Bit(cartella)) {}
+
+    QWidget& Di(const char* nome) { return Trova(scrivania_, QString::fromUtf8(nome)); }
+    QString Testo(const char* bottone) {
+        return dynamic_cast<QAbstractButton&>(Di(bottone)).text();
+    }
+    void Premi(const char* nome) { Clicca(scrivania_, QString::fromUtf8(nome)); }
+    void Scegli(const char* voce) { TrovaVoce(scrivania_, QString::fromUtf8(voce)).trigger(); }
+    void Attendi(const char* finestra) { AspettaFinestra(scrivania_, QLatin1String(finestra)); }
+    /// The whole window in front.
+    void Scatta(const char* nome) { Salva(Fotografa(scrivania_), nome); }
+    /// The part of it from the one control to the other, with a little around it.
+    void Scatta(const char* nome, const char* da, const char* a) {
+        constexpr int intorno = 8;
+        const QRect parte = (Posto(da) | Posto(a)).adjusted(-intorno, -intorno, intorno, intorno);
+        QMainWindow& finestra = scrivania_.Davanti()->Finestra();
+        Salva(finestra.grab(parte & finestra.centralWidget()->geometry()).toImage(), nome);
+    }
+    /// A window over the main one, opened by `apri`.
+    void ScattaSopra(const char* nome, const char* finestra, const std::function<void()>& apri) {
+        apri();
+        Attendi(finestra);
+        Scatta(nome);
+        scrivania_.Davanti()->Finestra().close();
+        Attendi("CorvanaMainF");
+    }
+
+private:
+    QRect Posto(const char* nome) {
+        QWidget& widget = Di(nome);
+        return {widget.mapTo(widget.window(), QPoint()), widget.size()};
+    }
+    void Salva(const QImage& foto, const char* nome) const {
+        const QString file = QDir(cartella_).filePath(QLatin1String(nome) + ".png");
+        QImage suCarta(foto.size(), QImage::Format_RGB32);
+        suCarta.fill(tinta::carta);
+        QPainter(&suCarta).drawImage(suCarta.rect(), foto);
+        if (!suCarta.save(file)) throw std::runtime_error(nome);
+    }
+
+    Scrivania& scrivania_;
+    QString cartella_;
+};
+
+void Deve(bool condizione) {
+    if (!condizione) throw std::runtime_error("the program never came to the state to be shown");
+}
+
+constexpr const char* risposte[] = {"pdo", "pre", "pmi", "pfa", "psol", "pla", "psi"};
+
+/// Number of the note whose name stands on the staff, 0 for Do.
+int NomeMostrato(Fotografo& f) {
+    const QString nome = f.Di("lblnn").accessibleName();
+    for (int i = 0; i < 7; ++i)
+        if (f.Testo(risposte[i]).compare(nome, Qt::CaseInsensitive) == 0) return i;
+    throw std::runtime_error("no name stands on the staff");
+}
+
+/// Presses the button of that number, and waits for the result, the `quante`th of the run.
+void Rispondi(Fotografo& f, int quale, int quante) {
+    f.Premi(risposte[quale]);
+    const QString fine = QStringLiteral(" %1").arg(quante);
+    Deve(Aspetta([&] { return f.Di("Ridate").accessibleName().endsWith(fine); }));
+}
+
+void Esercizio(Fotografo& f) {
+    f.Scatta("range", "img", "difficolt");
+    f.Premi("lblMn");
+    f.Premi("Start");
+    Deve(Aspetta([&] { return f.Di("pdo").isEnabled() && !f.Di("Regolo").isVisible(); }));
+    for (int giuste = 1; giuste < 8; ++giuste)
+        Rispondi(f, NomeMostrato(f), giuste);
+    Rispondi(f, (NomeMostrato(f) + 1) % 7, 8);
+    f.Scatta("drill", "img", "psi");
+    f.Premi("Start");
+    Deve(Aspetta([&] { return f.Di("frmRisultati").isVisible(); }));
+    f.Scatta("results", "frmRisultati", "frmRisultati");
+    f.Scatta("main");
+}
+
+void Automatico(Fotografo& f) {
+    f.Scegli("mnuAutomatico");
+    Deve(Aspetta([&] { return f.Di("Slider1").isVisible(); }));
+    f.Scatta("automatic", "Shape5", "Shape6");
+    f.Scegli("mnuNormale");
+    Deve(Aspetta([&] { return !f.Di("Slider1").isVisible(); }));
+}
+
+void Metronomo(Fotografo& f) {
+    f.Scegli("mnuMetro");
+    Deve(Aspetta([&] { return f.Di("frmMetro").isVisible(); }));
+    f.Premi("cmdSSmetro");
+    Deve(Aspetta([&] {
+        QWidget& luce = f.Di("lblPuls0");
+        return Fotografa(luce).pixelColor(luce.rect().center()) == Qt::red;
+    }));
+    f.Scatta("metronome", "frmMetro", "frmMetro");
+    f.Premi("cmdSSmetro");
+    Deve(Aspetta([&] { return f.Di("cmdSetup").isEnabled(); }));
+    f.ScattaSopra("pattern", "frmConfMetro", [&] { f.Premi("cmdSetup"); });
+}
+
+Macchina MacchinaDelFotografo(const char* dati, const QTemporaryDir& stato) {
+    Macchina macchina;
+    macchina.cartellaProgramma = dati;
+    macchina.percorsoImpostazioni = stato.filePath(QStringLiteral("settings")).toStdString();
+    macchina.percorsoBlocco = stato.filePath(QStringLiteral("lock")).toStdString();
+    macchina.uscite = [](std::function<double()> istante) {
+        return std::make_unique<Registratore>(std::move(istante));
+    };
+    return macchina;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    Applicazione applicazione(argc, argv);
+    const QTemporaryDir stato;
+    const Macchina macchina = MacchinaDelFotografo(argv[2], stato);
+    Scrivania& scrivania = applicazione.LaScrivania();
+    scrivania.Avvia([&] { EseguiProgramma(applicazione, macchina); });
+    Fotografo f(scrivania, argv[1]);
+    f.Attendi("CorvanaMainF");
+    Deve(Aspetta([&] { return f.Di("Start").isEnabled(); }));
+    const bool inglese = QByteArray(argv[3]) == "en";
+    f.Scegli(inglese ? "mnuEn" : "mnuIt");
+    Deve(Aspetta([&] { return f.Testo("pdo") == (inglese ? "C" : "DO"); }));
+    Esercizio(f);
+    Automatico(f);
+    Metronomo(f);
+    f.ScattaSopra("instruments", "frmStrum", [&] { f.Scegli("mnuSs"); });
+    f.ScattaSopra("midi", "frmMidiTest", [&] { f.Scegli("mnuMidiTest"); });
+    scrivania.Termina();
+    return 0;
+}
