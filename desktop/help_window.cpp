@@ -48,7 +48,8 @@ public:
     QVariant loadResource(int genere, const QUrl& nome) override {
         if (genere != QTextDocument::ImageResource) return QTextBrowser::loadResource(genere, nome);
         const QUrl posto = nome.isRelative() ? source().resolved(nome) : nome;
-        const QImage figura(posto.toLocalFile());
+        // Of indexed colours the scaling would make a coarse pattern.
+        const QImage figura = QImage(posto.toLocalFile()).convertToFormat(QImage::Format_RGB32);
         if (figura.isNull()) return {};
         const double scala = devicePixelRatioF();
         QImage ridotta = figura.scaled(figura.size() * (scala / puntiPerPixel), Qt::KeepAspectRatio,
