@@ -18,7 +18,7 @@ namespace {
 constexpr double puntiPerPixel = 2;
 constexpr int margine = 30;
 constexpr QSize misura(740, 680);
-const QString primaPagina = QStringLiteral("index.html");
+constexpr QLatin1String primaPagina("index.html");
 
 struct Parole {
     QString titolo, indietro, avanti, indice, manca;
