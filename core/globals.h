@@ -76,7 +76,8 @@ struct Globali {
     std::string FileAiuto;               ///< the help file's full name
     std::int32_t StrumentoGlobale = 16;  ///< General MIDI program of the note voice
     bool NomiAnglo = false;              ///< note names C, D, E instead of Do, Re, Mi
-    std::string percorsoCorrente;        ///< the melody folder
+    std::string percorsoCorrente;        ///< the melody folder, with a closing separator
+    char SeparatoreDecimale = '.';       ///< the system's, in the duration tokens of melodies
     bool ComposerAperto = false;
     bool IntoAperto = false;
     bool PickerAperto = false;

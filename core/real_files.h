@@ -1,16 +1,30 @@
 // The machine's files. Logic thread.
 #pragma once
 
+#include <utility>
+
 #include "core/files.h"
 
 namespace corvana {
 
 class FileReali final : public ArchivioFile {
 public:
+    /// Removable media are looked for where the system mounts them for this user.
+    FileReali();
+    /// They are looked for in these folders.
+    explicit FileReali(std::vector<std::string> radiciSupporti)
+        : radiciSupporti_(std::move(radiciSupporti)) {}
+
     bool Esiste(const std::string& percorso) override;
+    bool EsisteCartella(const std::string& percorso) override;
     int Leggi(const std::string& percorso, std::string& contenuto) override;
     int ScriviAtomico(const std::string& percorso, const std::string& contenuto) override;
     int CreaCartella(const std::string& percorso) override;
+    std::vector<VoceCartella> Elenca(const std::string& percorso) override;
+    std::string SupportoRimovibile() override;
+
+private:
+    std::vector<std::string> radiciSupporti_;
 };
 
 }  // namespace corvana

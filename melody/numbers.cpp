@@ -1,0 +1,52 @@
+#include "melody/numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "forms/fault.h"
+
+namespace corvana {
+
+std::string TestoNumero(double numero, char separatore) {
+    constexpr int cifre = 15;
+    std::array<char, 32> spazio{};
+    const auto [fine, errore] = std::to_chars(spazio.data(), spazio.data() + spazio.size(), numero,
+                                              std::chars_format::general, cifre);
+    std::string testo(spazio.data(), fine);
+    std::replace(testo.begin(), testo.end(), '.', separatore);
+    std::replace(testo.begin(), testo.end(), 'e', 'E');
+    return testo;
+}
+
+double NumeroReale(std::string_view testo) {
+    std::string cifre(SenzaBlanchi(testo));
+    std::replace(cifre.begin(), cifre.end(), ',', '.');
+    // Words that stand for infinity and for no number at all must not pass.
+    const bool soloCifre = cifre.find_first_not_of("0123456789+-.eE") == std::string::npos;
+    const bool piu = cifre.starts_with('+') && !cifre.starts_with("+-");
+    double numero = 0;
+    const char* fineTesto = cifre.data() + cifre.size();
+    const auto [fine, errore] = std::from_chars(cifre.data() + (piu ? 1 : 0), fineTesto, numero);
+    if (errore == std::errc::result_out_of_range) throw Guasto(guastoTraboccamento, "Overflow");
+    if (!soloCifre || errore != std::errc{} || fine != fineTesto)
+        throw Guasto(guastoTipo, "Type mismatch");
+    return numero;
+}
+
+std::string CampoNumero(long numero) {
+    return (numero < 0 ? "" : " ") + std::to_string(numero) + " ";
+}
+
+std::int64_t ArrotondaAlPari(double numero) {
+    return std::llrint(std::clamp(numero, -limiteArrotonda, limiteArrotonda));
+}
+
+std::string_view SenzaBlanchi(std::string_view testo) {
+    const std::size_t primo = testo.find_first_not_of(' ');
+    if (primo == std::string_view::npos) return {};
+    return testo.substr(primo, testo.find_last_not_of(' ') - primo + 1);
+}
+
+}  // namespace corvana
