@@ -13,6 +13,7 @@ install(FILES ${laid}/langit.csv ${laid}/langen.csv DESTINATION ${CMAKE_INSTALL_
 install(FILES ${laid}/note/rok.wav ${laid}/note/rko.wav
         DESTINATION ${CMAKE_INSTALL_DATADIR}/corvana/note)
 install(DIRECTORY ${laid}/help DESTINATION ${CMAKE_INSTALL_DATADIR}/corvana OPTIONAL)
+install(DIRECTORY ${laid}/Melodie DESTINATION ${CMAKE_INSTALL_DATADIR}/corvana)
 install(FILES ${desktop}/org.corvana.Corvana.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${desktop}/org.corvana.Corvana.metainfo.xml
