@@ -51,6 +51,8 @@ void Poni(Aspetto& a, Nome nome, const Valore& valore) {
         case Nome::BorderStyle: return Prendi(a.bordo, valore);
         case Nome::Sfondo: return Prendi(a.sfumatura, valore);
         case Nome::HelpContextID: return Prendi(a.helpContext, valore);
+        case Nome::BackStyle: return Prendi(a.fondoStile, valore);
+        case Nome::MousePointer: return Prendi(a.puntatore, valore);
     }
 }
 

@@ -20,9 +20,11 @@ struct Aspetto {
     Colore penna = coloreDiSistema;
     Sfumatura sfumatura;
     int bordo = 0;
+    int fondoStile = fondoOpaco;
     int left = 0, top = 0, width = 0, height = 0;  ///< twips
     int value = 0, min = 0, max = 100, listIndex = -1;
     int helpContext = 0;
+    int puntatore = puntatoreNormale;
 
     QRect Twips() const { return {left, top, width, height}; }
     bool Ha(const char* parola) const { return stile.contains(QLatin1String(parola)); }

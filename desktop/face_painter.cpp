@@ -44,6 +44,7 @@ QColor Sotto(QColor colore, const Tocco& tocco) {
 }
 
 QBrush Pennello(const Aspetto& a, const Forma& forma, const QRectF& area, const Tocco& tocco) {
+    if (a.fondoStile == fondoTrasparente) return Qt::NoBrush;
     if (a.sfumatura.Presente()) return PennelloSfumatura(a.sfumatura, area);
     const QColor colore = InQt(a.fondo, forma.fondo ? *forma.fondo : QColor(Qt::transparent));
     return forma.premibile ? Sotto(colore, tocco) : colore;

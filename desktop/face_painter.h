@@ -17,7 +17,8 @@ struct Tocco {
 };
 
 /// Gradient or colour, and border, in the shape that a style word names; a plain rectangle without
-/// one. A control with neither colour nor such a word shows what lies beneath it.
+/// one. A control with neither colour nor such a word shows what lies beneath it, and so does a
+/// transparent one, of which the border alone is painted.
 void DipingiFondo(QPainter& p, const QRectF& area, const Aspetto& aspetto, double scala,
                   const Tocco& tocco);
 

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QWindow>
+#include <utility>
 
 #include "desktop/key_map.h"
 #include "forms/keys.h"
@@ -58,20 +59,30 @@ void Tastiera::Perdi() {
 }
 
 bool Tastiera::eventFilter(QObject* oggetto, QEvent* evento) {
-    const bool premuto = evento->type() == QEvent::KeyPress;
-    if (!premuto && evento->type() != QEvent::KeyRelease) return false;
     const auto finestra = finestre_.find(oggetto);
     if (finestra == finestre_.end()) return false;
     const auto& tasto = static_cast<const QKeyEvent&>(*evento);
-    if (premuto) return Premi(finestra->second, tasto);
-    Lascia(finestra->second, tasto);
-    return false;
+    switch (evento->type()) {
+        case QEvent::ShortcutOverride: Annuncia(tasto); return false;
+        case QEvent::KeyPress: return Premi(finestra->second, tasto);
+        case QEvent::KeyRelease: Lascia(finestra->second, tasto); return false;
+        default: return false;
+    }
+}
+
+void Tastiera::Annuncia(const QKeyEvent& tasto) {
+    nelMenu_ = QApplication::activePopupWidget() ? Codice(tasto) : 0;
 }
 
 bool Tastiera::Premi(const Mittente& mittente, const QKeyEvent& tasto) {
-    if (QApplication::activePopupWidget()) return false;
     const int codice = Codice(tasto);
+    const bool fuMenu = codice == std::exchange(nelMenu_, 0);
+    if (QApplication::activePopupWidget()) return false;
     if (codice <= 0 || codice >= static_cast<int>(mandati_.size())) return false;
+    // The mere announcement of it has closed a drop-down list: that was all its work.
+    if (fuMenu) return true;
+    // One that went down in a menu, which it may have closed, isn't pressed here by being held.
+    if (tasto.isAutoRepeat() && !mandati_.test(static_cast<std::size_t>(codice))) return false;
     mandati_.set(static_cast<std::size_t>(codice));
     mittente.Manda(FattoTasto(Fatto::KeyDown, codice, tasto));
     return SoloRisposta(codice);

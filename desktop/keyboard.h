@@ -1,6 +1,6 @@
 // Makes key events of the windows' keys: by place, one press and one release for each key, nothing
-// while a menu is open, and never a release after the keyboard was lost. One for all windows, since
-// a key can go down in one and up in another. GUI thread.
+// while a menu or a drop-down list is open, and never a release after the keyboard was lost. One
+// for all windows, since a key can go down in one and up in another. GUI thread.
 #pragma once
 
 #include <QObject>
@@ -28,6 +28,7 @@ public:
     bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
 private:
+    void Annuncia(const QKeyEvent& tasto);
     bool Premi(const Mittente& mittente, const QKeyEvent& tasto);
     void Lascia(const Mittente& mittente, const QKeyEvent& tasto);
     void CambiaFinestra(QWindow* nuova);
@@ -35,6 +36,7 @@ private:
     std::map<QObject*, Mittente> finestre_;
     QPointer<QObject> attiva_;
     std::bitset<256> mandati_;
+    int nelMenu_ = 0;  ///< code of the key that goes down while a menu or a drop-down list is open
 };
 
 }  // namespace corvana

@@ -3,28 +3,18 @@
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QPainter>
-#include <QScrollBar>
 #include <QSignalBlocker>
-#include <QStyledItemDelegate>
 #include <functional>
 
 #include "desktop/face_painter.h"
+#include "desktop/row_painter.h"
 #include "desktop/theme.h"
 
 namespace corvana {
 
 namespace {
 
-// A slim thumb without arrows, in the colours of the theme.
-constexpr const char* stileScorrimento =
-    "QScrollBar:vertical{background:transparent;width:10px;margin:1px;}"
-    "QScrollBar::handle:vertical{background:#dcd2c0;border-radius:4px;min-height:24px;}"
-    "QScrollBar::handle:vertical:hover{background:#b9ac96;}"
-    "QScrollBar::add-line,QScrollBar::sub-line{height:0;}"
-    "QScrollBar::add-page,QScrollBar::sub-page{background:transparent;}";
-
-constexpr double altezzaRiga = 20;  ///< designed pixels
-constexpr double aria = 5;          ///< pixels between the list's edge and its rows
+constexpr double aria = 5;  ///< pixels between the list's edge and its rows
 
 class Elenco final : public QListWidget {
 public:
@@ -87,64 +77,19 @@ private:
     bool preme_ = false;
 };
 
-/// Rows with room around their text; one of dashes alone is a thin line.
-class Riga final : public QStyledItemDelegate {
-public:
-    Riga(const Vista& vista, QObject& padre) : QStyledItemDelegate(&padre), vista_(vista) {}
-
-    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
-        return {0, static_cast<int>(altezzaRiga * vista_.Scala())};
-    }
-    void paint(QPainter* p, const QStyleOptionViewItem& o,
-               const QModelIndex& indice) const override {
-        const QString testo = indice.data().toString();
-        const bool scelta = o.state.testFlag(QStyle::State_Selected);
-        p->save();
-        p->setRenderHint(QPainter::Antialiasing);
-        if (scelta || o.state.testFlag(QStyle::State_MouseOver)) Evidenzia(*p, o.rect, scelta);
-        if (testo.count(QLatin1Char('-')) == testo.size())
-            Filo(*p, o.rect, scelta);
-        else
-            Scrivi(*p, o, testo, scelta);
-        p->restore();
-    }
-
-private:
-    void Evidenzia(QPainter& p, const QRectF& riga, bool scelta) const {
-        p.setPen(Qt::NoPen);
-        p.setBrush(scelta ? tinta::accento : tinta::accentoTenue);
-        p.drawRoundedRect(riga, 5 * vista_.Scala(), 5 * vista_.Scala());
-    }
-    void Filo(QPainter& p, const QRectF& riga, bool scelta) const {
-        p.setPen(QPen(scelta ? QColor(Qt::white) : tinta::filo, vista_.Scala()));
-        const double rientro = 8 * vista_.Scala();
-        p.drawLine(QPointF(riga.left() + rientro, riga.center().y()),
-                   QPointF(riga.right() - rientro, riga.center().y()));
-    }
-    void Scrivi(QPainter& p, const QStyleOptionViewItem& o, const QString& testo,
-                bool scelta) const {
-        const bool abilitata = o.state.testFlag(QStyle::State_Enabled);
-        const QColor penna = InQt(vista_.Stato().penna, tinta::inchiostro);
-        p.setPen(scelta ? QColor(Qt::white) : abilitata ? penna : tinta::spento);
-        p.setFont(o.font);
-        const int rientro = static_cast<int>(8 * vista_.Scala());
-        const QRect posto = o.rect.adjusted(rientro, 0, -rientro / 2, 0);
-        p.drawText(posto, Qt::AlignVCenter | Qt::AlignLeft,
-                   o.fontMetrics.elidedText(testo, Qt::ElideRight, posto.width()));
-    }
-
-    const Vista& vista_;
-};
-
 }  // namespace
 
 VistaLista::VistaLista(const CopiaControllo& copia, Mittente mittente, QWidget& padre)
     : Vista(copia, mittente) {
     auto* elenco = new Elenco(
-        *this, [this](int riga) { Manda(Fatto::Click, riga); }, padre);
+        *this,
+        [this](int riga) {
+            PonDaUtente(Nome::ListIndex, riga);
+            Manda(Fatto::Click, riga);
+        },
+        padre);
     lista_ = elenco;
-    lista_->verticalScrollBar()->setStyleSheet(QString::fromLatin1(stileScorrimento));
-    lista_->setItemDelegate(new Riga(*this, *lista_));
+    VestiRighe(*lista_, *this);
     PonWidget(*lista_, lista_->viewport());
     PonRighe();
 }

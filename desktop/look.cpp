@@ -1,6 +1,7 @@
 #include "desktop/look.h"
 
 #include <QApplication>
+#include <QFrame>
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -27,6 +28,9 @@ public:
     int styleHint(StyleHint cosa, const QStyleOption* opzioni, const QWidget* widget,
                   QStyleHintReturn* altro) const override {
         if (cosa == SH_EtchDisabledText || cosa == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+        // The rows drop down below the control, which goes on showing what is chosen.
+        if (cosa == SH_ComboBox_Popup) return 0;
+        if (cosa == SH_ComboBox_PopupFrameStyle) return QFrame::Box | QFrame::Plain;
         return QProxyStyle::styleHint(cosa, opzioni, widget, altro);
     }
 };

@@ -15,7 +15,7 @@ namespace corvana {
 /// What the entries of one window share.
 struct Menu {
     QMenuBar& sbarra;
-    /// A menu opens: no key is held any more as far as the window is concerned.
+    /// A menu or a drop-down list opens: no key is held any more as far as the window is concerned.
     std::function<void()> apertura;
 };
 

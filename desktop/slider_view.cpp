@@ -91,13 +91,16 @@ void VistaBarra::PonValori() {
 void VistaBarra::Collega() {
     QObject::connect(barra_, &QSlider::sliderMoved, barra_, [this](int valore) {
         mosso_ = true;
+        PonDaUtente(Nome::Value, valore);
         Manda(Fatto::Scroll, valore);
     });
     QObject::connect(barra_, &QSlider::sliderReleased, barra_, [this] {
         if (std::exchange(mosso_, false)) Manda(Fatto::Change, barra_->value());
     });
     QObject::connect(barra_, &QSlider::valueChanged, barra_, [this](int valore) {
-        if (!barra_->isSliderDown()) Manda(Fatto::Change, valore);
+        if (barra_->isSliderDown()) return;
+        PonDaUtente(Nome::Value, valore);
+        Manda(Fatto::Change, valore);
     });
 }
 

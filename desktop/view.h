@@ -41,6 +41,9 @@ protected:
     /// `bersaglio`, the part that receives it (the widget itself when null).
     void PonWidget(QWidget& widget, QWidget* bersaglio = nullptr);
 
+    /// The user has made this of a property, and the widget shows it already.
+    void PonDaUtente(Nome nome, const Valore& valore) { Poni(aspetto_, nome, valore); }
+
     /// A property changed; the common ones are dealt with already.
     virtual void Rinfresca(Nome nome);
     /// The scale changed.

@@ -1,4 +1,5 @@
 #include "desktop/button_view.h"
+#include "desktop/combo_view.h"
 #include "desktop/icon_painter.h"
 #include "desktop/list_view.h"
 #include "desktop/painted_view.h"
@@ -40,6 +41,7 @@ std::unique_ptr<Vista> CreaVista(const CopiaControllo& copia, Mittente mittente,
         case Genere::Bottone: return std::make_unique<VistaBottone>(copia, mittente, padre);
         case Genere::Casella: return CreaCasella(copia, mittente, padre);
         case Genere::Lista: return std::make_unique<VistaLista>(copia, mittente, padre);
+        case Genere::Combo: return std::make_unique<VistaCombo>(copia, mittente, padre);
         case Genere::Barra: return std::make_unique<VistaBarra>(copia, mittente, padre);
         case Genere::Spunta: return std::make_unique<VistaSpunta>(copia, mittente, padre);
         default: return CreaDipinta(copia, mittente, padre, pentagramma);

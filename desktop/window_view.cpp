@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <set>
 
+#include "desktop/combo_view.h"
 #include "desktop/keyboard.h"
 #include "desktop/painted_view.h"
 #include "desktop/staff_view.h"
@@ -94,6 +95,7 @@ void VistaFinestra::CreaTutti(const std::vector<CopiaControllo>& controlli, Tast
     if (viste_.front()->Stato().Ha("arrotondata")) Arrotonda();
     finestra_->setWindowTitle(viste_.front()->Stato().caption);
     finestra_->setObjectName(viste_.front()->Stato().nome);
+    PonPuntatore();
 }
 
 void VistaFinestra::Arrotonda() {
@@ -113,6 +115,8 @@ void VistaFinestra::Crea(const CopiaControllo& copia, const Menu& menu, bool haV
     viste_.push_back(
         CreaVista(copia, mittente_, dove ? *dove : *finestra_->centralWidget(), pentagramma_));
     if (auto* staff = dynamic_cast<VistaPentagramma*>(viste_.back().get())) pentagramma_ = staff;
+    if (auto* combo = dynamic_cast<VistaCombo*>(viste_.back().get()))
+        combo->PonApertura(menu.apertura);
 }
 
 Vista* VistaFinestra::Controllo(int numero) {
@@ -178,8 +182,16 @@ void VistaFinestra::Cambia(int numero, Nome nome, const Valore& valore) {
     vista->Cambia(nome, valore);
     if (numero != 0) return;
     if (nome == Nome::Caption) finestra_->setWindowTitle(vista->Stato().caption);
+    if (nome == Nome::MousePointer) PonPuntatore();
     if (misura) Ridimensiona();
     Disponi();
+}
+
+void VistaFinestra::PonPuntatore() {
+    if (viste_.front()->Stato().puntatore == puntatoreAttesa)
+        finestra_->setCursor(Qt::WaitCursor);
+    else
+        finestra_->unsetCursor();
 }
 
 void VistaFinestra::DaiFuoco(int numero) {

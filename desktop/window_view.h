@@ -39,6 +39,7 @@ private:
     /// Without the system's frame; the face paints its own round corners.
     void Arrotonda();
     void OrdinaFuoco();
+    void PonPuntatore();
     void Apri(bool modale, VistaFinestra* sotto);
     /// The face as large as the window lets it be, in its middle.
     void Disponi();

@@ -72,6 +72,18 @@ void Lista::Ripeti() {
     Finestra().Annuncia(*this, ListIndex);
 }
 
+std::string Lista::Scelta() const {
+    const int scelta = ListIndex;
+    const bool esiste = scelta >= 0 && scelta < static_cast<int>(List->size());
+    return esiste ? List()[static_cast<std::size_t>(scelta)] : std::string{};
+}
+
+void Combo::PonTesto(const std::string& testo) {
+    const auto riga = std::find(List->begin(), List->end(), testo);
+    if (riga == List->end()) throw Guasto(guastoProprieta, "Invalid property value");
+    Seleziona(static_cast<int>(riga - List->begin()));
+}
+
 bool Barra::Contiene(int valore) const {
     return valore >= std::min(Min(), Max()) && valore <= std::max(Min(), Max());
 }

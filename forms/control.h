@@ -20,6 +20,7 @@ enum class Genere : std::uint8_t {
     Bottone,
     Casella,
     Lista,
+    Combo,
     Barra,
     Spunta,
     Cornice,
@@ -101,6 +102,8 @@ struct ConCaption : Controllo {
 struct Etichetta : ConCaption {
     Etichetta(Form& form, std::string nome, Controllo* padre = nullptr)
         : ConCaption(form, std::move(nome), Genere::Etichetta, padre) {}
+    /// `fondoTrasparente` shows what lies beneath the label, whatever its `BackColor`.
+    Proprieta<int, Nome::BackStyle> BackStyle{*this, fondoOpaco};
 };
 
 struct Bottone : ConCaption {
@@ -132,8 +135,24 @@ struct Lista : Controllo {
     void PonRiga(int indice, std::string testo);
     void Clear();
     void Seleziona(int indice);
+    /// The chosen row; empty when none is.
+    std::string Scelta() const;
     void Accogli(const Evento& e) override;
     void Ripeti() override;
+
+protected:
+    Lista(Form& form, std::string nome, Genere genere, Controllo* padre)
+        : Controllo(form, std::move(nome), genere, padre) {}
+};
+
+/// A list of which the face shows the chosen row alone, until the user opens it.
+struct Combo : Lista {
+    Combo(Form& form, std::string nome, Controllo* padre = nullptr)
+        : Lista(form, std::move(nome), Genere::Combo, padre) {}
+    std::string Text() const { return Scelta(); }
+    /// Chooses the first row that reads exactly so, as `Seleziona` does. Throws `Guasto` 380 when
+    /// there is no such row.
+    void PonTesto(const std::string& testo) override;
 };
 
 /// A slider or scroll bar: `Min` at its left or upper end, `Max` at the other; either may be the

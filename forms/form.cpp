@@ -46,7 +46,7 @@ void Disponi(Form& form, const Posto* posti, std::size_t quanti) {
         controllo->Height = posto.height;
         controllo->ToolTipText = std::string(posto.consiglio);
         controllo->stile = std::string(posto.stile);
-        controllo->PonTesto(std::string(posto.testo));
+        if (!posto.testo.empty()) controllo->PonTesto(std::string(posto.testo));
     });
 }
 

@@ -18,6 +18,8 @@ public:
     Proprieta<std::string, Nome::Caption> Caption{*this, ""};
     /// Page of the help that F1 opens.
     Proprieta<int, Nome::HelpContextID> HelpContextID{*this, 0};
+    /// The pointer's shape over the window, where a control has none of its own.
+    Proprieta<int, Nome::MousePointer> MousePointer{*this, puntatoreNormale};
 
     virtual void Form_Load() {}
     /// Each time that the window comes to the front of the program's windows.
@@ -59,7 +61,7 @@ private:
 struct Posto {
     std::string_view nome;
     int left, top, width, height;
-    std::string_view testo = {};      ///< caption or text
+    std::string_view testo = {};      ///< caption or text; none leaves the control's own
     std::string_view consiglio = {};  ///< tool tip
     std::string_view stile = {};
 };

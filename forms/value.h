@@ -28,6 +28,14 @@ constexpr int Blu(Colore c) {
     return (c >> 16) & 0xFF;
 }
 
+/// Values of `BackStyle`.
+constexpr int fondoTrasparente = 0;
+constexpr int fondoOpaco = 1;
+
+/// Values of `MousePointer`.
+constexpr int puntatoreNormale = 0;
+constexpr int puntatoreAttesa = 11;
+
 /// A band of colour painted on a control: see `Gradiente`.
 struct Sfumatura {
     Colore inizio = coloreDiSistema;
@@ -61,6 +69,8 @@ enum class Nome : std::uint8_t {
     BorderStyle,
     Sfondo,
     HelpContextID,
+    BackStyle,
+    MousePointer,
 };
 
 using Righe = std::vector<std::string>;

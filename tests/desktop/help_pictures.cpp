@@ -4,13 +4,9 @@
 #include <QApplication>
 #include <QDir>
 #include <QPainter>
-#include <QTemporaryDir>
 
-#include "desktop/application.h"
-#include "desktop/program.h"
 #include "desktop/theme.h"
-#include "sound/recorder.h"
-#include "tests/desktop/screen.h"
+#include "tests/desktop/program_stage.h"
 
 namespace {
 
@@ -122,23 +118,12 @@ void Metronomo(Fotografo& f) {
     f.ScattaSopra("pattern", "frmConfMetro", [&] { f.Premi("cmdSetup"); });
 }
 
-Macchina MacchinaDelFotografo(const char* dati, const QTemporaryDir& stato) {
-    Macchina macchina;
-    macchina.cartellaProgramma = dati;
-    macchina.percorsoImpostazioni = stato.filePath(QStringLiteral("settings")).toStdString();
-    macchina.percorsoBlocco = stato.filePath(QStringLiteral("lock")).toStdString();
-    macchina.uscite = [](std::function<double()> istante) {
-        return std::make_unique<Registratore>(std::move(istante));
-    };
-    return macchina;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
     Applicazione applicazione(argc, argv);
     const QTemporaryDir stato;
-    const Macchina macchina = MacchinaDelFotografo(argv[2], stato);
+    const Macchina macchina = MacchinaMuta(QString::fromLocal8Bit(argv[2]), stato);
     Scrivania& scrivania = applicazione.LaScrivania();
     scrivania.Avvia([&] { EseguiProgramma(applicazione, macchina); });
     Fotografo f(scrivania, argv[1]);

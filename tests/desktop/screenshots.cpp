@@ -3,13 +3,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QMenu>
-#include <QTemporaryDir>
 
-#include "desktop/application.h"
-#include "desktop/program.h"
-#include "sound/recorder.h"
-#include "tests/desktop/screen.h"
-#include "trainer/corvana_main.h"
+#include "tests/desktop/program_stage.h"
 
 namespace {
 
@@ -109,23 +104,12 @@ void FotografaSecondarie(Servizio& s) {
     s.Premi("lblCloseMetro");
 }
 
-Macchina MacchinaDiProva(const QString& dati, const QString& stato) {
-    Macchina macchina;
-    macchina.cartellaProgramma = dati.toStdString();
-    macchina.percorsoImpostazioni = (stato + "/settings").toStdString();
-    macchina.percorsoBlocco = (stato + "/lock").toStdString();
-    macchina.uscite = [](std::function<double()> istante) {
-        return std::make_unique<Registratore>(std::move(istante));
-    };
-    return macchina;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
     Applicazione applicazione(argc, argv);
     const QTemporaryDir stato;
-    const Macchina macchina = MacchinaDiProva(QString::fromLocal8Bit(argv[2]), stato.path());
+    const Macchina macchina = MacchinaMuta(QString::fromLocal8Bit(argv[2]), stato);
     Scrivania& scrivania = applicazione.LaScrivania();
     scrivania.Avvia([&] { EseguiProgramma(applicazione, macchina); });
     AspettaFinestra(scrivania, "CorvanaMainF");

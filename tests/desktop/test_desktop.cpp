@@ -27,6 +27,17 @@ TEST(Scrivania, ClosingAWindowOnlyAsksTheLogic) {
     EXPECT_TRUE(palco.scrivania.Davanti()->Finestra().isVisible());
 }
 
+TEST(Scrivania, ThePointerSaysThatTheWindowIsBusy) {
+    Palco palco([](FormDiProva& form) { form.MousePointer = puntatoreAttesa; });
+    QMainWindow& finestra = palco.scrivania.Davanti()->Finestra();
+    EXPECT_EQ(finestra.cursor().shape(), Qt::WaitCursor);
+    EXPECT_EQ(Trova(palco.scrivania, "scritta").cursor().shape(), Qt::WaitCursor);
+    palco.NellaLogica([](FormDiProva& form) { form.MousePointer = puntatoreNormale; });
+    EXPECT_EQ(finestra.cursor().shape(), Qt::ArrowCursor);
+    palco.NellaLogica([](FormDiProva& form) { form.MousePointer = puntatoreAttesa; });
+    EXPECT_EQ(finestra.cursor().shape(), Qt::WaitCursor);
+}
+
 TEST(Scrivania, AnAcceptedCloseEndsTheLogic) {
     Palco palco;
     palco.scrivania.Davanti()->Finestra().close();
@@ -85,8 +96,8 @@ TEST(Scrivania, TheFocusGoesWhereTheLogicWantsIt) {
 TEST(Scrivania, TheTabKeyGoesInTheOrderOfTheControlsAndSkipsPlainLabels) {
     Palco palco;
     Trova(palco.scrivania, "toccabile").setFocus();
-    for (const char* prossimo :
-         {"bottone", "secondo", "casella", "lista", "barra", "ritta", "spunta", "dentro"}) {
+    for (const char* prossimo : {"bottone", "secondo", "casella", "lista", "combo", "barra",
+                                 "ritta", "spunta", "dentro"}) {
         Batti(palco.scrivania, Qt::Key_Tab);
         EXPECT_TRUE(Trova(palco.scrivania, prossimo).hasFocus()) << prossimo;
     }

@@ -18,6 +18,7 @@ constexpr std::array posti = {
     Posto{"secondo", 150, 1650, 1500, 450, "Secondo"},
     Posto{"casella", 150, 2250, 1500, 375},
     Posto{"lista", 1950, 150, 2100, 1950},
+    Posto{"combo", 1950, 3750, 2100, 390, {}, "Tonalità"},
     Posto{"barra", 1950, 2250, 2100, 300},
     Posto{"ritta", 4200, 150, 300, 2100},
     Posto{"spunta", 150, 2850, 1500, 300, "Segnata"},
@@ -64,6 +65,8 @@ void FormDiProva::Componi() {
     Disponi(*this, posti.data(), posti.size());
     for (const char* riga : {"Do", "Re", "-----", "Mi", "Fa"})
         lista.AddItem(riga);
+    for (const char* riga : {"Do maggiore", "Fa maggiore", "La minore"})
+        combo.AddItem(riga);
     barra.Min = 20;
     barra.Max = 140;
     barra.Value = 30;

@@ -29,6 +29,7 @@ public:
     Bottone bottone{*this, "bottone"}, secondo{*this, "secondo"};
     Casella casella{*this, "casella"};
     Lista lista{*this, "lista"};
+    Combo combo{*this, "combo"};
     Barra barra{*this, "barra"}, ritta{*this, "ritta"};
     Spunta spunta{*this, "spunta"};
     Cornice cornice{*this, "cornice"};

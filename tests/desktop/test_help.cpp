@@ -3,17 +3,12 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QDir>
-#include <QLineEdit>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
 
-#include "desktop/application.h"
 #include "desktop/help_window.h"
-#include "desktop/program.h"
-#include "sound/recorder.h"
-#include "tests/desktop/screen.h"
+#include "tests/desktop/program_stage.h"
 
 namespace corvana::prova {
 namespace {
@@ -44,14 +39,8 @@ struct Aiuto {
 };
 
 /// The whole program, with the help's pages beside it.
-class ProgrammaConAiuto {
-public:
-    ProgrammaConAiuto() {
-        scrivania.Avvia([this] { EseguiProgramma(applicazione_, Macchina_()); });
-        AspettaFinestra(scrivania, "CorvanaMainF");
-        Aspetta([this] { return Trova(scrivania, "Start").isEnabled(); });
-    }
-    ~ProgrammaConAiuto() { scrivania.Termina(); }
+struct ProgrammaConAiuto : PalcoProgramma {
+    ProgrammaConAiuto() : PalcoProgramma(dati) {}
 
     /// Waits for that page of the help.
     bool Mostra(const char* pagina) {
@@ -60,30 +49,7 @@ public:
             return aiuto && aiuto->isActiveWindow() && aiuto->Pagina() == QLatin1String(pagina);
         });
     }
-    int Risposte() { return Numero("conta") + Numero("er"); }
     void TornaDavanti() { scrivania.Davanti()->Finestra().activateWindow(); }
-
-private:
-    int Numero(const char* casella) {
-        return dynamic_cast<QLineEdit&>(Trova(scrivania, casella)).text().toInt();
-    }
-    Macchina Macchina_() const {
-        Macchina macchina;
-        macchina.cartellaProgramma = dati.toStdString();
-        macchina.percorsoImpostazioni = stato_.filePath("settings").toStdString();
-        macchina.percorsoBlocco = stato_.filePath("lock").toStdString();
-        macchina.uscite = [](std::function<double()> istante) {
-            return std::make_unique<Registratore>(std::move(istante));
-        };
-        return macchina;
-    }
-
-    QTemporaryDir stato_;
-    int argc_ = 0;
-    Applicazione applicazione_{argc_, nullptr};
-
-public:
-    Scrivania& scrivania = applicazione_.LaScrivania();
 };
 
 TEST(FinestraAiuto, ItShowsThePageOfTheContext) {

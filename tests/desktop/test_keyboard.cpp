@@ -21,8 +21,8 @@ TEST(Tastiera, APressAndAReleaseReachTheWindowWhoeverHasTheFocus) {
     EXPECT_EQ(palco.Diario(), (Righe{"giu 68", "su 68", "giu 97", "su 97"}));
 }
 
-void Ripeti(Scrivania& scrivania, QEvent::Type tipo) {
-    QKeyEvent tasto(tipo, Qt::Key_F, {}, "f", true);
+void Ripeti(Scrivania& scrivania, QEvent::Type tipo, Qt::Key quale = Qt::Key_F) {
+    QKeyEvent tasto(tipo, quale, {}, {}, true);
     QCoreApplication::sendEvent(scrivania.Davanti()->Finestra().windowHandle(), &tasto);
 }
 
@@ -58,6 +58,19 @@ TEST(Tastiera, KeysInAnOpenMenuAreTheMenus) {
     QApplication::activePopupWidget()->close();
     ASSERT_TRUE(Aspetta([] { return QApplication::activePopupWidget() == nullptr; }));
     Lascia(palco.scrivania, Qt::Key_D);
+    EXPECT_EQ(palco.Diario(), Righe{});
+}
+
+TEST(Tastiera, AKeyThatClosedAMenuIsntPressedByBeingHeld) {
+    Palco palco;
+    auto& sbarra = *palco.scrivania.Davanti()->Finestra().menuBar();
+    sbarra.setActiveAction(&TrovaVoce(palco.scrivania, "File"));
+    ASSERT_TRUE(Aspetta([] { return QApplication::activePopupWidget() != nullptr; }));
+    palco.Diario();
+    Premi(palco.scrivania, Qt::Key_Escape);
+    ASSERT_TRUE(Aspetta([] { return QApplication::activePopupWidget() == nullptr; }));
+    Ripeti(palco.scrivania, QEvent::KeyPress, Qt::Key_Escape);
+    Lascia(palco.scrivania, Qt::Key_Escape);
     EXPECT_EQ(palco.Diario(), Righe{});
 }
 

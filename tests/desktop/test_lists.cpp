@@ -71,6 +71,13 @@ TEST(Lista, NewRowsKeepTheSelection) {
     EXPECT_EQ(ListaDi(palco).count(), 0);
 }
 
+TEST(Lista, NewRowsKeepWhatTheUserChose) {
+    Palco palco;
+    CliccaRiga(ListaDi(palco), 3);
+    palco.NellaLogica([](FormDiProva& form) { form.lista.AddItem("Sol"); });
+    EXPECT_EQ(ListaDi(palco).currentRow(), 3);
+}
+
 TEST(Lista, ItsRowsGrowWithTheWindow) {
     Palco palco;
     EXPECT_EQ(ListaDi(palco).sizeHintForRow(0), 20);

@@ -68,6 +68,24 @@ TEST(Etichetta, HidingItAndColouringItIsSeen) {
     EXPECT_FALSE(scritta.isVisible());
 }
 
+TEST(Etichetta, ATransparentOneShowsWhatLiesBeneathWhateverItsColour) {
+    Palco palco;
+    QWidget& scritta = Trova(palco.scrivania, "scritta");
+    const QPoint dove = scritta.mapTo(scritta.window(), QPoint(90, 15));
+    const auto colore = [&] { return Fotografa(palco.scrivania).pixelColor(dove); };
+    palco.NellaLogica([](FormDiProva& form) {
+        form.BackColor = Rgb(9, 90, 9);
+        form.scritta.BackColor = Rgb(1, 2, 250);
+        form.scritta.Sfondo = Sfumatura{Rgb(250, 0, 0), Rgb(250, 0, 0)};
+        form.scritta.BackStyle = fondoTrasparente;
+    });
+    EXPECT_EQ(colore(), QColor(9, 90, 9));
+    palco.NellaLogica([](FormDiProva& form) { form.scritta.BackStyle = fondoOpaco; });
+    EXPECT_EQ(colore(), QColor(250, 0, 0));
+    palco.NellaLogica([](FormDiProva& form) { form.scritta.Sfondo = Sfumatura{}; });
+    EXPECT_EQ(colore(), QColor(1, 2, 250));
+}
+
 bool HaColore(const QImage& foto, const QColor& colore) {
     for (int x = 0; x < foto.width(); ++x)
         for (int y = 0; y < foto.height(); ++y)

@@ -56,6 +56,15 @@ TEST(Barra, KeysChangeItByOneAndByThePage) {
     EXPECT_EQ(BarraDi(palco).value(), 41);
 }
 
+TEST(Barra, ANewRangeKeepsWhatTheUserMadeOfIt) {
+    Palco palco;
+    BarraDi(palco).setFocus();
+    Batti(palco.scrivania, Qt::Key_PageUp);
+    palco.NellaLogica([](FormDiProva& form) { form.barra.Max = 200; });
+    EXPECT_EQ(BarraDi(palco).maximum(), 200);
+    EXPECT_EQ(BarraDi(palco).value(), 40);
+}
+
 TEST(Barra, AValueOfTheLogicIsShownAndNotToldBack) {
     Palco palco;
     palco.NellaLogica([](FormDiProva& form) { form.barra.Value = 77; });

@@ -188,6 +188,16 @@ TEST(Controllo, TakesATextAsItsCaptionOrItsTextOrNotAtAll) {
     EXPECT_EQ(f.Caption(), "c");
 }
 
+TEST(Etichetta, IsOpaqueUntilItIsMadeTransparent) {
+    BancoFinestra b;
+    EXPECT_EQ(b.finestra.dentro.BackStyle(), fondoOpaco);
+    b.specchio.registra = true;
+    b.finestra.dentro.BackStyle = fondoTrasparente;
+    const std::vector<SpecchioRegistrato::Cambio> attesi = {
+        {"dentro", Nome::BackStyle, fondoTrasparente}};
+    EXPECT_EQ(b.specchio.cambi, attesi);
+}
+
 TEST(Guasto, ReadsAsItsNumberALineBreakAndItsDescription) {
     EXPECT_EQ(TestoGuasto(Guasto(13, "Type mismatch")), "13\r\nType mismatch");
 }

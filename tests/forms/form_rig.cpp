@@ -12,6 +12,7 @@ void Chiama(const std::function<void()>& f) {
 
 FinestraProva::FinestraProva(std::string nome) : Form(std::move(nome)) {
     lista.List = Righe{"a", "b", "c"};
+    combo.List = Righe{"Maggiore", "minore", "Minore", "minore"};
     bottone.Click = [this] { diario.emplace_back("click"); };
     bottone.DblClick = [this] { diario.emplace_back("double click"); };
     bottone.MouseDown = [this](const Evento&) { diario.emplace_back("down"); };
@@ -20,6 +21,7 @@ FinestraProva::FinestraProva(std::string nome) : Form(std::move(nome)) {
     dentro.Click = [this] { diario.emplace_back("inner click"); };
     voce.Click = [this] { diario.emplace_back("entry"); };
     lista.Click = [this] { diario.push_back("row " + std::to_string(lista.ListIndex())); };
+    combo.Click = [this] { diario.push_back("chosen " + combo.Text()); };
     barra.Change = [this] { diario.push_back("change " + std::to_string(barra.Value())); };
     barra.Scroll = [this] { diario.push_back("scroll " + std::to_string(barra.Value())); };
     casella.Change = [this] { diario.push_back("text " + casella.Text()); };

@@ -18,6 +18,7 @@ public:
     Etichetta dentro{*this, "dentro", &cornice};
     Figura figura{*this, "figura"};
     VoceMenu menu{*this, "menu"}, voce{*this, "voce", &menu};
+    Combo combo{*this, "combo"};
 
     std::vector<std::string> diario;
     bool rifiuta = false;  ///< refuse to close

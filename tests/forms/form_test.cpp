@@ -11,7 +11,7 @@ TEST(Form, ItsControlsAreNumberedInTheOrderInWhichTheyAreDeclared) {
     EXPECT_EQ(f.Numero(), 0);
     EXPECT_EQ(f.bottone.Numero(), 1);
     EXPECT_EQ(f.voce.Numero(), 10);
-    ASSERT_EQ(f.Controlli().size(), 11U);
+    ASSERT_EQ(f.Controlli().size(), 12U);
     for (std::size_t i = 0; i < f.Controlli().size(); ++i)
         EXPECT_EQ(f.Controlli()[i]->Numero(), static_cast<int>(i));
 }
@@ -64,6 +64,34 @@ TEST(Disponi, GivesPlaceTextsAndStyleToTheNamedControls) {
     EXPECT_EQ(f.casella.Text(), "valore");
     EXPECT_EQ(f.Caption(), "titolo");
     EXPECT_EQ(f.Width(), 900);
+}
+
+TEST(Disponi, ATextThatTheLayoutDoesntGiveStaysTheControls) {
+    FinestraProva f;
+    f.bottone.Caption = "suo";
+    f.combo.PonTesto("Minore");
+    constexpr std::array posti = {Posto{"bottone", 1, 2, 3, 4}, Posto{"combo", 5, 6, 7, 8}};
+    Disponi(f, posti.data(), posti.size());
+    EXPECT_EQ(f.bottone.Caption(), "suo");
+    EXPECT_EQ(f.combo.Text(), "Minore");
+    EXPECT_EQ(f.combo.Left(), 5);
+}
+
+TEST(Disponi, ChoosesTheRowOfADropDownListThatTheLayoutNames) {
+    FinestraProva f;
+    constexpr std::array posti = {Posto{"combo", 5, 6, 7, 8, "Minore"}};
+    Disponi(f, posti.data(), posti.size());
+    EXPECT_EQ(f.combo.ListIndex(), 2);
+}
+
+TEST(Form, HasTheNormalPointerUntilItIsGivenAnother) {
+    BancoFinestra b;
+    EXPECT_EQ(b.finestra.MousePointer(), puntatoreNormale);
+    b.specchio.registra = true;
+    b.finestra.MousePointer = puntatoreAttesa;
+    const std::vector<SpecchioRegistrato::Cambio> attesi = {
+        {"frmProva", Nome::MousePointer, puntatoreAttesa}};
+    EXPECT_EQ(b.specchio.cambi, attesi);
 }
 
 }  // namespace corvana::prova

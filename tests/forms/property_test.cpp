@@ -95,6 +95,9 @@ TEST(Proprieta, AControlListsItsOwnInTheOrderInWhichTheyWereMade) {
     auto conCaption = comuni;
     conCaption.push_back(Nome::Caption);
     EXPECT_EQ(NomiDi(finestra.bottone), conCaption);
+    auto conFondo = conCaption;
+    conFondo.push_back(Nome::BackStyle);
+    EXPECT_EQ(NomiDi(finestra.dentro), conFondo);
 }
 
 TEST(Proprieta, IsReadByTheMirrorAsItStands) {

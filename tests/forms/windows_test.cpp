@@ -81,14 +81,17 @@ TEST(Consegna, WhatAnUnusableControlShowsIsToldToItsFaceAgain) {
     b.finestra.Enabled = false;
     b.finestra.lista.ListIndex = 1;
     b.finestra.casella.Text = "x";
+    b.finestra.combo.ListIndex = 0;
     b.specchio.registra = true;
     b.Accoda(Fatto::Click, "lista", 2);
+    b.Accoda(Fatto::Click, "combo", 3);
     b.Accoda(Fatto::Change, "barra", 50);
     b.Accoda(Fatto::Click, "spunta", 1);
     b.Accoda(Fatto::Change, "casella", 0);
     b.Consegna();
     const std::vector<SpecchioRegistrato::Cambio> attesi = {
         {"lista", Nome::ListIndex, 1},
+        {"combo", Nome::ListIndex, 0},
         {"barra", Nome::Value, 0},
         {"spunta", Nome::Checked, false},
         {"casella", Nome::Text, std::string("x")}};
@@ -126,7 +129,8 @@ TEST(Consegna, AnEventOfAnEarlierShowingIsDropped) {
 TEST(Consegna, AnEventForNoWindowOrNoControlIsDropped) {
     BancoConsegna b;
     Evento e = b.Fatta({}, "bottone");
-    for (const int controllo : {-1, 11, 1000000}) {
+    const int oltre = static_cast<int>(b.finestra.Controlli().size());
+    for (const int controllo : {-1, oltre, 1000000}) {
         e.controllo = controllo;
         b.coda.Aggiungi(e);
     }

@@ -1,0 +1,160 @@
+#include "desktop/combo_view.h"
+
+#include <QComboBox>
+#include <QListView>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <algorithm>
+
+#include "desktop/face_painter.h"
+#include "desktop/row_painter.h"
+#include "desktop/theme.h"
+
+namespace corvana {
+
+namespace {
+
+constexpr int righeVisibili = 12;      ///< of the open list; the others are scrolled to
+constexpr double postoFreccia = 26;    ///< designed pixels at the right end
+constexpr double rientro = 8;          ///< designed pixels before the text
+constexpr double mezzaFreccia = 4.5;   ///< designed pixels
+constexpr double spessoreFreccia = 2;  ///< designed pixels
+
+/// The rows that drop down.
+class Tendina final : public QListView {
+public:
+    explicit Tendina(QWidget& padre) : QListView(&padre) {
+        setUniformItemSizes(true);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setVerticalScrollMode(ScrollPerPixel);
+    }
+    /// Letters are shortcuts of the program as long as the list is closed.
+    void keyboardSearch(const QString& lettere) override {
+        if (isVisible()) QListView::keyboardSearch(lettere);
+    }
+};
+
+class Scelta final : public QComboBox {
+public:
+    Scelta(const Vista& vista, QWidget& padre) : QComboBox(&padre), vista_(vista) {
+        setAttribute(Qt::WA_Hover);
+        setFocusPolicy(Qt::StrongFocus);
+        setMaxVisibleItems(righeVisibili);
+        setView(new Tendina(*this));
+        VestiRighe(*view(), vista);
+        QPalette cornice = view()->parentWidget()->palette();
+        cornice.setColor(QPalette::WindowText, tinta::filoForte);
+        view()->parentWidget()->setPalette(cornice);
+    }
+    void showPopup() override {
+        if (count() == 0) return;
+        if (apertura_) apertura_();
+        view()->setMinimumWidth(LarghezzaDelleRighe());
+        QComboBox::showPopup();
+    }
+    void PonApertura(std::function<void()> apertura) { apertura_ = std::move(apertura); }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        Aspetto aspetto = vista_.Stato();
+        aspetto.stile << QStringLiteral("scelta");
+        const QRectF area(rect());
+        QPainter p(this);
+        const bool fuoco = hasFocus() || view()->isVisible();
+        const Tocco tocco{underMouse(), false, fuoco, isEnabled()};
+        DipingiFondo(p, area, aspetto, vista_.Scala(), tocco);
+        DipingiTestoScelto(p);
+        DipingiFreccia(p);
+        if (tocco.fuoco) DipingiAnello(p, area, vista_.Scala());
+    }
+    void wheelEvent(QWheelEvent* rotella) override {
+        // The wheel chooses only where the user is: elsewhere it would change what it passes over.
+        if (hasFocus())
+            QComboBox::wheelEvent(rotella);
+        else
+            rotella->ignore();
+    }
+
+private:
+    QColor Penna() const {
+        return isEnabled() ? InQt(vista_.Stato().penna, tinta::inchiostro) : tinta::spento;
+    }
+    int LarghezzaDelleRighe() const {
+        int larghezza = 0;
+        for (int i = 0; i < count(); ++i)
+            larghezza = std::max(larghezza, fontMetrics().horizontalAdvance(itemText(i)));
+        if (count() > righeVisibili) larghezza += view()->verticalScrollBar()->sizeHint().width();
+        return larghezza + MargineDellaRiga(vista_.Scala());
+    }
+    void DipingiTestoScelto(QPainter& p) const {
+        const double s = vista_.Scala();
+        const QRectF posto = QRectF(rect()).adjusted(rientro * s, 0, -postoFreccia * s, 0);
+        p.setFont(font());
+        p.setPen(Penna());
+        const QString testo = fontMetrics().elidedText(currentText(), Qt::ElideRight,
+                                                       static_cast<int>(posto.width()));
+        p.drawText(posto, Qt::AlignVCenter | Qt::AlignLeft, testo);
+    }
+    void DipingiFreccia(QPainter& p) const {
+        const double s = vista_.Scala();
+        const QPointF c(width() - postoFreccia * s / 2, height() / 2.0);
+        QPainterPath freccia;
+        freccia.moveTo(c + QPointF(-mezzaFreccia, -mezzaFreccia / 2) * s);
+        freccia.lineTo(c + QPointF(0, mezzaFreccia / 2) * s);
+        freccia.lineTo(c + QPointF(mezzaFreccia, -mezzaFreccia / 2) * s);
+        p.setBrush(Qt::NoBrush);
+        p.setPen(QPen(isEnabled() ? tinta::accento : tinta::spento, spessoreFreccia * s,
+                      Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        p.drawPath(freccia);
+    }
+
+    const Vista& vista_;
+    std::function<void()> apertura_;
+};
+
+}  // namespace
+
+VistaCombo::VistaCombo(const CopiaControllo& copia, Mittente mittente, QWidget& padre)
+    : Vista(copia, mittente), combo_(new Scelta(*this, padre)) {
+    PonWidget(*combo_);
+    PonRighe();
+    QObject::connect(combo_, &QComboBox::activated, combo_, [this](int riga) {
+        PonDaUtente(Nome::ListIndex, riga);
+        Manda(Fatto::Click, riga);
+    });
+}
+
+void VistaCombo::PonApertura(std::function<void()> apertura) {
+    static_cast<Scelta*>(combo_)->PonApertura(std::move(apertura));
+}
+
+void VistaCombo::PonRighe() {
+    const QStringList& righe = Stato().righe;
+    // Keeping the rows in place keeps an open list open where it is.
+    while (combo_->count() > righe.size())
+        combo_->removeItem(combo_->count() - 1);
+    for (int i = 0; i < righe.size(); ++i) {
+        if (i == combo_->count()) combo_->addItem(QString());
+        combo_->setItemText(i, righe[i]);
+    }
+    PonScelta();
+}
+
+void VistaCombo::PonScelta() {
+    combo_->setCurrentIndex(Stato().listIndex);
+}
+
+void VistaCombo::Rinfresca(Nome nome) {
+    if (nome == Nome::List) PonRighe();
+    if (nome == Nome::ListIndex) PonScelta();
+    Vista::Rinfresca(nome);
+}
+
+void VistaCombo::Riscala() {
+    combo_->setFont(Carattere(Stato().stile, Scala()));
+    combo_->view()->setFont(combo_->font());
+}
+
+}  // namespace corvana
