@@ -14,6 +14,7 @@ int NumeroGuasto(int errore) {
         case ENODEV:
         case ENXIO:
         case ENOMEDIUM:
+        case ENODATA:  // a bad sector; its own number would pass for a full disk
         case EIO: return guastoDiscoNonPronto;
         default: return errore;
     }

@@ -1,6 +1,7 @@
 #include "desktop/program.h"
 
 #include "core/real_files.h"
+#include "core/regional.h"
 #include "core/single_instance.h"
 #include "desktop/application.h"
 #include "forms/real_clock.h"
@@ -18,6 +19,7 @@ void EseguiProgramma(Applicazione& applicazione, const Macchina& macchina) {
     CasualeFisso casuale;
     Globali globali;
     globali.CartellaProgramma = macchina.cartellaProgramma;
+    globali.SeparatoreDecimale = SeparatoreDiSistema();
 
     const IstanzaUnica istanza(macchina.percorsoBlocco);
     const auto uscite = macchina.uscite([&pompa] { return pompa.Adesso(); });

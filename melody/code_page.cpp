@@ -50,7 +50,8 @@ char32_t Primo(std::string_view testo, std::size_t& lungo) {
         if ((byte & 0xC0U) != 0x80U) return nessuno;
         carattere = carattere << 6 | (byte & 0x3FU);
     }
-    return carattere;
+    const bool troppoLungo = lungo == 3 && carattere < 0x800;
+    return troppoLungo ? nessuno : carattere;
 }
 
 /// The code of a character in the page; -1 when it has none.

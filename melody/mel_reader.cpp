@@ -55,7 +55,7 @@ void Lettore::LeggiTesta(LetturaMel& letta) {
     letta.tempo = Riga();
     const std::string quinta = Riga();
     const std::string_view strumento = SenzaBlanchi(quinta);
-    letta.conMetronomo = strumento.size() > sopraCortaForma;
+    letta.conMetronomo = UnBytePerCarattere(strumento).size() > sopraCortaForma;
     if (letta.conMetronomo)
         letta.strumento = Dividi(strumento, ';');
     else
@@ -81,10 +81,12 @@ void Lettore::LeggiBlocco(const std::string& testata, LetturaMel& letta) {
     const auto voce = campi.empty() ? std::nullopt : IndiceVoce(campi[0]);
     if (!voce || *voce == soprano) return;
     if (campi.size() < 2) throw Guasto(guastoIndice, "Subscript out of range");
-    std::vector<std::string>& testi = letta.blocchi.emplace_back(*voce, campi[1]).testi;
-    testi.push_back(Riga());
-    testi.push_back(Durate());
-    testi.push_back(Riga());
+    BloccoMel& blocco = letta.blocchi.emplace_back();
+    blocco.voce = *voce;
+    blocco.strumento = campi[1];
+    blocco.testi.push_back(Riga());
+    blocco.testi.push_back(Durate());
+    blocco.testi.push_back(Riga());
 }
 
 void Lettore::Leggi(LetturaMel& letta) {

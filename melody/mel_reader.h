@@ -28,8 +28,8 @@ struct LetturaMel {
     std::string tempo;
     /// The instrument alone or, with the metronome, instrument, pulses, their length, first pulse.
     std::vector<std::string> strumento;
-    bool conMetronomo = false;  ///< the line's form says so, though fields may be missing
-    bool conRiferimenti = false;           ///< a bookmark line was there
+    bool conMetronomo = false;    ///< the line's form says so, though fields may be missing
+    bool conRiferimenti = false;  ///< a bookmark line was there
     std::vector<std::string> riferimenti;  ///< its rows
     std::vector<BloccoMel> blocchi;        ///< at most three, in the file's order
     std::optional<Guasto> guasto;          ///< what ended the reading before the end

@@ -29,9 +29,9 @@ double NumeroReale(std::string_view testo) {
     double numero = 0;
     const char* fineTesto = cifre.data() + cifre.size();
     const auto [fine, errore] = std::from_chars(cifre.data() + (piu ? 1 : 0), fineTesto, numero);
-    if (errore == std::errc::result_out_of_range) throw Guasto(guastoTraboccamento, "Overflow");
-    if (!soloCifre || errore != std::errc{} || fine != fineTesto)
+    if (!soloCifre || errore == std::errc::invalid_argument || fine != fineTesto)
         throw Guasto(guastoTipo, "Type mismatch");
+    if (errore != std::errc{}) throw Guasto(guastoTraboccamento, "Overflow");
     return numero;
 }
 

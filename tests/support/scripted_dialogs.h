@@ -14,6 +14,7 @@ public:
     std::vector<std::string> messaggi;
     std::deque<bool> risposte;  ///< to questions; none left is No
     std::deque<std::optional<std::string>> testi;
+    std::vector<std::string> titoli, proposte;  ///< of the input boxes
     /// What happens while a message box is up.
     std::function<void(const std::string&)> durante;
 
@@ -25,9 +26,11 @@ public:
         messaggi.push_back(testo);
         return Prossimo(risposte, false);
     }
-    std::optional<std::string> InputBox(const std::string& testo, const std::string&,
-                                        const std::string&) override {
+    std::optional<std::string> InputBox(const std::string& testo, const std::string& titolo,
+                                        const std::string& proposta) override {
         messaggi.push_back(testo);
+        titoli.push_back(titolo);
+        proposte.push_back(proposta);
         return Prossimo(testi, std::optional<std::string>());
     }
 

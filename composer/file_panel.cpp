@@ -1,0 +1,68 @@
+// The list of folders and melodies of the current folder.
+#include <algorithm>
+
+#include "composer/composer.h"
+#include "core/text.h"
+
+namespace corvana {
+
+namespace {
+
+constexpr std::string_view segnoCartella = "» ";
+constexpr std::string_view cartellaSopra = "» ..";
+constexpr std::string_view estensione = ".mel";
+
+void Ordina(Righe& righe) {
+    std::stable_sort(righe.begin(), righe.end(), [](const std::string& a, const std::string& b) {
+        return Minuscolo(a) < Minuscolo(b);
+    });
+}
+
+void Entra(std::string& percorso, std::string_view riga) {
+    if (riga != cartellaSopra) {
+        percorso.append(riga.substr(segnoCartella.size())).append("/");
+        return;
+    }
+    for (int volta = 0; volta < 2; ++volta)
+        percorso.erase(std::min(percorso.rfind('/'), percorso.size()));
+    percorso += '/';
+}
+
+}  // namespace
+
+void frmComposer::mnuApri_Click() {
+    if (Fr2.Visible() && !List1.List->empty()) return;
+    Fr2.Visible = true;
+    ListaFD();
+}
+
+void frmComposer::ListaFD() {
+    if (InPlay()) return;
+    const std::string& percorso = a_.globali.percorsoCorrente;
+    lblPercorso.Caption = Minuscolo(percorso);
+    lblPercorso.ToolTipText = " " + Minuscolo(percorso) + " ";
+    Righe cartelle;
+    Righe melodie;
+    if (percorso != "/") cartelle.emplace_back(cartellaSopra);
+    for (const VoceCartella& voce : a_.file.Elenca(percorso)) {
+        if (voce.cartella)
+            cartelle.push_back(std::string(segnoCartella) + voce.nome);
+        else if (voce.nome.ends_with(estensione))
+            melodie.push_back(voce.nome.substr(0, voce.nome.size() - estensione.size()));
+    }
+    Ordina(cartelle);
+    Ordina(melodie);
+    cartelle.insert(cartelle.end(), melodie.begin(), melodie.end());
+    List1.Clear();
+    List1.List = std::move(cartelle);
+}
+
+void frmComposer::cmdEseguiFile_Click() {
+    const std::string riga = List1.Scelta();
+    if (riga.empty()) return;
+    if (!riga.starts_with(segnoCartella)) return CaricaMelodia(riga);
+    Entra(a_.globali.percorsoCorrente, riga);
+    ListaFD();
+}
+
+}  // namespace corvana

@@ -1,0 +1,108 @@
+// Saving: into the current folder, under a new name, and onto a removable medium.
+#include "composer/composer.h"
+#include "core/file_faults.h"
+#include "melody/names.h"
+#include "melody/numbers.h"
+
+namespace corvana {
+
+namespace {
+
+constexpr const char* estensione = ".mel";
+
+}  // namespace
+
+std::string frmComposer::Percorso(const std::string& nome) const {
+    return a_.globali.percorsoCorrente + nome + estensione;
+}
+
+void frmComposer::ScriviIn(const std::string& percorso) {
+    std::optional<MetronomoMel> metronomo;
+    if (metroAttivo) metronomo = {Pulsazioni.Text(), DurataPulsazioni.Text(), InizioPuls.Value()};
+    const DaScrivere melodiaIntera{melodia.voci, Slider1.Value(), metronomo, lstBookMark.List()};
+    Controlla(a_.file.ScriviAtomico(percorso, ScriviMel(melodiaIntera)));
+}
+
+void frmComposer::SalvaMelodia(const std::string& nome) {
+    if (nome.empty() || !a_.file.EsisteCartella(a_.globali.percorsoCorrente)) return;
+    try {
+        ScriviIn(Percorso(nome));
+        lblModificato.Visible = false;
+        lblNome.Caption = "Salvato: " + nome;
+        ListaFD();
+    } catch (const Guasto& guasto) {
+        a_.dialoghi.MsgBox(TestoGuasto(guasto));
+    }
+}
+
+void frmComposer::mnuSalva_Click() {
+    mnuApri_Click();
+    if (melodia.nomeMelodia.empty())
+        mnuSaveAs_Click();
+    else
+        SalvaMelodia(melodia.nomeMelodia);
+}
+
+void frmComposer::mnuSaveAs_Click() {
+    mnuApri_Click();
+    if (melodia.voci[soprano].Vuota()) return;
+    const std::string vecchio = melodia.nomeMelodia;
+    melodia.nomeMelodia = ChiediNome(List1.Scelta());
+    if (NomeRifiutato(melodia.nomeMelodia, rifiutatiMelodia)) {
+        melodia.nomeMelodia = SenzaBlanchi(lblNome.Caption()).empty() ? "" : vecchio;
+        a_.dialoghi.MsgBox(a_.globali.testi.msgNomeMelodiaErrato);
+        return;
+    }
+    const TestiLingua& testi = a_.globali.testi;
+    if (a_.file.Esiste(Percorso(melodia.nomeMelodia)) &&
+        !a_.dialoghi.Domanda(testi.msgMelodiaEsiste + melodia.nomeMelodia + "\r\n" +
+                             testi.msgSostituirla))
+        return;
+    SalvaMelodia(melodia.nomeMelodia);
+}
+
+/// The answer without outer blanks; empty when the box was cancelled.
+std::string frmComposer::ChiediNome(const std::string& proposta) {
+    const TestiLingua& testi = a_.globali.testi;
+    const auto risposta =
+        a_.dialoghi.InputBox(testi.prmNomeMelodia, testi.titSalvaConNome, proposta);
+    return std::string(SenzaBlanchi(risposta.value_or("")));
+}
+
+void frmComposer::mnuSalvaA_Click() {
+    if (melodia.voci[soprano].Vuota()) return;
+    if (melodia.nomeMelodia.empty()) melodia.nomeMelodia = ChiediNome("");
+    if (melodia.nomeMelodia.empty()) return;
+    if (NomeRifiutato(melodia.nomeMelodia, rifiutatiMelodia)) {
+        melodia.nomeMelodia.clear();
+        a_.dialoghi.MsgBox(a_.globali.testi.msgNomeMelodiaErrato);
+        return;
+    }
+    const std::string nomeFile = melodia.nomeMelodia + estensione;
+    MousePointer = puntatoreAttesa;
+    try {
+        ScriviSulSupporto(nomeFile);
+    } catch (const Guasto& guasto) {
+        MousePointer = puntatoreNormale;
+        MostraErroreSupporto(guasto);
+        return;
+    }
+    lblModificato.Visible = false;
+    MousePointer = puntatoreNormale;
+    a_.dialoghi.MsgBox(nomeFile + "\r\n" + a_.globali.testi.msgSalvataSuA);
+}
+
+void frmComposer::ScriviSulSupporto(const std::string& nomeFile) {
+    const std::string supporto = a_.file.SupportoRimovibile();
+    if (supporto.empty()) throw GuastoFile(ENOMEDIUM);
+    ScriviIn(supporto + nomeFile);
+}
+
+void frmComposer::MostraErroreSupporto(const Guasto& guasto) {
+    std::string motivo = guasto.what();
+    if (guasto.Numero() == guastoDiscoPieno) motivo = a_.globali.testi.msgDiscoPieno;
+    if (guasto.Numero() == guastoDiscoNonPronto) motivo = a_.globali.testi.msgDiscoNonPronto;
+    a_.dialoghi.MsgBox("Errore: " + std::to_string(guasto.Numero()) + "\r\n\r\n" + motivo);
+}
+
+}  // namespace corvana

@@ -1,0 +1,34 @@
+// Figures that several of the melody window's routines share. Any thread.
+#pragma once
+
+#include <cstdint>
+
+namespace corvana {
+
+constexpr int tempoMinimo = 20;  ///< quarter notes a minute
+constexpr int tempoMassimo = 250;
+constexpr int tempoIniziale = 60;
+
+constexpr std::int16_t notaPiuBassa = 36;
+constexpr std::int16_t notaPiuAlta = 95;
+constexpr int tastiTastiera = 60;
+
+/// The MIDI number has a key among the five octaves.
+constexpr bool SullaTastiera(std::int16_t nota) {
+    return nota >= notaPiuBassa && nota <= notaPiuAlta;
+}
+
+constexpr std::uint8_t attributoLegatura = 2;  ///< place of the tie among the attribute buttons
+constexpr std::uint8_t senzaAttributo = 6;
+
+constexpr int sinistraRigaCur = 2190;  ///< left end of the cursor's way, in twips
+constexpr int corsaCursore = 1770;
+
+constexpr std::int16_t canalePulsi = 10;
+constexpr int forzaPulsi = 120;  ///< velocity of a pulse, less the volume bar's value
+constexpr int pulsiMassimi = 9;
+
+/// The last letters of a voice's note names that its display has room for.
+constexpr std::size_t lettereNomi = 40;
+
+}  // namespace corvana

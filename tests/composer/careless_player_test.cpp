@@ -1,0 +1,42 @@
+// A careless user of the play. The seed is 1; for other seeds shuffle and repeat:
+//   test_composer --gtest_filter='SuonatoreDistratto.*' --gtest_shuffle --gtest_repeat=50
+// which starts from a seed of the clock, told with a failure, or from that of --gtest_random_seed.
+#include "tests/composer/careless_player.h"
+
+#include <gtest/gtest.h>
+
+namespace corvana::prova {
+
+namespace {
+
+std::uint32_t Seme() {
+    if (!GTEST_FLAG_GET(shuffle)) return 1;
+    return static_cast<std::uint32_t>(testing::UnitTest::GetInstance()->random_seed());
+}
+
+}  // namespace
+
+TEST(SuonatoreDistratto, NothingFailsNothingHangsAndNothingSoundsWhenNothingIsUnderWay) {
+    SuonatoreDistratto utente(Seme(), 40000);
+    utente.Vivi();
+    EXPECT_EQ(utente.guasto, "") << "seed " << Seme();
+    // He did reach what he was to try.
+    EXPECT_GT(utente.aperture, 20);
+    EXPECT_GT(utente.play, 4000);
+    EXPECT_GT(utente.fermo, 5000);
+    EXPECT_GT(utente.caricate, 1000);
+    EXPECT_GT(utente.salvate, 50);
+    EXPECT_GT(utente.secondi, 8 * 3600);
+}
+
+TEST(SuonatoreDistratto, DoesTheSameForTheSameSeed) {
+    SuonatoreDistratto uno(Seme(), 3000), altro(Seme(), 3000);
+    uno.Vivi();
+    altro.Vivi();
+    EXPECT_EQ(uno.secondi, altro.secondi);
+    EXPECT_EQ(uno.play, altro.play);
+    EXPECT_EQ(uno.fermo, altro.fermo);
+    EXPECT_EQ(uno.salvate, altro.salvate);
+}
+
+}  // namespace corvana::prova

@@ -1,0 +1,202 @@
+// Melodies on the machine's own disk.
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "core/real_files.h"
+#include "tests/composer/composer_rig.h"
+#include "tests/composer/full_disk.h"
+#include "tests/composer/mel_lines.h"
+#include "tests/core/temporary_folder.h"
+
+namespace corvana::prova {
+
+namespace {
+
+using Boxes = std::vector<std::string>;
+
+std::string Contenuto(const std::string& percorso) {
+    std::ifstream file(percorso, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void Scrivi(const std::string& percorso, const std::string& byte) {
+    std::ofstream(percorso, std::ios::binary) << byte;
+}
+
+/// The window with a folder of the disk as its current one.
+struct BancoSuDisco {
+    CartellaProvvisoria cartella;
+    FileReali veri{{}};
+    BancoComposer b;
+
+    explicit BancoSuDisco(char separatore = '.') : b(veri, separatore) {
+        b.globali.percorsoCorrente = cartella.Di("");
+    }
+    /// Four voices with every kind of note, bookmarks, the metronome on.
+    void Componi(const std::string& terzina, const std::string& punto) {
+        b.Voce(0, "60;62;00;69;71;72;", "1;" + punto + ";0;" + terzina + terzina + terzina,
+               "n;s;p;a;t;n;");
+        b.Voce(1, "48;", punto + ";", "n;");
+        b.Voce(3, "36;95;", "4;" + punto + ";", "n;a;");
+        for (std::size_t voce = 0; voce < numeroVoci; ++voce)
+            b.melodia.voci[voce].strumento = static_cast<std::int32_t>(voce) * 40;
+        b.finestra.lstBookMark.List = Righe{"1 ÷ 6 ÷Tutta", "2 ÷ 3 ÷ così"};
+        b.finestra.Slider1.PonValore(250);
+        b.finestra.lblTs_Click();
+        b.finestra.Pulsazioni.PonTesto("3");
+        b.finestra.InizioPuls.PonValore(2);
+    }
+    void Carica(const std::string& nome) {
+        b.finestra.ListaFD();
+        b.Scegli(nome);
+        b.finestra.cmdEseguiFile_Click();
+    }
+    /// The flag and the file stayed, and no temporary is left.
+    void EsceRifiutata(const std::string& contenuto) const {
+        EXPECT_TRUE(b.finestra.lblModificato.Visible());
+        EXPECT_EQ(Contenuto(cartella.Di("song.mel")), contenuto);
+        EXPECT_EQ(cartella.Quanti(), 1);
+    }
+};
+
+void EsceUguale(const Melodia& una, const Melodia& altra) {
+    for (std::size_t voce = 0; voce < numeroVoci; ++voce) {
+        EXPECT_EQ(una.voci[voce].testoNote, altra.voci[voce].testoNote);
+        EXPECT_EQ(una.voci[voce].testoDurate, altra.voci[voce].testoDurate);
+        EXPECT_EQ(una.voci[voce].testoAttributi, altra.voci[voce].testoAttributi);
+        if (una.voci[voce].Vuota()) continue;
+        EXPECT_EQ(una.voci[voce].strumento, altra.voci[voce].strumento);
+    }
+    EXPECT_EQ(una.tempo, altra.tempo);
+}
+
+/// Saves the melody of one window and loads it in another, over the same folder.
+void EsceAndataERitorno(char separatore, const std::string& terzina, const std::string& punto) {
+    BancoSuDisco uno(separatore);
+    uno.Componi(terzina, punto);
+    uno.b.finestra.SalvaMelodia("song");
+    ASSERT_TRUE(uno.b.dialoghi.messaggi.empty());
+    BancoSuDisco altro(separatore);
+    altro.b.globali.percorsoCorrente = uno.b.globali.percorsoCorrente;
+    altro.Carica("song");
+    EXPECT_TRUE(altro.b.dialoghi.messaggi.empty());
+    EsceUguale(uno.b.melodia, altro.b.melodia);
+    EXPECT_EQ(altro.b.finestra.lstBookMark.List(), uno.b.finestra.lstBookMark.List());
+    EXPECT_EQ(altro.b.finestra.Pulsazioni.Text(), "3");
+    EXPECT_EQ(altro.b.finestra.InizioPuls.Value(), 2);
+    altro.b.finestra.lblTs_Click();
+    altro.b.finestra.SalvaMelodia("again");
+    EXPECT_EQ(Contenuto(uno.cartella.Di("again.mel")), Contenuto(uno.cartella.Di("song.mel")));
+}
+
+}  // namespace
+
+TEST(SuDisco, AMelodySavedAndLoadedAgainIsTheSameWithThePoint) {
+    EsceAndataERitorno('.', "0.333333333333333;", "0.75");
+}
+
+TEST(SuDisco, AMelodySavedAndLoadedAgainIsTheSameWithTheComma) {
+    EsceAndataERitorno(',', "0,333333333333333;", "0,75");
+}
+
+TEST(SuDisco, AFileMadeUnderTheCommaIsPlayedUnderThePoint) {
+    BancoSuDisco d('.');
+    Scrivi(d.cartella.Di("song.mel"), FileDi({"60;", "0,75;", "n;", " 60 ", " 16 "}));
+    d.Carica("song");
+    EXPECT_TRUE(d.b.dialoghi.messaggi.empty());
+    EXPECT_EQ(d.b.melodia.voci[soprano].testoDurate, "0.75;");
+    EXPECT_NEAR(d.b.pompa.Adesso(), 24 * 0.031, 1e-6);
+}
+
+TEST(SuDisco, TheListShowsWhatLiesInTheFolder) {
+    BancoSuDisco d;
+    Scrivi(d.cartella.Di("b.mel"), "");
+    Scrivi(d.cartella.Di("a.mel"), "");
+    Scrivi(d.cartella.Di("c.txt"), "");
+    std::filesystem::create_directory(d.cartella.Di("folder"));
+    d.b.finestra.mnuApri_Click();
+    EXPECT_EQ(d.b.finestra.List1.List(), (Righe{"» ..", "» folder", "a", "b"}));
+    EXPECT_EQ(d.b.finestra.lblPercorso.Caption().back(), '/');
+}
+
+TEST(SuDisco, AFileThatMayNotGrowLeavesTheOldFileAndTheFlag) {
+    BancoSuDisco d;
+    Scrivi(d.cartella.Di("song.mel"), "old");
+    std::string note, durate, attributi;
+    for (int i = 0; i < 1000; ++i)
+        note += "60;", durate += "1;", attributi += "n;";
+    d.b.Voce(soprano, note, durate, attributi);
+    d.b.finestra.lblModificato.Visible = true;
+    {
+        const DiscoPieno pieno(1000);
+        d.b.finestra.SalvaMelodia("song");
+    }
+    EXPECT_EQ(d.b.dialoghi.messaggi, Boxes{std::to_string(EFBIG) + "\r\nFile too large"});
+    d.EsceRifiutata("old");
+    d.b.finestra.SalvaMelodia("song");
+    EXPECT_EQ(Contenuto(d.cartella.Di("song.mel")).size(), 3 * 1000U + 2 * 2000U + 3 * 2 + 6 + 6);
+    EXPECT_FALSE(d.b.finestra.lblModificato.Visible());
+}
+
+TEST(SuDisco, ADiskWithoutRoomIsFault61AndLeavesTheOldFileAndTheFlag) {
+    BancoSuDisco d;
+    Scrivi(d.cartella.Di("song.mel"), "old");
+    std::filesystem::create_symlink("/dev/full", d.cartella.Di("song.mel.nuovo"));
+    d.b.Voce(soprano, "60;", "1");
+    d.b.finestra.lblModificato.Visible = true;
+    d.b.finestra.SalvaMelodia("song");
+    EXPECT_EQ(d.b.dialoghi.messaggi, Boxes{"61\r\nNo space left on device"});
+    d.EsceRifiutata("old");
+}
+
+TEST(SuDisco, ANameThatAFolderHasIsRefusedByTheDiskAndTheFolderStays) {
+    BancoSuDisco d;
+    std::filesystem::create_directory(d.cartella.Di("song.mel"));
+    Scrivi(d.cartella.Di("song.mel/inside"), "kept");
+    d.b.Voce(soprano, "60;", "1");
+    d.b.finestra.lblModificato.Visible = true;
+    d.b.finestra.SalvaMelodia("song");
+    EXPECT_EQ(d.b.dialoghi.messaggi, Boxes{std::to_string(EISDIR) + "\r\nIs a directory"});
+    EXPECT_TRUE(d.b.finestra.lblModificato.Visible());
+    EXPECT_EQ(Contenuto(d.cartella.Di("song.mel/inside")), "kept");
+    EXPECT_EQ(d.cartella.Quanti(), 1);
+}
+
+TEST(SuDisco, AFolderThatLetsNothingBeWrittenLeavesTheOldFileAndTheFlag) {
+    BancoSuDisco d;
+    Scrivi(d.cartella.Di("song.mel"), "old");
+    std::filesystem::create_directory(d.cartella.Di("song.mel.nuovo"));
+    d.b.Voce(soprano, "60;", "1");
+    d.b.finestra.lblModificato.Visible = true;
+    d.b.finestra.SalvaMelodia("song");
+    EXPECT_EQ(d.b.dialoghi.messaggi, Boxes{std::to_string(EISDIR) + "\r\nIs a directory"});
+    std::filesystem::remove(d.cartella.Di("song.mel.nuovo"));
+    d.EsceRifiutata("old");
+}
+
+TEST(SuDisco, AFolderThatIsAFileIsNoneAndStopsASaveWithoutAWord) {
+    BancoSuDisco d;
+    Scrivi(d.cartella.Di("song.mel"), "old");
+    d.b.globali.percorsoCorrente = d.cartella.Di("song.mel") + "/";
+    d.b.Voce(soprano, "60;", "1");
+    d.b.finestra.lblModificato.Visible = true;
+    d.b.finestra.SalvaMelodia("song");
+    EXPECT_TRUE(d.b.dialoghi.messaggi.empty());
+    d.EsceRifiutata("old");
+}
+
+TEST(SuDisco, AMissingFileAndAFolderInItsPlaceAreToldByTheSystemsWords) {
+    BancoSuDisco d;
+    Scrivi(d.cartella.Di("song.mel"), FileDi(dueVoci));
+    d.b.finestra.ListaFD();
+    d.b.Scegli("song");
+    std::filesystem::remove(d.cartella.Di("song.mel"));
+    d.b.finestra.cmdEseguiFile_Click();
+    std::filesystem::create_directory(d.cartella.Di("song.mel"));
+    d.b.finestra.cmdEseguiFile_Click();
+    EXPECT_EQ(d.b.dialoghi.messaggi, (Boxes{"2\r\nNo such file or directory",
+                                            std::to_string(EISDIR) + "\r\nIs a directory"}));
+}
+
+}  // namespace corvana::prova

@@ -1,0 +1,81 @@
+#include <gtest/gtest.h>
+
+#include "core/computer_piano.h"
+#include "tests/composer/composer_rig.h"
+
+namespace corvana::prova {
+
+namespace {
+
+struct BancoPiano : BancoComposer {
+    BancoPiano() { uscita.messaggi.clear(); }
+    void Passo(int codice, bool premuto) {
+        if (premuto)
+            Premi(pompa.Adesso(), codice);
+        else
+            Lascia(pompa.Adesso(), codice);
+        pompa.Attendi(0.001);
+        pompa.PompaEventi();
+        finestra.EsaminaPiano();
+    }
+    std::vector<std::uint32_t> Inviati() const {
+        std::vector<std::uint32_t> inviati;
+        for (const auto& voce : uscita.messaggi)
+            inviati.push_back(voce.messaggio);
+        return inviati;
+    }
+};
+
+constexpr std::uint32_t Nota(std::uint32_t nota, std::uint32_t velocita) {
+    return 0x90U | nota << 8 | velocita << 16;
+}
+
+}  // namespace
+
+TEST(PianoDaTastiera, InTheKeyPollTheKeyPSoundsAtVelocity100WhereAllOtherKeysSoundAt90) {
+    BancoPiano b;
+    for (std::size_t distanza = 0; distanza < tastiPiano.size(); ++distanza) {
+        const auto nota = static_cast<std::uint32_t>(48 + distanza);
+        b.uscita.messaggi.clear();
+        b.Passo(tastiPiano[distanza], true);
+        b.Passo(tastiPiano[distanza], false);
+        const std::uint32_t velocita = tastiPiano[distanza] == 'P' ? 100 : 90;
+        EXPECT_EQ(b.Inviati(), (std::vector{Nota(nota, velocita), Nota(nota, 0)})) << distanza;
+    }
+    EXPECT_EQ(tastiPiano[28], 'P');
+}
+
+TEST(PianoDaTastiera, AHeldKeyIsStruckOnceAndStaysLitUntilItIsLetGo) {
+    BancoPiano b;
+    b.Passo('Z', true);
+    b.finestra.EsaminaPiano();
+    EXPECT_EQ(b.Inviati(), std::vector{Nota(48, 90)});
+    EXPECT_EQ(b.finestra.lb[12].BackStyle(), fondoOpaco);
+    b.Passo('Z', false);
+    EXPECT_EQ(b.finestra.lb[12].BackStyle(), fondoTrasparente);
+}
+
+TEST(PianoDaTastiera, KeysOfOnePassSoundInTheOrderOfTheKeyboard) {
+    BancoPiano b;
+    b.Premi(0, 'X');
+    b.Passo('Z', true);
+    EXPECT_EQ(b.Inviati(), (std::vector{Nota(48, 90), Nota(50, 90)}));
+}
+
+TEST(PianoDaTastiera, APlayedKeyBecomesTheActiveNote) {
+    BancoPiano b;
+    b.finestra.baseTastiera = 60;
+    b.Passo('C', true);
+    EXPECT_EQ(b.melodia.notaAttiva, 64);
+    EXPECT_EQ(b.finestra.lblActNote.Caption(), "Mi");
+}
+
+TEST(PianoDaTastiera, WithTheTieLitAPlayedKeySoundsAndTheActiveNoteStays) {
+    BancoPiano b;
+    b.melodia.attributoAttivo = 2;
+    b.Passo('C', true);
+    EXPECT_EQ(b.Inviati(), std::vector{Nota(52, 90)});
+    EXPECT_EQ(b.melodia.notaAttiva, 60);
+}
+
+}  // namespace corvana::prova

@@ -1,0 +1,175 @@
+// A note that is sounded alone: in the step mode, and behind an edit.
+#include <gtest/gtest.h>
+
+#include "tests/composer/composer_rig.h"
+
+namespace corvana::prova {
+
+namespace {
+
+constexpr std::size_t contralto = 1;
+
+struct BancoPasso : BancoComposer {
+    BancoPasso() {
+        Voce(soprano, "60;62;64;", "1");
+        Voce(contralto, "48;50;", "0.5");
+    }
+    /// As the step mode sounds the note under it.
+    void Passo(std::int16_t indice) {
+        melodia.modoPasso = true;
+        Suona([this, indice] { finestra.SuonaMelodia(indice, indice, melodia.modoPasso); });
+    }
+    /// As an edit sounds the note that it has made.
+    void SuonaSola(std::int16_t indice) {
+        Suona([this, indice] { finestra.SuonaMelodia(indice, indice, true); });
+    }
+    bool TastoAcceso(std::size_t nota) const {
+        return finestra.lb[nota - 36].BackStyle() == fondoOpaco;
+    }
+};
+
+}  // namespace
+
+TEST(PassoRiproduzione, OfAllVoicesOnlyTheActiveOneSoundsAndOfItTheOneNote) {
+    BancoPasso b;
+    bool acceso = false;
+    b.NelTick(31, [&] { acceso = b.TastoAcceso(62); });
+    b.Passo(1);
+    EXPECT_EQ(b.Messaggi(), (Mandati{{1, 1, 62, 96}, {32, 1, 62, 0}}));
+    EXPECT_TRUE(acceso);
+    EXPECT_FALSE(b.TastoAcceso(62));
+    EXPECT_EQ(b.stato.voci[contralto].ultima, -1);
+}
+
+TEST(PassoRiproduzione, TheNoteEndsBeforeItsLastTickSleepsAndItsReleaseIsTheEndProcedures) {
+    BancoPasso b;
+    b.melodia.voci[soprano].attributiVoce[1] = "t";
+    b.Passo(1);
+    EXPECT_EQ(b.TickPassati(), 31);
+    // Its gate shut in tick 16; what goes off in the end is each voice's note, sounding or not.
+    EXPECT_EQ(b.Messaggi(), (Mandati{{1, 1, 62, 98}, {16, 1, 62, 0}, {32, 1, 62, 0}}));
+}
+
+TEST(PassoRiproduzione, AStepOfALowerVoiceSoundsOnItsChannel) {
+    BancoPasso b;
+    b.finestra.VoceAttiva_Click(contralto);
+    b.Passo(1);
+    EXPECT_EQ(b.Messaggi(), (Mandati{{1, 2, 50, 96}, {16, 2, 50, 0}}));
+    EXPECT_EQ(b.TickPassati(), 15);
+    EXPECT_EQ(b.finestra.lblNe.Caption(), "2");
+}
+
+TEST(PassoRiproduzione, ARestTakesItsTimeAndSendsNothing) {
+    BancoPasso b;
+    b.Voce(soprano, "00;", "1;", "p;");
+    b.Passo(0);
+    EXPECT_EQ(b.Messaggi(), Mandati{});
+    EXPECT_EQ(b.TickPassati(), 31);
+    EXPECT_EQ(b.finestra.lblPnn.Caption(), "P");
+}
+
+TEST(PassoRiproduzione, NumberAndNameOfTheStepsNoteStayAndCmdCancStaysDisabled) {
+    BancoPasso b;
+    b.NelTick(3, [&] { b.finestra.cmdCanc.Enabled = true; });
+    b.Passo(2);
+    EXPECT_EQ(b.finestra.lblNe.Caption(), "3");
+    EXPECT_EQ(b.finestra.lblPnn.Caption(), "Mi");
+    EXPECT_FALSE(b.finestra.cmdCanc.Enabled());
+    EXPECT_TRUE(b.finestra.cmdInsNota.Enabled());
+    EXPECT_TRUE(b.melodia.modoPasso);
+    EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play");
+}
+
+TEST(PassoRiproduzione, TheActiveVoiceStaysTheActiveOneThoughItIsEmpty) {
+    BancoPasso b;
+    b.finestra.VoceAttiva_Click(3);
+    b.finestra.lblNt.Caption = "as it was";
+    b.melodia.modoPasso = true;
+    b.melodia.voci[3].noteVoce = {"40", ""};
+    b.melodia.voci[3].durateVoce = {"1", ""};
+    b.melodia.voci[3].attributiVoce = {"n", ""};
+    b.Passo(0);
+    EXPECT_EQ(b.melodia.voceAttiva, "basso");
+    EXPECT_EQ(b.finestra.lblNt.Caption(), "as it was");
+}
+
+TEST(PassoRiproduzione, NoMetronomeTicksAlong) {
+    BancoPasso b;
+    b.finestra.lblTs_Click();
+    b.Passo(0);
+    EXPECT_EQ(b.Messaggi(10), Mandati{});
+    b.SuonaSola(0);
+    EXPECT_EQ(b.Messaggi(10), Mandati{});
+}
+
+TEST(PassoRiproduzione, AVoiceChosenMeanwhileEndsTheStepModeAndThePlayRunsToTheMelodysEnd) {
+    BancoPasso b;
+    b.finestra.lblTs_Click();
+    b.CliccaNelTick(40, "lblTs");
+    b.CliccaNelTick(5, "VoceAttiva1");
+    b.Passo(0);
+    EXPECT_FALSE(b.melodia.modoPasso);
+    // From the 6th tick on the pulses join, the note is released in its own last tick.
+    EXPECT_EQ(b.Messaggi(), (Mandati{{1, 1, 60, 96},
+                                     {6, 10, 81, 120},
+                                     {32, 1, 60, 0},
+                                     {37, 10, 81, 0},
+                                     {38, 10, 36, 120},
+                                     {97, 10, 36, 0}}));
+    EXPECT_EQ(b.TickPassati(), 96);
+    EXPECT_EQ(b.finestra.lblNe.Caption(), "");
+    EXPECT_TRUE(b.finestra.cmdCanc.Enabled());
+}
+
+TEST(PassoRiproduzione, BehindAnEditAllVoicesJoinAndTheFirstNoteToEndEndsThePlay) {
+    BancoPasso b;
+    b.melodia.voci[soprano].attributiVoce[1] = "t";
+    b.Voce(contralto, "48;50;", "1.5;4;", "n;n;");
+    b.SuonaSola(1);
+    // The contralto's first note ends 16 ticks into the range, in the tick in which the soprano's
+    // gate shuts: none of that tick's messages is sent.
+    EXPECT_EQ(b.Messaggi(), (Mandati{{1, 1, 62, 98}, {1, 2, 48, 96}}));
+    EXPECT_EQ(b.TickPassati(), 15);
+    EXPECT_EQ(b.uscita.NoteAccese().size(), 0U);
+    EXPECT_FALSE(b.TastoAcceso(62));
+    EXPECT_FALSE(b.TastoAcceso(48));
+}
+
+TEST(PassoRiproduzione, AVoiceBelowTheOneThatEndsIsntSteppedAnyMore) {
+    BancoPasso b;
+    b.Voce(soprano, "60;", "0.5");
+    b.Voce(contralto, "48;50;", "0.5");
+    b.SuonaSola(0);
+    EXPECT_EQ(b.Messaggi(), (Mandati{{1, 1, 60, 96}, {1, 2, 48, 96}}));
+    EXPECT_EQ(b.stato.voci[contralto].tickCorrente, 15);
+}
+
+TEST(PassoRiproduzione, ALoneNoteOfOneTickEndsInItsFirstTick) {
+    BancoPasso b;
+    b.Voce(soprano, "60;", "0.03125");
+    b.SuonaSola(0);
+    EXPECT_EQ(b.Messaggi(), Mandati{});
+    EXPECT_EQ(b.TickPassati(), 0);
+    EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play");
+}
+
+TEST(PassoRiproduzione, StopEndsAStepWithinOneTick) {
+    BancoPasso b;
+    b.NelTick(7, [&] { b.finestra.SuonaMelodia(0, 0, true); });
+    b.Passo(0);
+    EXPECT_EQ(b.TickPassati(), 7);
+    EXPECT_EQ(b.Messaggi(), (Mandati{{1, 1, 60, 96}, {8, 1, 60, 0}}));
+    EXPECT_EQ(b.uscita.NoteAccese().size(), 0U);
+}
+
+TEST(PassoRiproduzione, WhatThePlayBeforeLeftLoadedIsReleasedInTheOrderOfTheVoices) {
+    BancoPasso b;
+    b.Voce(2, "30;", "1");  // off the keyboard
+    b.Voce(3, "36;", "1");
+    b.Suona();
+    b.Passo(0);
+    EXPECT_EQ(b.Messaggi(),
+              (Mandati{{1, 1, 60, 96}, {32, 1, 60, 0}, {32, 2, 50, 0}, {32, 4, 36, 0}}));
+}
+
+}  // namespace corvana::prova

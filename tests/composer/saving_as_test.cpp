@@ -1,0 +1,157 @@
+// Saving under a new name.
+#include <gtest/gtest.h>
+
+#include "tests/composer/composer_rig.h"
+#include "tests/composer/mel_lines.h"
+
+namespace corvana::prova {
+
+namespace {
+
+using Boxes = std::vector<std::string>;
+
+const Linee dueNote = {"60;62;", "1;1;", "n;n;", " 60 ", " 16 "};
+
+struct BancoConNome : BancoComposer {
+    int scrittePrima = file.scritture;
+
+    BancoConNome() {
+        Voce(soprano, "60;62;", "1");
+        finestra.lblModificato.Visible = true;
+        melodia.nomeMelodia = finestra.lblNome.Caption = "old";
+    }
+    /// Asks for the name, to which the user answers so.
+    void Rispondi(const std::optional<std::string>& risposta) {
+        dialoghi.testi = {risposta};
+        finestra.mnuSaveAs_Click();
+    }
+};
+
+}  // namespace
+
+TEST(SalvaConNome, AsksWithPromptAndTitleAndProposesNothingWithoutAChosenRow) {
+    BancoConNome b;
+    b.Rispondi("new");
+    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"nome?"});
+    EXPECT_EQ(b.dialoghi.titoli, Boxes{"salva con nome"});
+    EXPECT_EQ(b.dialoghi.proposte, Boxes{""});
+    EXPECT_EQ(b.melodia.nomeMelodia, "new");
+    EXPECT_EQ(b.ContenutoFile("new"), FileDi(dueNote));
+    EXPECT_EQ(b.finestra.lblNome.Caption(), "Salvato: new");
+    EXPECT_FALSE(b.finestra.lblModificato.Visible());
+}
+
+TEST(SalvaConNome, ProposesTheTextOfTheChosenRow) {
+    BancoConNome b;
+    b.finestra.Fr2.Visible = true;
+    b.PonFile("a song", "");
+    b.Rispondi("new");
+    EXPECT_EQ(b.dialoghi.proposte, Boxes{"a song"});
+}
+
+TEST(SalvaConNome, OnAFolderOffersItsSignAndNameWhichTheTestOfCharactersDoesntCatch) {
+    BancoConNome b;
+    b.file.cartelle.insert("/programma/Melodie/Demo/mine");
+    b.finestra.mnuApri_Click();
+    b.Scegli("» mine");
+    b.Rispondi("» mine");
+    EXPECT_EQ(b.dialoghi.proposte, Boxes{"» mine"});
+    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"nome?"});
+    EXPECT_EQ(b.ContenutoFile("» mine"), FileDi(dueNote));
+}
+
+TEST(SalvaConNome, OpensTheListAndAsksNothingWhenTheSopranoIsEmpty) {
+    BancoConNome b;
+    b.Voce(soprano, "", "1");
+    b.Voce(1, "60;", "1");
+    b.Rispondi("new");
+    EXPECT_TRUE(b.finestra.Fr2.Visible());
+    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_EQ(b.melodia.nomeMelodia, "old");
+}
+
+TEST(SalvaConNome, TheEntriesOfBothMenusDoTheSame) {
+    for (const char* voce : {"mnuSaveAs", "mnuSaveAsCont"}) {
+        BancoConNome b;
+        b.dialoghi.testi = {"new"};
+        b.Subito(Fatto::Click, voce);
+        EXPECT_TRUE(b.finestra.Fr2.Visible());
+        EXPECT_EQ(b.ContenutoFile("new"), FileDi(dueNote));
+    }
+}
+
+TEST(SalvaConNome, TakesOuterBlanksOffAndLeavesInnerOnesAndQuotes) {
+    BancoConNome b;
+    b.Rispondi("  my \"new\" song ");
+    EXPECT_EQ(b.melodia.nomeMelodia, "my \"new\" song");
+    EXPECT_EQ(b.ContenutoFile("my \"new\" song"), FileDi(dueNote));
+}
+
+TEST(SalvaConNome, ARefusedNameGivesTheOldOneBackWhenANameIsShown) {
+    for (const char* segno : {",", ".", "-", ";", ":", "|", "\\", "/", "!", "%", "&", "(",
+                              ")", "=", "'", "^", "+", "*", "°",  "§", "<", ">", "?"}) {
+        BancoConNome b;
+        b.Rispondi(std::string("a") + segno + "b");
+        EXPECT_EQ(b.dialoghi.messaggi, (Boxes{"nome?", "nome errato"})) << segno;
+        EXPECT_EQ(b.melodia.nomeMelodia, "old") << segno;
+        EXPECT_EQ(b.file.scritture, b.scrittePrima) << segno;
+        EXPECT_TRUE(b.finestra.lblModificato.Visible()) << segno;
+    }
+}
+
+TEST(SalvaConNome, ARefusedNameLeavesNoneWhenLblNomeIsBlank) {
+    for (const char* mostrato : {"", "   "}) {
+        BancoConNome b;
+        b.finestra.lblNome.Caption = mostrato;
+        b.Rispondi("a?");
+        EXPECT_EQ(b.dialoghi.messaggi, (Boxes{"nome?", "nome errato"}));
+        EXPECT_EQ(b.melodia.nomeMelodia, "");
+        EXPECT_EQ(b.finestra.lblNome.Caption(), mostrato);
+    }
+}
+
+TEST(SalvaConNome, ACancelledBoxSavesNothingAndLeavesTheMelodyWithoutAName) {
+    for (const std::optional<std::string>& risposta :
+         {std::optional<std::string>(), std::optional<std::string>("  ")}) {
+        BancoConNome b;
+        b.Rispondi(risposta);
+        EXPECT_EQ(b.dialoghi.messaggi, Boxes{"nome?"});
+        EXPECT_EQ(b.melodia.nomeMelodia, "");
+        EXPECT_EQ(b.finestra.lblNome.Caption(), "old");
+        EXPECT_TRUE(b.finestra.lblModificato.Visible());
+        EXPECT_EQ(b.file.scritture, b.scrittePrima);
+    }
+}
+
+TEST(SalvaConNome, ANoToReplacingAMelodyWritesNothingAndTheNewNameStaysInForce) {
+    BancoConNome b;
+    b.PonFile("new", "another");
+    b.dialoghi.risposte = {false};
+    b.Rispondi("new");
+    EXPECT_EQ(b.dialoghi.messaggi, (Boxes{"nome?", "esiste new\r\nsostituire?"}));
+    EXPECT_EQ(b.ContenutoFile("new"), "another");
+    EXPECT_EQ(b.melodia.nomeMelodia, "new");
+    EXPECT_EQ(b.finestra.lblNome.Caption(), "old");
+    EXPECT_TRUE(b.finestra.lblModificato.Visible());
+}
+
+TEST(SalvaConNome, AYesToReplacingAMelodyReplacesIt) {
+    BancoConNome b;
+    b.PonFile("new", "another");
+    b.dialoghi.risposte = {true};
+    b.Rispondi("new");
+    EXPECT_EQ(b.ContenutoFile("new"), FileDi(dueNote));
+    EXPECT_FALSE(b.finestra.lblModificato.Visible());
+}
+
+TEST(SalvaConNome, AFailedSaveKeepsTheNewNameAndTheFlag) {
+    BancoConNome b;
+    b.file.erroreScrivi = ENOSPC;
+    b.Rispondi("new");
+    EXPECT_EQ(b.dialoghi.messaggi, (Boxes{"nome?", "61\r\nNo space left on device"}));
+    EXPECT_EQ(b.melodia.nomeMelodia, "new");
+    EXPECT_EQ(b.finestra.lblNome.Caption(), "old");
+    EXPECT_TRUE(b.finestra.lblModificato.Visible());
+}
+
+}  // namespace corvana::prova

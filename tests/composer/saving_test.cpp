@@ -1,0 +1,231 @@
+// Saving into the current folder: the file's bytes, what the window shows, what fails.
+#include <gtest/gtest.h>
+
+#include "tests/composer/composer_rig.h"
+#include "tests/composer/mel_lines.h"
+
+namespace corvana::prova {
+
+namespace {
+
+constexpr std::size_t contralto = 1;
+constexpr std::size_t tenore = 2;
+constexpr std::size_t basso = 3;
+
+using Boxes = std::vector<std::string>;
+
+/// Two notes in the soprano, changed since they were saved, by instrument 16 at tempo 60.
+struct BancoSalva : BancoComposer {
+    BancoSalva() {
+        Voce(soprano, "60;62;", "1");
+        finestra.lblModificato.Visible = true;
+        finestra.lblNome.Caption = "before";
+    }
+    std::string Salvato(const std::string& nome = "song") {
+        finestra.SalvaMelodia(nome);
+        return ContenutoFile(nome);
+    }
+    bool Modificata() const { return finestra.lblModificato.Visible(); }
+    /// Nothing was written and the window shows what it showed.
+    void EsceIntatta() const {
+        EXPECT_EQ(file.scritture, scrittePrima_);
+        EXPECT_TRUE(Modificata());
+        EXPECT_EQ(finestra.lblNome.Caption(), "before");
+    }
+
+private:
+    int scrittePrima_ = file.scritture;
+};
+
+const Linee soloSoprano = {"60;62;", "1;1;", "n;n;", " 60 ", " 16 "};
+
+}  // namespace
+
+TEST(SalvaMelodia, WithOnlyASopranoAndTheMetronomeOffIsExactlyFiveLines) {
+    BancoSalva b;
+    EXPECT_EQ(b.Salvato(), "60;62;\r\n1;1;\r\nn;n;\r\n 60 \r\n 16 \r\n");
+}
+
+TEST(SalvaMelodia, Instrument127WithTheMetronomeOffHasALineOfThreeCharactersBetweenBlanks) {
+    BancoSalva b;
+    b.melodia.voci[soprano].strumento = 127;
+    EXPECT_EQ(b.Salvato(), FileDi({"60;62;", "1;1;", "n;n;", " 60 ", " 127 "}));
+}
+
+TEST(SalvaMelodia, WithTheMetronomeOnTheInstrumentsLineHoldsItsSettings) {
+    BancoSalva b;
+    b.finestra.lblTs_Click();
+    b.finestra.Pulsazioni.PonTesto("3");
+    b.finestra.DurataPulsazioni.PonTesto("8");
+    b.finestra.InizioPuls.PonValore(2);
+    b.finestra.Slider1.PonValore(200);
+    EXPECT_EQ(b.Salvato(), FileDi({"60;62;", "1;1;", "n;n;", " 200 ", "16;3;8;2"}));
+}
+
+TEST(SalvaMelodia, WritesTheBookmarksInTheBytesOfTheCodePageAndAVoiceInItsBlock) {
+    BancoSalva b;
+    b.Voce(soprano, "60;62;64;65;", "1");
+    b.Voce(basso, "48;43;", "2");
+    b.melodia.voci[basso].strumento = 32;
+    b.finestra.lblTs_Click();
+    b.finestra.lstBookMark.List = Righe{"1 ÷ 4 ÷Tutta", "2 ÷ 3 ÷ motivo"};
+    EXPECT_EQ(b.Salvato(), FileDi(dueVoci));
+}
+
+TEST(SalvaMelodia, ASingleBookmarkRowIsWrittenToo) {
+    BancoSalva b;
+    b.finestra.lstBookMark.List = Righe{"1 ÷ 2 ÷Tutta"};
+    EXPECT_EQ(b.Salvato(), FileDi(soloSoprano) + "1 \xF7 2 \xF7Tutta;\r\n");
+}
+
+TEST(SalvaMelodia, TheBlocksStandInTheOrderOfTheVoices) {
+    BancoSalva b;
+    for (const std::size_t voce : {basso, contralto, tenore})
+        b.Voce(voce, "48;", "2");
+    const std::string blocchi = FileDi({"contralto;16", "48;", "2;", "n;", "tenore;16", "48;", "2;",
+                                        "n;", "basso;16", "48;", "2;", "n;"});
+    EXPECT_EQ(b.Salvato(), FileDi(soloSoprano) + blocchi);
+}
+
+TEST(SalvaMelodia, AContraltoWithANoteTextButEmptyDurationsIsWrittenWithAnEmptyLine) {
+    BancoSalva b;
+    b.Voce(contralto, "48;", "", "n;");
+    EXPECT_EQ(b.Salvato(), FileDi(soloSoprano) + "contralto;16\r\n48;\r\n\r\nn;\r\n");
+}
+
+TEST(SalvaMelodia, AVoiceWithoutNoteTextHasNoBlockWhateverElseItHolds) {
+    BancoSalva b;
+    b.Voce(tenore, "", "1;", "n;");
+    EXPECT_EQ(b.Salvato(), FileDi(soloSoprano));
+}
+
+TEST(SalvaMelodia, AnEmptySopranoIsWrittenAsEmptyLines) {
+    BancoSalva b;
+    b.Voce(soprano, "", "", "");
+    EXPECT_EQ(b.Salvato(), "\r\n\r\n\r\n 60 \r\n 16 \r\n");
+}
+
+TEST(SalvaMelodia, ReplacesTheFileOfThatName) {
+    BancoSalva b;
+    b.PonFile("song", "old");
+    EXPECT_EQ(b.Salvato(), FileDi(soloSoprano));
+    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+}
+
+TEST(SalvaMelodia, LowersTheFlagNamesTheFileAndRefreshesTheList) {
+    BancoSalva b;
+    b.Salvato();
+    EXPECT_FALSE(b.Modificata());
+    EXPECT_EQ(b.finestra.lblNome.Caption(), "Salvato: song");
+    EXPECT_EQ(b.finestra.List1.List(), (Righe{"» ..", "song"}));
+}
+
+TEST(SalvaMelodia, DoesntSetNomeMelodia) {
+    BancoSalva b;
+    b.melodia.nomeMelodia = "mine";
+    b.Salvato();
+    EXPECT_EQ(b.melodia.nomeMelodia, "mine");
+}
+
+TEST(SalvaMelodia, LeavesTheMelodyInMemoryAsItIs) {
+    BancoSalva b;
+    b.melodia.voci[soprano].testoNote = "60;62;64;";
+    b.Salvato();
+    EXPECT_EQ(b.melodia.voci[soprano].testoNote, "60;62;64;");
+    EXPECT_EQ(b.melodia.voci[soprano].numeroNote, 2);
+    EXPECT_EQ(b.finestra.LblNoteString.Caption(), "Do;Re;");
+}
+
+TEST(SalvaMelodia, AnEmptyNameStopsWithoutAWord) {
+    BancoSalva b;
+    b.finestra.SalvaMelodia("");
+    b.EsceIntatta();
+    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+}
+
+TEST(SalvaMelodia, AFolderThatDoesntExistStopsItWithoutAWord) {
+    BancoSalva b;
+    b.globali.percorsoCorrente = "/gone/";
+    b.finestra.SalvaMelodia("song");
+    b.EsceIntatta();
+    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+}
+
+TEST(SalvaMelodia, WhatCantBeWrittenIsToldByNumberAndTextAndTheOldFileAndTheFlagStay) {
+    const std::vector<std::pair<int, std::string>> guasti = {
+        {EACCES, "13\r\nPermission denied"},
+        {EROFS, "30\r\nRead-only file system"},
+        {ENOSPC, "61\r\nNo space left on device"},
+        {EDQUOT, "61\r\nDisk quota exceeded"},
+        {ENXIO, "71\r\nNo such device or address"},
+        {EIO, "71\r\nInput/output error"},
+        {EISDIR, "21\r\nIs a directory"}};
+    for (const auto& [errore, testo] : guasti) {
+        BancoSalva b;
+        b.PonFile("song", "old");
+        b.file.erroreScrivi = errore;
+        b.finestra.SalvaMelodia("song");
+        b.EsceIntatta();
+        EXPECT_EQ(b.dialoghi.messaggi, Boxes{testo});
+        EXPECT_EQ(b.ContenutoFile("song"), "old");
+    }
+}
+
+TEST(SalvaMelodia, AfterAFailureTheSameMelodyCanBeSavedAgain) {
+    BancoSalva b;
+    b.file.erroreScrivi = ENOSPC;
+    b.finestra.SalvaMelodia("song");
+    b.file.erroreScrivi = 0;
+    EXPECT_EQ(b.Salvato(), FileDi(soloSoprano));
+    EXPECT_FALSE(b.Modificata());
+}
+
+TEST(SalvaMelodia, ACharacterThatTheCodePageDoesntHaveIsAFaultBeforeAnythingIsWritten) {
+    BancoSalva b;
+    b.PonFile("song", "old");
+    b.finestra.lstBookMark.List = Righe{"1 ÷ 2 ÷Tutta", "1 ÷ 2 ÷ 日"};
+    b.finestra.SalvaMelodia("song");
+    b.EsceIntatta();
+    ASSERT_EQ(b.dialoghi.messaggi.size(), 1U);
+    EXPECT_TRUE(b.dialoghi.messaggi[0].starts_with("5\r\n")) << b.dialoghi.messaggi[0];
+    EXPECT_NE(b.dialoghi.messaggi[0].find("日"), std::string::npos);
+    EXPECT_EQ(b.ContenutoFile("song"), "old");
+}
+
+TEST(MenuSalva, OpensTheListAndSavesUnderTheMelodysName) {
+    BancoSalva b;
+    b.melodia.nomeMelodia = "mine";
+    b.Subito(Fatto::Click, "mnuSalva");
+    EXPECT_TRUE(b.finestra.Fr2.Visible());
+    EXPECT_EQ(b.ContenutoFile("mine"), FileDi(soloSoprano));
+    EXPECT_EQ(b.finestra.lblNome.Caption(), "Salvato: mine");
+    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+}
+
+TEST(MenuSalva, WithoutANameAsksForOne) {
+    BancoSalva b;
+    b.dialoghi.testi = {"mine"};
+    b.finestra.mnuSalva_Click();
+    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"nome?"});
+    EXPECT_EQ(b.melodia.nomeMelodia, "mine");
+    EXPECT_EQ(b.ContenutoFile("mine"), FileDi(soloSoprano));
+}
+
+TEST(MenuSalva, TheEntryOfTheContextMenuDoesTheSame) {
+    BancoSalva b;
+    b.melodia.nomeMelodia = "mine";
+    b.Subito(Fatto::Click, "mnuSalvaCont");
+    EXPECT_EQ(b.ContenutoFile("mine"), FileDi(soloSoprano));
+    EXPECT_TRUE(b.finestra.Fr2.Visible());
+}
+
+TEST(MenuSalva, DuringAPlayTheFileMenuIsOutOfReach) {
+    BancoSalva b;
+    b.melodia.nomeMelodia = "mine";
+    b.CliccaNelTick(3, "mnuSalva");
+    b.Suona();
+    EXPECT_EQ(b.ContenutoFile("mine"), "no such file");
+    EXPECT_TRUE(b.Modificata());
+}
+
+}  // namespace corvana::prova

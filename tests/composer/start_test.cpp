@@ -1,0 +1,236 @@
+// What the melody window sets up as it opens.
+#include <gtest/gtest.h>
+
+#include "tests/composer/composer_rig.h"
+
+namespace corvana::prova {
+
+namespace {
+
+using Boxes = std::vector<std::string>;
+
+constexpr std::int32_t violino = 40;
+constexpr Colore coloreProprio = Rgb(1, 2, 3);
+
+/// The window before it is opened.
+struct BancoApertura : Banco {
+    frmComposer finestra{Tutto(), {[] { return "Piano"; }, [] { return "Organ"; }, {}}};
+    Melodia& melodia = finestra.melodia;
+
+    BancoApertura() { suono.ApriMidi(-1); }
+    void Apri() { finestre.Mostra(finestra); }
+    void ApriCon(const std::string& ultimaCartella) {
+        impostazioni.ScriviValore("LastDir", ultimaCartella);
+        Apri();
+    }
+    void PonLingua(const std::string& righe) {
+        globali.PercorsoLingua = "/programma/texts.csv";
+        file.contenuti[globali.PercorsoLingua] = righe;
+    }
+    void SporcaEditing() {
+        melodia.figuraAttiva = 4;
+        melodia.attributoAttivo = 3;
+        melodia.letteraAttributo = "s";
+        melodia.valoreFigura = melodia.valoreNota = 7;
+        melodia.notaAttiva = 80;
+        melodia.tempo = 99;
+        melodia.contaTerzina = 2;
+        finestra.tastoCorrente = 5;
+    }
+    void SporcaMelodia() {
+        for (VoceMelodia& voce : melodia.voci)
+            voce.testoNote = "60;", voce.primaNota = 3, voce.ultimaNota = 4;
+        melodia.voceAttiva = "basso";
+        melodia.semitoni = 5;
+        finestra.lblNini.Text = "9";
+        finestra.lblNfineB.Text = "9";
+        finestra.lblNt.Caption = "9";
+    }
+};
+
+void EscePulsiIniziali(const frmComposer& f) {
+    EXPECT_EQ(f.Pulsazioni.Text(), "2");
+    EXPECT_EQ(f.DurataPulsazioni.Text(), "4");
+    EXPECT_EQ(f.pattern, "ab");
+    EXPECT_EQ(f.durataPulso, 1);
+    EXPECT_EQ(f.ultimoPulso, 1);
+    EXPECT_EQ(f.pulsoIniziale, 0);
+    EXPECT_FALSE(f.metroAttivo);
+}
+
+}  // namespace
+
+TEST(AvvioComposer, TheTextsOfTheLanguageFileComeFirstAndTheCaptionsOfTheOtherEntriesAfterThem) {
+    BancoApertura b;
+    b.PonLingua(
+        "245;frmComposer;Melodies\r\n264;frmComposer;Play later\r\n"
+        "351;frmComposer;Remove\r\n356;frmComposer;All of it\r\n245;frmMetro;Other\r\n");
+    b.Apri();
+    EXPECT_EQ(b.finestra.Caption(), "Melodies");
+    EXPECT_EQ(b.finestra.mnuPlayRitardo.Caption(), "Play later");
+    EXPECT_EQ(b.finestra.cmdDelBm.Caption(), "Remove");
+    EXPECT_EQ(b.finestra.cmdDelete.Caption(), "Remove");
+    EXPECT_EQ(b.globali.testi.TxtMelodiaIntera, "All of it");
+    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+}
+
+TEST(AvvioComposer, WithoutALanguageFileTheWindowKeepsItsOwnTexts) {
+    BancoApertura b;
+    b.globali.PercorsoLingua = "/programma/none.csv";
+    b.Apri();
+    EXPECT_EQ(b.finestra.Caption(), "Composizione melodie e armonie");
+    EXPECT_EQ(b.finestra.cmdDelete.Caption(), "Elimina");
+    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+}
+
+TEST(AvvioComposer, TheInstrumentEntriesOfBothMenusReadAsThoseOfTheMainWindow) {
+    BancoApertura b;
+    b.Apri();
+    EXPECT_EQ(b.finestra.mnuPiano.Caption(), "Piano");
+    EXPECT_EQ(b.finestra.mnuPianoCont.Caption(), "Piano");
+    EXPECT_EQ(b.finestra.mnuOrgano.Caption(), "Organ");
+    EXPECT_EQ(b.finestra.mnuOrganoCont.Caption(), "Organ");
+}
+
+TEST(AvvioComposer, TheProgramKnowsThatTheWindowIsOpen) {
+    BancoApertura b;
+    EXPECT_FALSE(b.globali.ComposerAperto);
+    b.Apri();
+    EXPECT_TRUE(b.globali.ComposerAperto);
+}
+
+TEST(AvvioComposer, TheCursorStandsOnRow19ByTheNote60) {
+    BancoApertura b;
+    b.finestra.rigaCursore = 3;
+    b.finestra.notaCursore = 90;
+    b.SporcaEditing();
+    b.Apri();
+    EXPECT_EQ(b.finestra.rigaCursore, 19);
+    EXPECT_EQ(b.finestra.notaCursore, 60);
+    EXPECT_EQ(b.finestra.lblCursore.Top(), 1732);
+    EXPECT_EQ(b.finestra.lblAccidente.Top(), 1732);
+    EXPECT_EQ(b.finestra.lblActNote.Caption(), "Do");
+}
+
+TEST(AvvioComposer, TheNameUnderTheCursorIsInTheNotationInUse) {
+    BancoApertura b;
+    b.globali.NomiAnglo = true;
+    b.Apri();
+    EXPECT_EQ(b.finestra.lblActNote.Caption(), "C");
+}
+
+TEST(AvvioComposer, AFirstStartWithNoLastDirOpensTheDemoFolderBesideTheProgram) {
+    BancoApertura b;
+    b.Apri();
+    EXPECT_EQ(b.globali.percorsoCorrente, "/programma/Melodie/Demo/");
+}
+
+TEST(AvvioComposer, LastDirIsTheCurrentFolderAndEndsWithItsSeparator) {
+    for (const char* ultima : {"/home/mine/", "/home/mine"}) {
+        BancoApertura b;
+        b.ApriCon(ultima);
+        EXPECT_EQ(b.globali.percorsoCorrente, "/home/mine/") << ultima;
+    }
+}
+
+TEST(AvvioComposer, AnUnreadableLastDirCountsAsEmpty) {
+    BancoApertura b;
+    b.file.contenuti.clear();
+    b.Apri();
+    EXPECT_EQ(b.globali.percorsoCorrente, "/programma/Melodie/Demo/");
+    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"Error1 Opening key: 2"});
+}
+
+TEST(AvvioComposer, AFolderInLastDirThatNoLongerExistsIsTakenWithoutAWord) {
+    BancoApertura b;
+    b.ApriCon("/gone/");
+    EXPECT_EQ(b.globali.percorsoCorrente, "/gone/");
+    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    b.finestra.mnuApri_Click();
+    EXPECT_EQ(b.finestra.List1.List(), Righe{"» .."});
+}
+
+TEST(AvvioComposer, TheFirstNoteInsertedAtOnceIsDoCentraleAsAQuarterWithAttributeN) {
+    BancoApertura b;
+    b.SporcaEditing();
+    b.Apri();
+    EXPECT_EQ(b.melodia.notaAttiva, 60);
+    EXPECT_EQ(b.melodia.figuraAttiva, 2);
+    EXPECT_EQ(b.melodia.valoreFigura, 1);
+    EXPECT_EQ(b.melodia.valoreNota, 1);
+    EXPECT_EQ(b.melodia.attributoAttivo, 6);
+    EXPECT_EQ(b.melodia.letteraAttributo, "n");
+    EXPECT_EQ(b.melodia.contaTerzina, 0);
+    EXPECT_EQ(b.melodia.voceAttiva, "soprano");
+}
+
+TEST(AvvioComposer, OnlyTheFigureOfTheQuarterIsLit) {
+    BancoApertura b;
+    b.finestra.cmdSimbNote[0].BackColor = coloreProprio;
+    b.Apri();
+    EXPECT_EQ(b.finestra.ColoreSpento, coloreProprio);
+    for (std::size_t i = 0; i < b.finestra.cmdSimbNote.size(); ++i)
+        EXPECT_EQ(b.finestra.cmdSimbNote[i].BackColor() == Rgb(10, 254, 10), i == 2) << i;
+}
+
+TEST(AvvioComposer, TheTempoIs60AndNoKeyWasUsedYet) {
+    BancoApertura b;
+    b.SporcaEditing();
+    b.Apri();
+    EXPECT_EQ(b.melodia.tempo, 60);
+    EXPECT_EQ(b.finestra.Velocità.Caption(), "60");
+    EXPECT_EQ(b.finestra.tastoCorrente, 70);
+}
+
+TEST(AvvioComposer, AllVoicesAreEmptyAndTheSopranoIsTheActiveOne) {
+    BancoApertura b;
+    b.SporcaMelodia();
+    b.Apri();
+    for (const VoceMelodia& voce : b.melodia.voci) {
+        EXPECT_TRUE(voce.Vuota());
+        EXPECT_EQ(voce.primaNota, 0);
+        EXPECT_EQ(voce.ultimaNota, 0);
+    }
+    EXPECT_EQ(b.finestra.lblNini.Text(), "");
+    EXPECT_EQ(b.finestra.lblNfineB.Text(), "");
+    EXPECT_EQ(b.finestra.lblNt.Caption(), "");
+    EXPECT_EQ(b.melodia.voceAttiva, "soprano");
+}
+
+TEST(AvvioComposer, AllFourVoicesTakeTheInstrumentInUseWhichIsSentOnTheirChannelsInOrder) {
+    BancoApertura b;
+    b.globali.StrumentoGlobale = violino;
+    b.Apri();
+    std::vector<std::uint32_t> inviati;
+    for (const auto& voce : b.uscita.messaggi)
+        inviati.push_back(voce.messaggio);
+    EXPECT_EQ(inviati, (std::vector<std::uint32_t>{0x28C0, 0x28C1, 0x28C2, 0x28C3}));
+    for (std::size_t voce = 0; voce < numeroVoci; ++voce) {
+        EXPECT_EQ(b.melodia.voci[voce].strumento, violino);
+        EXPECT_EQ(b.finestra.lblInstr[voce].Caption(), "40-Violin");
+    }
+}
+
+TEST(AvvioComposer, NoTranspositionWaits) {
+    BancoApertura b;
+    b.SporcaMelodia();
+    b.finestra.lblSemitoni.Caption = "5";
+    b.Apri();
+    EXPECT_EQ(b.melodia.semitoni, 0);
+    EXPECT_EQ(b.finestra.lblSemitoni.Caption(), "0");
+}
+
+TEST(AvvioComposer, TheMetronomeIsOffAndSetToTwoQuarters) {
+    BancoApertura b;
+    frmComposer& f = b.finestra;
+    f.pattern = "abbcb";
+    f.ultimoPulso = f.pulsoIniziale = 3;
+    f.durataPulso = 4;
+    f.metroAttivo = true;
+    f.Pulsazioni.ListIndex = 0;
+    f.DurataPulsazioni.ListIndex = 0;
+    b.Apri();
+    EscePulsiIniziali(f);
+}
+
+}  // namespace corvana::prova

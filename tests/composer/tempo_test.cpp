@@ -1,0 +1,43 @@
+// The slider of the tempo.
+#include <gtest/gtest.h>
+
+#include "tests/composer/composer_rig.h"
+
+namespace corvana::prova {
+
+TEST(TempoComposer, MovingTheSliderWithAnEmptySopranoChangesTheTempoButRaisesNoFlag) {
+    BancoComposer b;
+    b.Voce(soprano + 1, "60;", "1");
+    b.Subito(Fatto::Change, "Slider1", 100);
+    EXPECT_EQ(b.melodia.tempo, 100);
+    EXPECT_EQ(b.finestra.Velocità.Caption(), "100");
+    EXPECT_FALSE(b.finestra.lblModificato.Visible());
+}
+
+TEST(TempoComposer, WithAMelodyDraggingTheThumbRaisesTheFlagOnlyAtTheFinalChange) {
+    BancoComposer b;
+    b.Voce(soprano, "60;", "1");
+    b.specchio.fuochi.clear();
+    for (const int valore : {70, 250, 20}) {
+        b.Subito(Fatto::Scroll, "Slider1", valore);
+        EXPECT_EQ(b.melodia.tempo, valore);
+        EXPECT_EQ(b.finestra.Velocità.Caption(), std::to_string(valore));
+        EXPECT_FALSE(b.finestra.lblModificato.Visible());
+    }
+    EXPECT_TRUE(b.specchio.fuochi.empty());
+    b.Subito(Fatto::Change, "Slider1", 20);
+    EXPECT_EQ(b.melodia.tempo, 20);
+    EXPECT_TRUE(b.finestra.lblModificato.Visible());
+    EXPECT_EQ(b.specchio.fuochi, std::vector<std::string>{"cmdPlay"});
+}
+
+TEST(TempoComposer, AChangeWhileAMelodyIsBeingLoadedDoesntMarkIt) {
+    BancoComposer b;
+    b.Voce(soprano, "60;", "1");
+    b.melodia.inCaricamento = true;
+    b.Subito(Fatto::Change, "Slider1", 100);
+    EXPECT_EQ(b.melodia.tempo, 100);
+    EXPECT_FALSE(b.finestra.lblModificato.Visible());
+}
+
+}  // namespace corvana::prova
