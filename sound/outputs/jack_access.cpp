@@ -43,6 +43,10 @@ public:
     ~Porta() override {
         Attendi([this] { return accesso_->morto_ || !accesso_->anello_.Primo(); },
                 attesaSvuotamento);
+        // What the server has taken is the other port's only when its cycle is over.
+        const unsigned ultimo = accesso_->cicli_;
+        Attendi([this, ultimo] { return accesso_->morto_ || accesso_->cicli_ != ultimo; },
+                attesaSvuotamento);
         const Turno::Preso turno(accesso_->uso_);
         accesso_->Scollega();
         accesso_->Esci();
@@ -118,6 +122,7 @@ bool AccessoJack::Collega(const std::string& nome) {
         while (anello_.Primo())
             anello_.Togli();
         porta_ = porta;
+        ascoltata_ = false;
     }
     return jack_activate(cliente_) == 0 &&
            jack_connect(cliente_, jack_port_name(porta), nome.c_str()) == 0;
@@ -136,11 +141,15 @@ void AccessoJack::Scollega() {
 
 int AccessoJack::Elabora(std::uint32_t frame, void* accesso) {
     auto& questo = *static_cast<AccessoJack*>(accesso);
+    ++questo.cicli_;
     const std::unique_lock guardia(questo.uscita_, std::try_to_lock);
     if (!guardia || !questo.porta_) return 0;
     void* buffer = jack_port_get_buffer(questo.porta_, frame);
     if (!buffer) return 0;
     jack_midi_clear_buffer(buffer);
+    // A new connection counts from a cycle on: what is written before that, nobody reads.
+    if (!questo.ascoltata_ && jack_port_connected(questo.porta_) == 0) return 0;
+    questo.ascoltata_ = true;
     questo.Riversa(buffer);
     return 0;
 }

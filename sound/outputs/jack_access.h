@@ -55,7 +55,9 @@ private:
     Turno posto_;        ///< of the one open port
     std::mutex uscita_;  ///< keeps the port while the server's thread writes to it
     _jack_port* porta_ = nullptr;
+    bool ascoltata_ = false;  ///< the port's connection has counted in a cycle; under `uscita_`
     Anello<Messaggio, 1024> anello_;
+    std::atomic<unsigned> cicli_{0};  ///< of the server's that have begun
 };
 
 }  // namespace corvana

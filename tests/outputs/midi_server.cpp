@@ -11,16 +11,24 @@ namespace corvana::prova {
 
 namespace {
 
-/// The bytes at the start of a line such as `192: 90 3c 40 note on`.
+constexpr const char* memoriaComune = "/dev/shm";
+
+/// The bytes of a line such as `90 3c 40`.
 std::vector<std::uint8_t> Byte(const std::string& riga) {
     std::istringstream parole(riga);
-    std::string parola;
-    parole >> parola;
     std::vector<std::uint8_t> byte;
-    while (parole >> parola && parola.size() == 2 &&
-           parola.find_first_not_of("0123456789abcdef") == std::string::npos)
+    for (std::string parola; parole >> parola;)
         byte.push_back(static_cast<std::uint8_t>(std::stoi(parola, nullptr, 16)));
     return byte;
+}
+
+/// What a server of that name keeps there for its clients.
+std::vector<std::filesystem::path> Resti(const std::string& nome) {
+    std::vector<std::filesystem::path> resti;
+    for (const auto& file : std::filesystem::directory_iterator(memoriaComune))
+        if (file.path().filename().string().find("_" + nome + "_") != std::string::npos)
+            resti.push_back(file.path());
+    return resti;
 }
 
 }  // namespace
@@ -35,21 +43,23 @@ ServerMidi::~ServerMidi() {
     if (ucciso_) Avvia();
     processo_.reset();
     // Nor does it clean up after clients that were killed.
-    for (const auto& resto : std::filesystem::directory_iterator("/dev/shm"))
-        if (resto.path().filename().string().find("_" + nome_ + "_") != std::string::npos)
-            std::filesystem::remove(resto.path());
+    for (const auto& resto : Resti(nome_))
+        std::filesystem::remove(resto);
 }
 
 bool ServerMidi::Avvia() {
     ucciso_ = false;
     processo_ = std::make_unique<Processo>(
         Processo::Avvio{{"jackd", "--no-realtime", "--no-mlock", "--name", nome_, "-d", "dummy",
-                         "-r", "48000", "-p", "256"}});
-    const auto risponde = [] {
-        Processo elenco({{"jack_lsp"}});
-        return elenco.EsitoFinale() == 0;
-    };
-    return Aspetta([&] { return risponde() || !processo_->Vivo(); }) && processo_->Vivo();
+                         "-r", "48000", "-p", "1024"}});
+    // Before its files are there it can't be asked.
+    return AspettaInCartella(memoriaComune, *processo_,
+                             [this] { return !Resti(nome_).empty() && Risponde(); });
+}
+
+bool ServerMidi::Risponde() const {
+    Processo elenco({{"jack_lsp"}});
+    return elenco.EsitoFinale() == 0;
 }
 
 void ServerMidi::Uccidi() {
@@ -63,19 +73,35 @@ void ServerMidi::Sospendi() {
 }
 
 PortaRicevente::PortaRicevente(const std::string& nome)
-    : file_(cartella_.Percorso() / "messaggi"), processo_({{"jack_midi_dump", nome}, {}, file_}) {}
+    : file_(cartella_.Percorso() / "messaggi"), processo_({{CORVANA_RECEIVER, nome}, {}, file_}) {
+    AspettaInCartella(cartella_.Percorso(), processo_, [this] { return !Righe().empty(); });
+}
 
-// Asked to end, it would first wait for one more message.
+// As if it had crashed: its port must go without its help.
 PortaRicevente::~PortaRicevente() {
     processo_.Segnala(SIGKILL);
 }
 
-std::vector<std::vector<std::uint8_t>> PortaRicevente::Arrivati() const {
+std::vector<std::string> PortaRicevente::Righe() const {
     std::ifstream file(file_);
-    std::vector<std::vector<std::uint8_t>> arrivati;
+    std::vector<std::string> righe;
     for (std::string riga; std::getline(file, riga);)
-        if (!file.eof()) arrivati.push_back(Byte(riga));
+        if (!file.eof()) righe.push_back(riga);
+    return righe;
+}
+
+std::vector<std::vector<std::uint8_t>> PortaRicevente::Arrivati() const {
+    std::vector<std::vector<std::uint8_t>> arrivati;
+    for (const std::string& riga : Righe())
+        arrivati.push_back(Byte(riga));
+    // The first line, which is empty, says that the port is there.
+    if (!arrivati.empty()) arrivati.erase(arrivati.begin());
     return arrivati;
+}
+
+bool PortaRicevente::Arrivano(std::size_t quanti) const {
+    return AspettaInCartella(cartella_.Percorso(), processo_,
+                             [&] { return Arrivati().size() >= quanti; });
 }
 
 }  // namespace corvana::prova

@@ -22,6 +22,8 @@ public:
     ~ServerMidi();
     /// True when it answers.
     bool Avvia();
+    /// One exchange with the server, after which it has had time for all that it was told before.
+    bool Risponde() const;
     /// As if it had crashed.
     void Uccidi();
     /// Its process neither runs nor ends, until it is killed.
@@ -36,6 +38,7 @@ private:
 /// A program of its own with one input port.
 class PortaRicevente {
 public:
+    /// Returns when the port can be found.
     explicit PortaRicevente(const std::string& nome);
     PortaRicevente(const PortaRicevente&) = delete;
     PortaRicevente& operator=(const PortaRicevente&) = delete;
@@ -43,8 +46,12 @@ public:
 
     /// The messages that have arrived so far.
     std::vector<std::vector<std::uint8_t>> Arrivati() const;
+    /// Waits for that many; false when some seconds don't bring them.
+    bool Arrivano(std::size_t quanti) const;
 
 private:
+    std::vector<std::string> Righe() const;
+
     CartellaPropria cartella_;
     std::filesystem::path file_;
     Processo processo_;

@@ -1,16 +1,21 @@
 #include "tests/outputs/process.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sched.h>
 #include <signal.h>
 #include <stdlib.h>
+#include <sys/inotify.h>
 #include <sys/prctl.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
-#include <time.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <chrono>
+#include <span>
 #include <system_error>
 
 namespace corvana::prova {
@@ -18,6 +23,23 @@ namespace corvana::prova {
 namespace {
 
 using Cronometro = std::chrono::steady_clock;
+
+Cronometro::time_point Fra(double secondi) {
+    const std::chrono::duration<double> durata(secondi);
+    return Cronometro::now() + std::chrono::duration_cast<Cronometro::duration>(durata);
+}
+
+/// Waits until one of them can be read; false when that isn't before `limite`.
+bool Leggibile(std::span<pollfd> attesi, Cronometro::time_point limite) {
+    for (;;) {
+        const auto resto = std::max(limite - Cronometro::now(), Cronometro::duration::zero());
+        const auto ns = std::chrono::duration_cast<std::chrono::nanoseconds>(resto).count();
+        constexpr long nsAlSecondo = 1'000'000'000;
+        const timespec durata{ns / nsAlSecondo, ns % nsAlSecondo};
+        const int quanti = ppoll(attesi.data(), attesi.size(), &durata, nullptr);
+        if (quanti >= 0 || errno != EINTR) return quanti > 0;
+    }
+}
 
 std::vector<char*> Puntatori(std::vector<std::string>& testi) {
     std::vector<char*> puntatori;
@@ -48,14 +70,12 @@ std::vector<std::string> Ambiente(const std::vector<std::string>& inPiu) {
 
 }  // namespace
 
-bool Aspetta(const std::function<bool()>& condizione, double secondi) {
-    const auto fine = Cronometro::now() + std::chrono::duration<double>(secondi);
-    constexpr timespec pausa{0, 2'000'000};
-    while (!condizione()) {
-        if (Cronometro::now() > fine) return false;
-        nanosleep(&pausa, nullptr);
-    }
-    return true;
+Descrittore::Descrittore(int fd) : fd_(fd) {
+    if (fd < 0) throw std::system_error(errno, std::generic_category());
+}
+
+Descrittore::~Descrittore() {
+    close(fd_);
 }
 
 CartellaPropria::CartellaPropria() {
@@ -69,19 +89,23 @@ CartellaPropria::~CartellaPropria() {
     std::filesystem::remove_all(percorso_, errore);
 }
 
-Processo::Processo(const Avvio& avvio) {
+Processo::Processo(const Avvio& avvio)
+    : pid_(Lancia(avvio)), fine_(static_cast<int>(syscall(SYS_pidfd_open, pid_, 0))) {}
+
+pid_t Processo::Lancia(const Avvio& avvio) {
     std::vector<std::string> argomenti = avvio.argomenti;
     std::vector<std::string> ambiente = Ambiente(avvio.ambiente);
     const std::vector<char*> argv = Puntatori(argomenti);
     std::vector<char*> envp = Puntatori(ambiente);
-    pid_ = fork();
-    if (pid_ == 0) Diventa(argv.data(), envp.data(), avvio);
-    if (pid_ < 0) throw std::system_error(errno, std::generic_category(), avvio.argomenti[0]);
+    const pid_t pid = fork();
+    if (pid == 0) Diventa(argv.data(), envp.data(), avvio);
+    if (pid < 0) throw std::system_error(errno, std::generic_category(), avvio.argomenti[0]);
+    return pid;
 }
 
-bool Processo::Vivo() {
-    if (pid_ > 0 && waitpid(pid_, nullptr, WNOHANG) != 0) pid_ = 0;
-    return pid_ > 0;
+bool Processo::AspettaFine(double secondi) const {
+    std::array<pollfd, 1> fine{{{fine_, POLLIN, 0}}};
+    return Leggibile(fine, Fra(secondi));
 }
 
 int Processo::EsitoFinale() {
@@ -102,12 +126,30 @@ void Processo::DaiPrecedenza() const {
 }
 
 void Processo::Termina() {
+    if (pid_ == 0) return;
     Segnala(SIGTERM);
     Segnala(SIGCONT);
-    if (Aspetta([this] { return !Vivo(); }, 5)) return;
-    Segnala(SIGKILL);
-    waitpid(pid_, nullptr, 0);
-    pid_ = 0;
+    constexpr double pazienza = 5;
+    if (!AspettaFine(pazienza)) Segnala(SIGKILL);
+    EsitoFinale();
+}
+
+bool AspettaInCartella(const std::filesystem::path& cartella, const Processo& processo,
+                       const std::function<bool()>& condizione, double secondi) {
+    const auto limite = Fra(secondi);
+    const Descrittore novita(inotify_init1(IN_CLOEXEC | IN_NONBLOCK));
+    constexpr unsigned tutte = IN_CREATE | IN_DELETE | IN_MODIFY | IN_MOVE;
+    if (inotify_add_watch(novita, cartella.c_str(), tutte) < 0)
+        throw std::system_error(errno, std::generic_category(), cartella);
+    std::array<pollfd, 2> attesi{{{novita, POLLIN, 0}, {processo.fine_, POLLIN, 0}}};
+    while (!condizione()) {
+        const bool cambiato = Leggibile(attesi, limite);
+        // The last that a program wrote counts too.
+        if (!cambiato || attesi[1].revents != 0) return condizione();
+        std::array<char, 4096> scartate;
+        while (read(novita, scartate.data(), scartate.size()) > 0) {}
+    }
+    return true;
 }
 
 }  // namespace corvana::prova

@@ -1,6 +1,5 @@
 // Programs that a test starts and ends by their own process id: sound servers, a recorder. A
-// program dies with the test that started it. And the wait for a condition that somebody else
-// brings about.
+// program dies with the test that started it. And the wait for what such a program writes.
 #pragma once
 
 #include <sys/types.h>
@@ -12,8 +11,19 @@
 
 namespace corvana::prova {
 
-/// Waits until `condizione` holds, for `secondi` at most; returns whether it does.
-bool Aspetta(const std::function<bool()>& condizione, double secondi = 20);
+/// A descriptor of the system's, closed with the object.
+class Descrittore {
+public:
+    /// Throws `std::system_error` for what the system failed to open.
+    explicit Descrittore(int fd);
+    Descrittore(const Descrittore&) = delete;
+    Descrittore& operator=(const Descrittore&) = delete;
+    ~Descrittore();
+    operator int() const { return fd_; }
+
+private:
+    int fd_;
+};
 
 /// A folder of its own, gone with the object.
 class CartellaPropria {
@@ -43,7 +53,9 @@ public:
     Processo& operator=(const Processo&) = delete;
     ~Processo() { Termina(); }
 
-    bool Vivo();
+    bool Vivo() const { return !AspettaFine(0); }
+    /// True when it has ended, which is waited for `secondi` at most.
+    bool AspettaFine(double secondi) const;
     /// Waits for its end; its exit code, or -1 when a signal ended it.
     int EsitoFinale();
     /// Sends a signal, such as SIGSTOP or SIGKILL.
@@ -55,7 +67,17 @@ public:
     void Termina();
 
 private:
-    pid_t pid_ = 0;
+    friend bool AspettaInCartella(const std::filesystem::path& cartella, const Processo& processo,
+                                  const std::function<bool()>& condizione, double secondi);
+    static pid_t Lancia(const Avvio& avvio);
+
+    pid_t pid_;
+    Descrittore fine_;  ///< readable once it has ended
 };
+
+/// Waits until `condizione` holds, which is looked at whenever a file in `cartella` comes, goes or
+/// changes; as long as `processo` lives, and for `secondi` at most. Returns whether it holds.
+bool AspettaInCartella(const std::filesystem::path& cartella, const Processo& processo,
+                       const std::function<bool()>& condizione, double secondi = 20);
 
 }  // namespace corvana::prova

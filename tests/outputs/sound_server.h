@@ -19,6 +19,8 @@ public:
     bool Avvia();
     /// As if it had crashed.
     void Uccidi();
+    /// After `Uccidi`: waits until a program looks for the server again, which sends it away.
+    bool AspettaChiLoCerca() const;
     /// Its process neither runs nor ends, until `Riprendi`.
     void Sospendi();
     void Riprendi();
@@ -30,6 +32,8 @@ public:
     void UsaInQuestoProcesso() const;
 
 private:
+    std::filesystem::path Presa() const { return cartella_.Percorso() / "native"; }
+
     CartellaPropria cartella_;
     std::unique_ptr<Processo> processo_;
 };
@@ -39,6 +43,9 @@ public:
     /// Begins to record all that the server plays, and returns when the recording runs.
     explicit Registrazione(const ServerSonoro& server);
     bool InCorso() const { return inCorso_; }
+    /// Waits until `condizione` holds, which is looked at whenever a piece of sound has come, for
+    /// some seconds at most.
+    bool Finche(const std::function<bool()>& condizione) const;
     /// Ends it: one channel, 48000 samples each second, -1 to 1.
     std::vector<float> Ferma();
 
