@@ -43,7 +43,6 @@ void frmComposer::ListaFD() {
     lblPercorso.ToolTipText = " " + Minuscolo(percorso) + " ";
     Righe cartelle;
     Righe melodie;
-    if (percorso != "/") cartelle.emplace_back(cartellaSopra);
     for (const VoceCartella& voce : a_.file.Elenca(percorso)) {
         if (voce.cartella)
             cartelle.push_back(std::string(segnoCartella) + voce.nome);
@@ -52,6 +51,7 @@ void frmComposer::ListaFD() {
     }
     Ordina(cartelle);
     Ordina(melodie);
+    if (percorso != "/") cartelle.insert(cartelle.begin(), std::string(cartellaSopra));
     cartelle.insert(cartelle.end(), melodie.begin(), melodie.end());
     List1.Clear();
     List1.List = std::move(cartelle);

@@ -63,9 +63,16 @@ int Codice(char32_t carattere) {
                                     : static_cast<int>(primaRiga + (trovato - riga8e9.begin()));
 }
 
+/// Then it is the same in both, as nearly all of a melody file is.
+bool SoloAscii(std::string_view testo) {
+    return std::all_of(testo.begin(), testo.end(),
+                       [](char c) { return static_cast<unsigned char>(c) < primaRiga; });
+}
+
 }  // namespace
 
 std::string DaCodicePagina(std::string_view byte) {
+    if (SoloAscii(byte)) return std::string(byte);
     std::string testo;
     testo.reserve(byte.size());
     for (const char c : byte) {
@@ -77,6 +84,7 @@ std::string DaCodicePagina(std::string_view byte) {
 }
 
 std::string InCodicePagina(std::string_view testo) {
+    if (SoloAscii(testo)) return std::string(testo);
     std::string byte;
     byte.reserve(testo.size());
     while (!testo.empty()) {

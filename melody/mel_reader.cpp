@@ -34,7 +34,9 @@ private:
 
 std::string Lettore::Riga() {
     if (Finito()) throw Guasto(guastoFineFile, "Input past end of file");
-    const std::size_t fine = std::min(resto_.find_first_of("\r\n"), resto_.size());
+    const auto fine = static_cast<std::size_t>(
+        std::find_if(resto_.begin(), resto_.end(), [](char c) { return c == '\r' || c == '\n'; }) -
+        resto_.begin());
     std::string riga = DaCodicePagina(resto_.substr(0, fine));
     resto_.remove_prefix(fine);
     resto_.remove_prefix(resto_.starts_with("\r\n") ? 2 : Finito() ? 0 : 1);

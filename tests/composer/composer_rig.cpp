@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <system_error>
 
 #include "core/text.h"
 #include "melody/ticks.h"
@@ -37,6 +38,10 @@ void PonTesti(TestiLingua& testi) {
 
 std::ostream& operator<<(std::ostream& dove, const Mandato& m) {
     return dove << "{" << m.tick << ", " << m.canale << ", " << m.nota << ", " << m.velocita << "}";
+}
+
+std::string ParoleSistema(int errore) {
+    return std::generic_category().message(errore);
 }
 
 BancoComposer::BancoComposer(char separatore) : BancoComposer(file, separatore) {}

@@ -23,6 +23,9 @@ struct Mandato {
 std::ostream& operator<<(std::ostream& dove, const Mandato& mandato);
 using Mandati = std::vector<Mandato>;
 
+/// What the system says of an errno, in the language of its settings.
+std::string ParoleSistema(int errore);
+
 struct BancoComposer : Banco {
     /// Opens the window, with a device that is open. `separatore` is the decimal one.
     explicit BancoComposer(char separatore = '.');

@@ -33,6 +33,12 @@ TEST(ListaFD, ShowsTheParentThenTheFoldersThenTheMelodiesEachInOrderWithoutRegar
               (Righe{"» ..", "» alfa", "» Beta", "» beta.mel", "» Zeta", "A", "b", "c"}));
 }
 
+TEST(ListaFD, TheParentComesFirstWhateverTheFoldersAreCalled) {
+    BancoPannello b;
+    b.file.cartelle.insert("/m/!x");
+    EXPECT_EQ(b.RigheDi("/m/"), (Righe{"» ..", "» !x"}));
+}
+
 TEST(ListaFD, AFileAPointBPointMelAppearsAsAPointB) {
     BancoPannello b;
     b.file.contenuti["/m/a.b.mel"] = "";

@@ -18,15 +18,15 @@ TEST(CaricaGuasto, AMissingFileIsToldAndLeavesAnEmptyMelodyWithItsName) {
     b.PonFile("song", "");
     b.file.contenuti.erase("/programma/Melodie/Demo/song.mel");
     b.finestra.cmdEseguiFile_Click();
-    b.EsceGuasto("2\r\nNo such file or directory");
+    b.EsceGuasto("2\r\n" + ParoleSistema(ENOENT));
     EXPECT_TRUE(b.V(soprano).Vuota());
     EXPECT_TRUE(b.finestra.lstBookMark.List->empty());
 }
 
 TEST(CaricaGuasto, AFileThatCantBeReadIsToldByNumberAndText) {
-    for (const auto& [errore, testo] :
-         {std::pair(EACCES, "13\r\nPermission denied"), std::pair(EIO, "71\r\nInput/output error"),
-          std::pair(EISDIR, "21\r\nIs a directory")}) {
+    for (const auto& [errore, testo] : {std::pair(EACCES, "13\r\n" + ParoleSistema(EACCES)),
+                                        std::pair(EIO, "71\r\n" + ParoleSistema(EIO)),
+                                        std::pair(EISDIR, "21\r\n" + ParoleSistema(EISDIR))}) {
         BancoGuasti b;
         b.PonFile("song", FileDi(dueVoci));
         b.file.erroreLeggi = errore;

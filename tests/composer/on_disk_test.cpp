@@ -5,9 +5,9 @@
 
 #include "core/real_files.h"
 #include "tests/composer/composer_rig.h"
-#include "tests/composer/full_disk.h"
 #include "tests/composer/mel_lines.h"
 #include "tests/core/temporary_folder.h"
+#include "tests/support/full_disk.h"
 
 namespace corvana::prova {
 
@@ -132,7 +132,7 @@ TEST(SuDisco, AFileThatMayNotGrowLeavesTheOldFileAndTheFlag) {
         const DiscoPieno pieno(1000);
         d.b.finestra.SalvaMelodia("song");
     }
-    EXPECT_EQ(d.b.dialoghi.messaggi, Boxes{std::to_string(EFBIG) + "\r\nFile too large"});
+    EXPECT_EQ(d.b.dialoghi.messaggi, Boxes{std::to_string(EFBIG) + "\r\n" + ParoleSistema(EFBIG)});
     d.EsceRifiutata("old");
     d.b.finestra.SalvaMelodia("song");
     EXPECT_EQ(Contenuto(d.cartella.Di("song.mel")).size(), 3 * 1000U + 2 * 2000U + 3 * 2 + 6 + 6);
@@ -146,7 +146,7 @@ TEST(SuDisco, ADiskWithoutRoomIsFault61AndLeavesTheOldFileAndTheFlag) {
     d.b.Voce(soprano, "60;", "1");
     d.b.finestra.lblModificato.Visible = true;
     d.b.finestra.SalvaMelodia("song");
-    EXPECT_EQ(d.b.dialoghi.messaggi, Boxes{"61\r\nNo space left on device"});
+    EXPECT_EQ(d.b.dialoghi.messaggi, Boxes{"61\r\n" + ParoleSistema(ENOSPC)});
     d.EsceRifiutata("old");
 }
 
@@ -157,7 +157,8 @@ TEST(SuDisco, ANameThatAFolderHasIsRefusedByTheDiskAndTheFolderStays) {
     d.b.Voce(soprano, "60;", "1");
     d.b.finestra.lblModificato.Visible = true;
     d.b.finestra.SalvaMelodia("song");
-    EXPECT_EQ(d.b.dialoghi.messaggi, Boxes{std::to_string(EISDIR) + "\r\nIs a directory"});
+    EXPECT_EQ(d.b.dialoghi.messaggi,
+              Boxes{std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)});
     EXPECT_TRUE(d.b.finestra.lblModificato.Visible());
     EXPECT_EQ(Contenuto(d.cartella.Di("song.mel/inside")), "kept");
     EXPECT_EQ(d.cartella.Quanti(), 1);
@@ -170,7 +171,8 @@ TEST(SuDisco, AFolderThatLetsNothingBeWrittenLeavesTheOldFileAndTheFlag) {
     d.b.Voce(soprano, "60;", "1");
     d.b.finestra.lblModificato.Visible = true;
     d.b.finestra.SalvaMelodia("song");
-    EXPECT_EQ(d.b.dialoghi.messaggi, Boxes{std::to_string(EISDIR) + "\r\nIs a directory"});
+    EXPECT_EQ(d.b.dialoghi.messaggi,
+              Boxes{std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)});
     std::filesystem::remove(d.cartella.Di("song.mel.nuovo"));
     d.EsceRifiutata("old");
 }
@@ -195,8 +197,9 @@ TEST(SuDisco, AMissingFileAndAFolderInItsPlaceAreToldByTheSystemsWords) {
     d.b.finestra.cmdEseguiFile_Click();
     std::filesystem::create_directory(d.cartella.Di("song.mel"));
     d.b.finestra.cmdEseguiFile_Click();
-    EXPECT_EQ(d.b.dialoghi.messaggi, (Boxes{"2\r\nNo such file or directory",
-                                            std::to_string(EISDIR) + "\r\nIs a directory"}));
+    EXPECT_EQ(d.b.dialoghi.messaggi,
+              (Boxes{"2\r\n" + ParoleSistema(ENOENT),
+                     std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)}));
 }
 
 }  // namespace corvana::prova

@@ -165,7 +165,7 @@ TEST(SalvaSuSupporto, AnyOtherFaultIsToldInItsOwnWords) {
     BancoSupporto b;
     b.file.erroreScrivi = EACCES;
     b.finestra.mnuSalvaA_Click();
-    b.EsceErrore("Errore: 13\r\n\r\nPermission denied");
+    b.EsceErrore("Errore: 13\r\n\r\n" + ParoleSistema(EACCES));
 }
 
 TEST(SalvaSuSupporto, ACharacterThatTheCodePageDoesntHaveIsAFaultToo) {

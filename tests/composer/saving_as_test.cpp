@@ -148,7 +148,7 @@ TEST(SalvaConNome, AFailedSaveKeepsTheNewNameAndTheFlag) {
     BancoConNome b;
     b.file.erroreScrivi = ENOSPC;
     b.Rispondi("new");
-    EXPECT_EQ(b.dialoghi.messaggi, (Boxes{"nome?", "61\r\nNo space left on device"}));
+    EXPECT_EQ(b.dialoghi.messaggi, (Boxes{"nome?", "61\r\n" + ParoleSistema(ENOSPC)}));
     EXPECT_EQ(b.melodia.nomeMelodia, "new");
     EXPECT_EQ(b.finestra.lblNome.Caption(), "old");
     EXPECT_TRUE(b.finestra.lblModificato.Visible());

@@ -153,13 +153,10 @@ TEST(SalvaMelodia, AFolderThatDoesntExistStopsItWithoutAWord) {
 
 TEST(SalvaMelodia, WhatCantBeWrittenIsToldByNumberAndTextAndTheOldFileAndTheFlagStay) {
     const std::vector<std::pair<int, std::string>> guasti = {
-        {EACCES, "13\r\nPermission denied"},
-        {EROFS, "30\r\nRead-only file system"},
-        {ENOSPC, "61\r\nNo space left on device"},
-        {EDQUOT, "61\r\nDisk quota exceeded"},
-        {ENXIO, "71\r\nNo such device or address"},
-        {EIO, "71\r\nInput/output error"},
-        {EISDIR, "21\r\nIs a directory"}};
+        {EACCES, "13\r\n" + ParoleSistema(EACCES)}, {EROFS, "30\r\n" + ParoleSistema(EROFS)},
+        {ENOSPC, "61\r\n" + ParoleSistema(ENOSPC)}, {EDQUOT, "61\r\n" + ParoleSistema(EDQUOT)},
+        {ENXIO, "71\r\n" + ParoleSistema(ENXIO)},   {EIO, "71\r\n" + ParoleSistema(EIO)},
+        {EISDIR, "21\r\n" + ParoleSistema(EISDIR)}};
     for (const auto& [errore, testo] : guasti) {
         BancoSalva b;
         b.PonFile("song", "old");

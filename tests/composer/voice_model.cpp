@@ -1,5 +1,7 @@
 #include "tests/composer/voice_model.h"
 
+#include <rapidcheck.h>
+
 #include <algorithm>
 #include <map>
 #include <numeric>
@@ -112,7 +114,7 @@ Mandati MandatiVoce(const VoceModello& voce, int canale, int volume, const Entra
 
 Mandati MandatiPulsi(const MelodiaModello& m, int inizio) {
     const std::string_view lettere = LetterePulsi(std::to_string(m.pulsazioni));
-    std::size_t pulso = static_cast<std::size_t>(m.primoPulso - 1);
+    auto pulso = static_cast<std::size_t>(m.primoPulso - 1);
     int fine = m.tickPulso;
     if (m.prima == 0 && !m.Intera()) pulso = 0;
     // The range's first tick belongs to the pulse that the next tick belongs to.

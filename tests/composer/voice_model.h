@@ -2,8 +2,6 @@
 // one in which it is released, worked out from the notes before it.
 #pragma once
 
-#include <rapidcheck.h>
-
 #include <array>
 #include <vector>
 

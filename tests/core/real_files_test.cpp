@@ -1,14 +1,13 @@
 #include "core/real_files.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
-#include <csignal>
 #include <fstream>
 
 #include "core/settings.h"
 #include "tests/core/temporary_folder.h"
+#include "tests/support/full_disk.h"
 #include "tests/support/scripted_dialogs.h"
 
 namespace corvana::prova {
@@ -19,26 +18,6 @@ std::string Contenuto(const std::string& percorso) {
     std::ifstream file(percorso, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
-
-/// While it lives no file of this process may grow beyond `byte`: the disk seems full.
-class DiscoPieno {
-public:
-    explicit DiscoPieno(rlim_t byte) : segnale_(std::signal(SIGXFSZ, SIG_IGN)) {
-        getrlimit(RLIMIT_FSIZE, &limite_);
-        const rlimit stretto{byte, limite_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &stretto);
-    }
-    DiscoPieno(const DiscoPieno&) = delete;
-    DiscoPieno& operator=(const DiscoPieno&) = delete;
-    ~DiscoPieno() {
-        setrlimit(RLIMIT_FSIZE, &limite_);
-        std::signal(SIGXFSZ, segnale_);
-    }
-
-private:
-    rlimit limite_{};
-    void (*segnale_)(int);
-};
 
 }  // namespace
 
