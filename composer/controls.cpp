@@ -16,7 +16,8 @@ constexpr int pulsiDisegnati = 8;
 constexpr std::array coloriVoci = {Rgb(216, 252, 255), Rgb(197, 247, 241), Rgb(252, 241, 171),
                                    Rgb(255, 224, 163)};
 
-/// The geometry that the cursors' movements are measured in; in twips.
+/// The places that movements are measured from, in twips, and the texts before a language is
+/// applied.
 constexpr std::array posti = {
     Posto{"frmComposer", 0, 0, 0, 0, "Composizione melodie e armonie"},
     Posto{"mnuPiano", 0, 0, 0, 0, "Pianoforte"},

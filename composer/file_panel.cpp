@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "composer/composer.h"
+#include "composer/ranges.h"
 #include "core/text.h"
 
 namespace corvana {
@@ -10,12 +11,15 @@ namespace {
 
 constexpr std::string_view segnoCartella = "» ";
 constexpr std::string_view cartellaSopra = "» ..";
-constexpr std::string_view estensione = ".mel";
 
 void Ordina(Righe& righe) {
     std::stable_sort(righe.begin(), righe.end(), [](const std::string& a, const std::string& b) {
         return Minuscolo(a) < Minuscolo(b);
     });
+}
+
+std::string SenzaEstensione(const std::string& nome) {
+    return nome.substr(0, nome.rfind('.'));
 }
 
 void Entra(std::string& percorso, std::string_view riga) {
@@ -46,8 +50,8 @@ void frmComposer::ListaFD() {
     for (const VoceCartella& voce : a_.file.Elenca(percorso)) {
         if (voce.cartella)
             cartelle.push_back(std::string(segnoCartella) + voce.nome);
-        else if (voce.nome.ends_with(estensione))
-            melodie.push_back(voce.nome.substr(0, voce.nome.size() - estensione.size()));
+        else if (voce.nome.ends_with(estensioneMelodia))
+            melodie.push_back(SenzaEstensione(voce.nome));
     }
     Ordina(cartelle);
     Ordina(melodie);

@@ -1,19 +1,14 @@
 // Saving: into the current folder, under a new name, and onto a removable medium.
 #include "composer/composer.h"
+#include "composer/ranges.h"
 #include "core/file_faults.h"
+#include "core/text.h"
 #include "melody/names.h"
-#include "melody/numbers.h"
 
 namespace corvana {
 
-namespace {
-
-constexpr const char* estensione = ".mel";
-
-}  // namespace
-
 std::string frmComposer::Percorso(const std::string& nome) const {
-    return a_.globali.percorsoCorrente + nome + estensione;
+    return a_.globali.percorsoCorrente + nome + estensioneMelodia;
 }
 
 void frmComposer::ScriviIn(const std::string& percorso) {
@@ -78,7 +73,7 @@ void frmComposer::mnuSalvaA_Click() {
         a_.dialoghi.MsgBox(a_.globali.testi.msgNomeMelodiaErrato);
         return;
     }
-    const std::string nomeFile = melodia.nomeMelodia + estensione;
+    const std::string nomeFile = melodia.nomeMelodia + estensioneMelodia;
     MousePointer = puntatoreAttesa;
     try {
         ScriviSulSupporto(nomeFile);

@@ -13,7 +13,7 @@ namespace {
 
 using Limiti = std::numeric_limits<std::int32_t>;
 
-std::int32_t NumeroStrumento(const std::string& testo) {
+std::int32_t NumeroLetto(const std::string& testo) {
     return static_cast<std::int32_t>(NumeroIntero(testo, Limiti::min(), Limiti::max()));
 }
 
@@ -54,7 +54,7 @@ void frmComposer::PrendiLettura(const LetturaMel& letta) {
     if (letta.conRiferimenti) frBookMark.Visible = true;
     for (const BloccoMel& blocco : letta.blocchi) {
         VoceMelodia& voce = melodia.voci[blocco.voce];
-        voce.strumento = NumeroStrumento(blocco.strumento);
+        voce.strumento = NumeroLetto(blocco.strumento);
         PrendiTesti(voce, blocco.testi);
     }
     if (letta.guasto) throw Guasto(*letta.guasto);
@@ -64,11 +64,11 @@ void frmComposer::PrendiLettura(const LetturaMel& letta) {
 void frmComposer::PrendiMetronomo(const std::vector<std::string>& campi) {
     Pulsazioni.PonTesto(Elemento(campi, 1));
     DurataPulsazioni.PonTesto(Elemento(campi, 2));
-    InizioPuls.PonValore(NumeroStrumento(Elemento(campi, 3)));
+    InizioPuls.PonValore(NumeroLetto(Elemento(campi, 3)));
 }
 
 void frmComposer::PrendiStrumenti(const std::string& delSoprano) {
-    melodia.voci[soprano].strumento = NumeroStrumento(delSoprano);
+    melodia.voci[soprano].strumento = NumeroLetto(delSoprano);
     for (std::size_t voce = 0; voce < numeroVoci; ++voce) {
         const std::int32_t programma = melodia.voci[voce].strumento;
         if (voce == soprano || programma >= 0)
@@ -88,7 +88,7 @@ bool frmComposer::PrendiSoprano(const std::string& tempo) {
         return false;
     }
     LblNoteString.Caption = NomiFino(voce, voce.numeroNote);
-    Slider1.PonValore(NumeroStrumento(tempo));
+    Slider1.PonValore(NumeroLetto(tempo));
     lblNt.Caption = std::to_string(voce.numeroNote);
     voce.primaNota = 0;
     voce.ultimaNota = static_cast<std::int16_t>(voce.numeroNote - 1);

@@ -16,12 +16,6 @@ public:
     void Suona();
 
 private:
-    /// Where a voice begins in each round of a partial play.
-    struct Inizio {
-        std::int16_t posizione = 0;
-        Tick trascorsi = 0;
-    };
-
     void Comincia();
     void BloccaComandi(bool bloccati);
     void PreparaVoci();
@@ -57,7 +51,7 @@ private:
     Tick limiteTick_ = 0;
     Tick tickPulso_ = 0;
     Tick tick_ = 0;
-    std::array<Inizio, numeroVoci> inizi_;
+    std::array<PuntoVoce, numeroVoci> inizi_;  ///< where each voice begins in every round
     StatoPulso inizioPulso_;
 };
 

@@ -67,11 +67,7 @@ bool Esecuzione::Intera() const {
 
 void Esecuzione::ScegliTratto() {
     stato_.parziale = !Intera();
-    inizioPulso_ = {};
-    if (!stato_.parziale) {
-        inizioPulso_.pulsoCorrente = f_.pulsoIniziale;
-        return;
-    }
+    if (!stato_.parziale) return;
     stato_.tickFineRange = f_.TickFinoANota(ultimaNota_);
     stato_.tickPrimaInizio = f_.TickFinoANota(static_cast<std::int16_t>(primaNota_ - 1));
     if (primaNota_ == 0)
@@ -83,9 +79,8 @@ void Esecuzione::ScegliTratto() {
 void Esecuzione::PreparaParziale() {
     limiteTick_ = stato_.tickFineRange - stato_.tickPrimaInizio - 1;
     for (std::size_t voce = soprano + 1; voce < numeroVoci; ++voce) {
-        const auto punto =
+        inizi_[voce] =
             CercaPunto(f_.melodia.voci[voce].durateVoce, Note(voce), stato_.tickPrimaInizio);
-        inizi_[voce] = {punto.posizione, punto.trascorsi};
     }
     if (f_.metroAttivo)
         inizioPulso_ =

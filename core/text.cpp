@@ -18,10 +18,14 @@ std::vector<std::string> Dividi(std::string_view testo, char separatore) {
     }
 }
 
-long NumeroIntero(std::string_view testo, long basso, long alto) {
+std::string_view SenzaBlanchi(std::string_view testo) {
     const std::size_t primo = testo.find_first_not_of(' ');
-    if (primo == std::string_view::npos) throw Guasto(guastoTipo, "Type mismatch");
-    testo = testo.substr(primo, testo.find_last_not_of(' ') - primo + 1);
+    if (primo == std::string_view::npos) return {};
+    return testo.substr(primo, testo.find_last_not_of(' ') - primo + 1);
+}
+
+long NumeroIntero(std::string_view testo, long basso, long alto) {
+    testo = SenzaBlanchi(testo);
     long numero = 0;
     const auto [fine, errore] = std::from_chars(testo.data(), testo.data() + testo.size(), numero);
     if (errore == std::errc::invalid_argument || fine != testo.data() + testo.size())

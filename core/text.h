@@ -10,6 +10,9 @@ namespace corvana {
 /// The fields between the separators: n separators give n + 1 fields, an empty text gives none.
 std::vector<std::string> Dividi(std::string_view testo, char separatore);
 
+/// `testo` without its outer blanks.
+std::string_view SenzaBlanchi(std::string_view testo);
+
 /// The whole number that the text means, outer blanks ignored. Throws `Guasto` 13 when it isn't a
 /// number and `Guasto` 6 when it doesn't lie in `basso` to `alto`.
 long NumeroIntero(std::string_view testo, long basso, long alto);

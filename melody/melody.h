@@ -17,7 +17,7 @@
 namespace corvana {
 
 constexpr std::size_t numeroVoci = 4;
-constexpr std::size_t soprano = 0;
+constexpr std::size_t soprano = 0, contralto = 1, tenore = 2, basso = 3;
 /// In the order in which voices are always walked.
 constexpr std::array<std::string_view, numeroVoci> nomiVoci = {"soprano", "contralto", "tenore",
                                                                "basso"};

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "core/text.h"
 #include "forms/fault.h"
 
 namespace corvana {
@@ -41,12 +42,6 @@ std::string CampoNumero(long numero) {
 
 std::int64_t ArrotondaAlPari(double numero) {
     return std::llrint(std::clamp(numero, -limiteArrotonda, limiteArrotonda));
-}
-
-std::string_view SenzaBlanchi(std::string_view testo) {
-    const std::size_t primo = testo.find_first_not_of(' ');
-    if (primo == std::string_view::npos) return {};
-    return testo.substr(primo, testo.find_last_not_of(' ') - primo + 1);
 }
 
 }  // namespace corvana

@@ -24,7 +24,4 @@ std::int64_t ArrotondaAlPari(double numero);
 /// Far beyond any music, and far enough from the end of 64 bits that sums of it don't reach it.
 constexpr double limiteArrotonda = 1LL << 46;
 
-/// `testo` without its outer blanks.
-std::string_view SenzaBlanchi(std::string_view testo);
-
 }  // namespace corvana

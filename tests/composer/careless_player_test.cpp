@@ -5,16 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/seed.h"
+
 namespace corvana::prova {
-
-namespace {
-
-std::uint32_t Seme() {
-    if (!GTEST_FLAG_GET(shuffle)) return 1;
-    return static_cast<std::uint32_t>(testing::UnitTest::GetInstance()->random_seed());
-}
-
-}  // namespace
 
 TEST(SuonatoreDistratto, NothingFailsNothingHangsAndNothingSoundsWhenNothingIsUnderWay) {
     SuonatoreDistratto utente(Seme(), 40000);

@@ -9,10 +9,6 @@
 
 namespace corvana::prova {
 
-constexpr std::size_t contralto = 1;
-constexpr std::size_t tenore = 2;
-constexpr std::size_t basso = 3;
-
 inline const Linee soloSoprano = {"60;62;", "1;1;", "n;n;", " 60 ", " 16 "};
 
 struct BancoCarica : BancoComposer {

@@ -7,8 +7,6 @@ namespace corvana::prova {
 
 namespace {
 
-constexpr std::size_t contralto = 1;
-constexpr std::size_t basso = 3;
 constexpr Colore verde = Rgb(0, 255, 0);
 constexpr Colore rosso = Rgb(255, 0, 0);
 

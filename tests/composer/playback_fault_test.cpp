@@ -9,8 +9,6 @@ namespace corvana::prova {
 
 namespace {
 
-constexpr std::size_t contralto = 1;
-
 struct BancoGuasto : BancoComposer {
     /// Plays by a click; the boxes that it made.
     std::vector<std::string> Messaggi() {

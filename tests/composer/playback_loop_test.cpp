@@ -9,8 +9,6 @@ namespace corvana::prova {
 
 namespace {
 
-constexpr std::size_t contralto = 1;
-constexpr std::size_t tenore = 2;
 constexpr double tick = 0.031;
 constexpr double pausa = 0.502;
 

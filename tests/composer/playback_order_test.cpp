@@ -7,10 +7,6 @@ namespace corvana::prova {
 
 namespace {
 
-constexpr std::size_t contralto = 1;
-constexpr std::size_t tenore = 2;
-constexpr std::size_t basso = 3;
-
 /// A window whose messages bear, in place of an instant, how many changes of its controls had been
 /// told before them.
 struct BancoOrdine : Banco {

@@ -8,10 +8,6 @@ namespace corvana::prova {
 
 namespace {
 
-constexpr std::size_t contralto = 1;
-constexpr std::size_t tenore = 2;
-constexpr std::size_t basso = 3;
-
 /// Six quarter notes in the soprano.
 struct BancoTratto : BancoComposer {
     BancoTratto() { Voce(soprano, "60;62;64;65;67;69;", "1"); }

@@ -11,8 +11,6 @@ namespace corvana::prova {
 
 namespace {
 
-constexpr std::size_t contralto = 1;
-
 struct BancoStato : BancoComposer {
     BancoStato() {
         Voce(soprano, "60;00;62;", "0.25;0.25;0.25;", "n;p;n;");

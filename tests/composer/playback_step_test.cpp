@@ -7,8 +7,6 @@ namespace corvana::prova {
 
 namespace {
 
-constexpr std::size_t contralto = 1;
-
 struct BancoPasso : BancoComposer {
     BancoPasso() {
         Voce(soprano, "60;62;64;", "1");

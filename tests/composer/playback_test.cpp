@@ -7,13 +7,6 @@
 
 namespace corvana::prova {
 
-namespace {
-
-constexpr std::size_t contralto = 1;
-constexpr std::size_t basso = 3;
-
-}  // namespace
-
 TEST(Riproduzione, AtTempo60AQuarterIs32TicksWithItsNoteOnInTheFirstAndItsNoteOffInTheLast) {
     BancoComposer b;
     b.Voce(soprano, "60;62;", "1");

@@ -7,9 +7,6 @@ namespace corvana::prova {
 
 namespace {
 
-constexpr std::size_t contralto = 1;
-constexpr std::size_t basso = 3;
-
 /// One note of 8 ticks, 0.248 seconds.
 struct BancoRitardo : BancoComposer {
     BancoRitardo() { Voce(soprano, "60;", "0.25"); }

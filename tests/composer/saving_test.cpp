@@ -8,10 +8,6 @@ namespace corvana::prova {
 
 namespace {
 
-constexpr std::size_t contralto = 1;
-constexpr std::size_t tenore = 2;
-constexpr std::size_t basso = 3;
-
 using Boxes = std::vector<std::string>;
 
 /// Two notes in the soprano, changed since they were saved, by instrument 16 at tempo 60.

@@ -10,8 +10,6 @@ namespace corvana::prova {
 
 namespace {
 
-constexpr std::size_t contralto = 1;
-
 std::string Ripetuto(const std::string& token, int volte) {
     std::string testo;
     for (int i = 0; i < volte; ++i)

@@ -104,4 +104,12 @@ TEST(Minuscolo, ChangesTheLettersAToZAndNothingElse) {
     EXPECT_EQ(Minuscolo("PERCHÉ"), "perchÉ");
 }
 
+TEST(SenzaBlanchi, TakesTheOuterBlanksAndNoInnerOne) {
+    EXPECT_EQ(SenzaBlanchi("  a b "), "a b");
+    EXPECT_EQ(SenzaBlanchi("a"), "a");
+    EXPECT_EQ(SenzaBlanchi(""), "");
+    EXPECT_EQ(SenzaBlanchi("   "), "");
+    EXPECT_EQ(SenzaBlanchi("\t16\t"), "\t16\t");
+}
+
 }  // namespace corvana::prova

@@ -10,8 +10,6 @@ namespace corvana::prova {
 
 namespace {
 
-constexpr std::size_t contralto = 1, tenore = 2, basso = 3;
-
 VoceMelodia Voce(const std::string& note, const std::string& durate, const std::string& attributi,
                  int strumento) {
     VoceMelodia voce;

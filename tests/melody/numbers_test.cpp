@@ -152,12 +152,4 @@ RC_GTEST_PROP(ArrotondaAlPari, IsNeverFurtherThanAHalfAndAtAHalfEven, ()) {
     RC_ASSERT(lontano < 0.5 || intero % 2 == 0);
 }
 
-TEST(SenzaBlanchi, TakesTheOuterBlanksAndNoInnerOne) {
-    EXPECT_EQ(SenzaBlanchi("  a b "), "a b");
-    EXPECT_EQ(SenzaBlanchi("a"), "a");
-    EXPECT_EQ(SenzaBlanchi(""), "");
-    EXPECT_EQ(SenzaBlanchi("   "), "");
-    EXPECT_EQ(SenzaBlanchi("\t16\t"), "\t16\t");
-}
-
 }  // namespace corvana::prova

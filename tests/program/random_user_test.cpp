@@ -5,6 +5,7 @@
 #include <random>
 
 #include "tests/program/program_rig.h"
+#include "tests/support/seed.h"
 
 namespace corvana::prova {
 
@@ -102,11 +103,6 @@ private:
     int rimasti_;
     std::unique_ptr<BancoProgramma> banco_;
 };
-
-std::uint32_t Seme() {
-    if (!GTEST_FLAG_GET(shuffle)) return 1;
-    return static_cast<std::uint32_t>(testing::UnitTest::GetInstance()->random_seed());
-}
 
 }  // namespace
 

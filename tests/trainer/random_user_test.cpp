@@ -3,18 +3,10 @@
 // which starts from a seed of the clock, told with a failure, or from that of --gtest_random_seed.
 #include <gtest/gtest.h>
 
+#include "tests/support/seed.h"
 #include "tests/trainer/careless_user.h"
 
 namespace corvana::prova {
-
-namespace {
-
-std::uint32_t Seme() {
-    if (!GTEST_FLAG_GET(shuffle)) return 1;
-    return static_cast<std::uint32_t>(testing::UnitTest::GetInstance()->random_seed());
-}
-
-}  // namespace
 
 TEST(UtenteDistratto, NothingFailsNothingHangsAndNoNoteSoundsWhenTheWindowIsClosed) {
     UtenteDistratto utente(Seme(), 100000);

@@ -1,0 +1,17 @@
+// The seed of a test that draws by chance. It is 1; shuffled, as with
+//   --gtest_shuffle --gtest_repeat=50
+// it is one of the clock's, told with a failure, or that of --gtest_random_seed.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+
+namespace corvana::prova {
+
+inline std::uint32_t Seme() {
+    if (!GTEST_FLAG_GET(shuffle)) return 1;
+    return static_cast<std::uint32_t>(testing::UnitTest::GetInstance()->random_seed());
+}
+
+}  // namespace corvana::prova
