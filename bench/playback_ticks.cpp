@@ -17,6 +17,7 @@
 #include "desktop/remote_mirror.h"
 #include "forms/real_clock.h"
 #include "forms/virtual_clock.h"
+#include "realtime/punctuality.h"
 #include "sound/outputs/real_outputs.h"
 #include "sound/recorder.h"
 #include "tests/hearing/melody_stage.h"
@@ -39,6 +40,7 @@ class OrologioMisurato final : public Orologio {
 public:
     explicit OrologioMisurato(Orologio& orologio) : orologio_(orologio) {}
     double Adesso() const override { return orologio_.Adesso(); }
+    double Calcolato() const override { return orologio_.Calcolato(); }
     int OraDelGiorno() const override { return orologio_.OraDelGiorno(); }
     void AspettaFino(double fino) override {
         const double fine = Segna(CLOCK_MONOTONIC);

@@ -15,6 +15,9 @@ public:
 
     /// Monotonic, in seconds from an instant of the clock's own.
     virtual double Adesso() const = 0;
+    /// Processor time, in seconds, that the calling thread has used so far: it stands still while
+    /// the system has the thread wait, whatever for.
+    virtual double Calcolato() const = 0;
     /// Local time of day, in whole seconds since midnight, 0 to 86399.
     virtual int OraDelGiorno() const = 0;
     /// Returns at the instant `fino`, or at once when it has passed. Delivers nothing.

@@ -22,6 +22,9 @@ public:
         consegna_ = std::move(consegna);
     }
 
+    /// Called before each event that is taken; may be empty.
+    void PonSveglia(std::function<void()> sveglia) { sveglia_ = std::move(sveglia); }
+
     /// Delivers all events that wait, nested on this stack. No time passes.
     void PompaEventi();
     /// Lets time pass until an event waits or the instant `fino` comes, then as `PompaEventi`.
@@ -31,17 +34,25 @@ public:
     /// Lets `ms` + `granularitaSleep` milliseconds pass and delivers nothing.
     void Sleep(int ms);
 
-    /// The instant that the logic stands at, in seconds: after a wait that the system ended a
-    /// little late, the instant at which it should have ended.
+    /// The instant that the logic stands at, in seconds: the one that its last wait asked for,
+    /// plus what it has computed since when that is more than 2 ms. What the system withholds from
+    /// it meanwhile isn't lost but made up, up to a quarter of a second; whoever is stopped for
+    /// longer goes on from the clock's instant.
     double Adesso() const;
     /// Local time of day in whole seconds since midnight.
     int OraDelGiorno() const { return orologio_.OraDelGiorno(); }
 
 private:
+    /// A wait has ended, on the logic's timeline at `istante`.
+    void Riprendi(double istante);
+
     Orologio& orologio_;
     CodaEventi& coda_;
     std::function<void(const Evento&)> consegna_;
-    double scadenza_ = -perSempre;
+    std::function<void()> sveglia_;
+    double istante_ = -perSempre;  ///< the instant that the last wait asked for
+    double risveglio_ = 0;         ///< the clock's when that wait had ended
+    double calcolato_ = 0;         ///< the processor time used until then
 };
 
 }  // namespace corvana

@@ -1,9 +1,5 @@
 #include "forms/real_clock.h"
 
-#include <pthread.h>
-#include <sched.h>
-#include <sys/prctl.h>
-
 #include <cerrno>
 #include <cmath>
 #include <ctime>
@@ -14,6 +10,12 @@ namespace {
 
 constexpr double nanosecondi = 1e9;
 
+double Leggi(clockid_t orologio) {
+    timespec ora{};
+    clock_gettime(orologio, &ora);
+    return static_cast<double>(ora.tv_sec) + static_cast<double>(ora.tv_nsec) / nanosecondi;
+}
+
 timespec InTimespec(double secondi) {
     const double interi = std::floor(secondi);
     return {static_cast<time_t>(interi), static_cast<long>((secondi - interi) * nanosecondi)};
@@ -22,9 +24,11 @@ timespec InTimespec(double secondi) {
 }  // namespace
 
 double OrologioReale::Adesso() const {
-    timespec ora{};
-    clock_gettime(CLOCK_MONOTONIC, &ora);
-    return static_cast<double>(ora.tv_sec) + static_cast<double>(ora.tv_nsec) / nanosecondi;
+    return Leggi(CLOCK_MONOTONIC);
+}
+
+double OrologioReale::Calcolato() const {
+    return Leggi(CLOCK_THREAD_CPUTIME_ID);
 }
 
 int OrologioReale::OraDelGiorno() const {
@@ -41,13 +45,6 @@ void OrologioReale::AspettaFino(double fino) {
 
 void OrologioReale::AspettaEvento(CodaEventi& coda, double fino) {
     coda.Aspetta(fino);
-}
-
-void PreferisciPuntualita() {
-    prctl(PR_SET_TIMERSLACK, 1UL);
-    sched_param minima{};
-    minima.sched_priority = sched_get_priority_min(SCHED_RR);
-    pthread_setschedparam(pthread_self(), SCHED_RR | SCHED_RESET_ON_FORK, &minima);
 }
 
 }  // namespace corvana

@@ -27,6 +27,7 @@ bool OrologioVirtuale::EseguiPasso(double fino) {
 }
 
 void OrologioVirtuale::AspettaFino(double fino) {
+    if (fino > adesso_ && ritardo_) fino += ritardo_();
     while (EseguiPasso(fino)) {}
     adesso_ = std::max(adesso_, fino);
 }
@@ -35,8 +36,7 @@ void OrologioVirtuale::AspettaEvento(CodaEventi& coda, double fino) {
     while (coda.Vuota()) {
         if (EseguiPasso(fino)) continue;
         if (passi_.empty()) throw FineCopione{};
-        adesso_ = std::max(adesso_, fino);
-        return;
+        return AspettaFino(fino);
     }
 }
 

@@ -19,9 +19,12 @@ public:
     /// `passo` runs when time reaches `istante`; of equal instants the older one runs first. A step
     /// may add further steps.
     void Quando(double istante, Passo passo);
+    /// By how many seconds each wait for an instant ends late from now on, as on a busy machine.
+    void PonRitardo(std::function<double()> ritardo) { ritardo_ = std::move(ritardo); }
     void PonOraDelGiorno(int secondi) { mezzanotte_ = secondi - adesso_; }
 
     double Adesso() const override { return adesso_; }
+    double Calcolato() const override { return 0; }
     int OraDelGiorno() const override;
     void AspettaFino(double fino) override;
     void AspettaEvento(CodaEventi& coda, double fino) override;
@@ -32,6 +35,7 @@ private:
 
     double adesso_ = 0;
     double mezzanotte_ = 12 * 3600;
+    std::function<double()> ritardo_;
     std::multimap<double, Passo> passi_;
 };
 

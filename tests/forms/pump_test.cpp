@@ -15,7 +15,14 @@ class OrologioTardo final : public Orologio {
 public:
     double adesso = 100;
     double ritardo = 0;
+    double calcolato = 7;
     double Adesso() const override { return adesso; }
+    double Calcolato() const override { return calcolato; }
+    /// The logic computes for so long.
+    void Calcola(double secondi) {
+        adesso += secondi;
+        calcolato += secondi;
+    }
     int OraDelGiorno() const override { return 4711; }
     void AspettaFino(double fino) override { adesso = std::max(adesso, fino + ritardo); }
     void AspettaEvento(CodaEventi& coda, double fino) override {
@@ -40,46 +47,96 @@ struct BancoTardo {
 
 }  // namespace
 
-TEST(Pompa, ForgivesALatenessBelowTwoMilliseconds) {
+TEST(Pompa, ALateWaitEndsAtTheInstantThatItAskedForUpToAQuarterOfASecond) {
+    for (const double ritardo : {0.001, 0.03, 0.24}) {
+        BancoTardo b;
+        b.orologio.ritardo = ritardo;
+        b.pompa.Attendi(1);
+        EXPECT_DOUBLE_EQ(b.pompa.Adesso(), 101) << ritardo;
+    }
+}
+
+TEST(Pompa, TwoHundredLateWaitsLoseNothing) {
+    for (const double ritardo : {0.0015, 0.03, 0.24}) {
+        BancoTardo b;
+        b.orologio.ritardo = ritardo;
+        for (int i = 0; i < 200; ++i)
+            b.pompa.Attendi(0.1);
+        EXPECT_NEAR(b.pompa.Adesso(), 120, 1e-9);
+        EXPECT_NEAR(b.orologio.adesso, 120 + ritardo, 1e-9);
+    }
+}
+
+TEST(Pompa, WhoIsStoppedForLongerGoesOnFromTheClocksInstant) {
     BancoTardo b;
-    b.orologio.ritardo = 0.0019;
+    b.orologio.ritardo = 2;
     b.pompa.Attendi(1);
+    EXPECT_DOUBLE_EQ(b.pompa.Adesso(), 103);
+    b.orologio.ritardo = 0;
+    b.pompa.Attendi(1);
+    EXPECT_DOUBLE_EQ(b.pompa.Adesso(), 104);
+    EXPECT_DOUBLE_EQ(b.orologio.adesso, 104);
+}
+
+TEST(Pompa, ABoxThatStandsForAWhileAfterAWaitTakesItsTime) {
+    BancoTardo b;
+    b.pompa.Attendi(1);
+    b.orologio.adesso += 0.5;
+    EXPECT_DOUBLE_EQ(b.pompa.Adesso(), 101.5);
+}
+
+TEST(Pompa, ComputingUpToTwoMillisecondsTakesNoTime) {
+    BancoTardo b;
+    b.orologio.ritardo = 0.03;
+    b.pompa.Attendi(1);
+    b.orologio.Calcola(0.0019);
     EXPECT_DOUBLE_EQ(b.pompa.Adesso(), 101);
 }
 
-TEST(Pompa, TwoHundredLateWaitsDriftByNothing) {
+TEST(Pompa, LongerComputingTakesItsTimeAndTheLatenessBeforeItIsStillMadeUp) {
     BancoTardo b;
-    b.orologio.ritardo = 0.0015;
-    for (int i = 0; i < 200; ++i)
-        b.pompa.Attendi(0.1);
-    EXPECT_NEAR(b.pompa.Adesso(), 120, 1e-9);
-    EXPECT_NEAR(b.orologio.adesso, 120.0015, 1e-9);
-}
-
-TEST(Pompa, ALongerLatenessIsLostAndIsntMadeUp) {
-    BancoTardo b;
-    b.orologio.ritardo = 0.005;
+    b.orologio.ritardo = 0.03;
     b.pompa.Attendi(1);
-    EXPECT_DOUBLE_EQ(b.pompa.Adesso(), 101.005);
+    b.orologio.Calcola(0.01);
+    EXPECT_DOUBLE_EQ(b.pompa.Adesso(), 101.01);
     b.orologio.ritardo = 0;
     b.pompa.Attendi(1);
-    EXPECT_DOUBLE_EQ(b.pompa.Adesso(), 102.005);
+    EXPECT_DOUBLE_EQ(b.orologio.adesso, 102.01);
 }
 
-TEST(Pompa, TimeThatPassesAfterAWaitCountsAgain) {
+TEST(Pompa, WhatTheSystemWithholdsWhileItComputesIsMadeUpToo) {
     BancoTardo b;
-    b.orologio.ritardo = 0.001;
     b.pompa.Attendi(1);
-    b.orologio.adesso += 0.5;
-    EXPECT_DOUBLE_EQ(b.pompa.Adesso(), 101.501);
+    b.orologio.Calcola(0.001);
+    b.orologio.adesso += 0.1;
+    EXPECT_DOUBLE_EQ(b.pompa.Adesso(), 101);
+    b.pompa.Attendi(1);
+    EXPECT_DOUBLE_EQ(b.orologio.adesso, 102);
 }
 
-TEST(Pompa, AWaitForAnEventThatEndsAtItsInstantIsForgivenItsLatenessToo) {
+TEST(Pompa, AWaitForAnEventThatEndsAtItsInstantLosesNothingEither) {
     BancoTardo b;
-    b.orologio.ritardo = 0.0015;
+    b.orologio.ritardo = 0.03;
     for (int i = 1; i <= 200; ++i)
         b.pompa.AttendiEvento(b.pompa.Adesso() + 0.1);
     EXPECT_NEAR(b.pompa.Adesso(), 120, 1e-9);
+}
+
+TEST(Pompa, AnEventFoundAfterTheInstantOfTheWaitDoesntDelayThatInstant) {
+    BancoTardo b;
+    b.orologio.ritardo = 0.03;
+    b.pompa.Attendi(1);
+    b.Aggiungi(1);
+    b.pompa.AttendiEvento(101.01);
+    EXPECT_EQ(b.consegnati.size(), 1U);
+    EXPECT_DOUBLE_EQ(b.pompa.Adesso(), 101.01);
+}
+
+TEST(Pompa, TimeNeverRunsBackThoughTheInstantOfAWaitHasPassed) {
+    BancoTardo b;
+    b.pompa.Attendi(1);
+    b.pompa.AttendiEvento(100.5);
+    EXPECT_DOUBLE_EQ(b.pompa.Adesso(), 101);
 }
 
 TEST(Pompa, AnEventCutsTheWaitAndTimeIsWhatTheClockSays) {

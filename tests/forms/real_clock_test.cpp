@@ -49,9 +49,12 @@ TEST(OrologioReale, TheTimeOfDayLiesWithinADay) {
     EXPECT_LT(orologio.OraDelGiorno(), 86400);
 }
 
-TEST(PreferisciPuntualita, IsHarmlessWhereTheUserMayNotAskForIt) {
-    // In a thread of its own: the wish belongs to the thread that makes it.
-    std::async(std::launch::async, [] { PreferisciPuntualita(); }).get();
+TEST(OrologioReale, AWaitComputesNextToNothing) {
+    OrologioReale orologio;
+    const double prima = orologio.Calcolato();
+    orologio.AspettaFino(orologio.Adesso() + 0.05);
+    EXPECT_LT(orologio.Calcolato() - prima, 0.05);
+    EXPECT_GE(orologio.Calcolato(), prima);
 }
 
 }  // namespace corvana::prova
