@@ -7,6 +7,7 @@
 #include "core/real_files.h"
 #include "desktop/application.h"
 #include "desktop/program.h"
+#include "realtime/punctuality.h"
 #include "sound/outputs/real_outputs.h"
 
 namespace {
@@ -29,9 +30,11 @@ Macchina QuestaMacchina() {
         NellaCartella(QStandardPaths::GenericConfigLocation, "settings");
     macchina.percorsoBlocco = NellaCartella(QStandardPaths::GenericCacheLocation, "lock");
     macchina.uscite = [cartella = macchina.cartellaProgramma](std::function<double()> istante) {
-        const ImpostazioniUscite impostazioni{.cartellaSegnali = cartella + "/note"};
+        const ImpostazioniUscite impostazioni{.cartellaSegnali = cartella + "/note",
+                                              .puntuale = PreferisciPuntualita};
         return std::make_unique<UsciteReali>(std::move(istante), impostazioni);
     };
+    macchina.puntuale = PreferisciPuntualita;
     return macchina;
 }
 

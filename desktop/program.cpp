@@ -10,6 +10,7 @@
 namespace corvana {
 
 void EseguiProgramma(Applicazione& applicazione, const Macchina& macchina) {
+    if (macchina.puntuale) macchina.puntuale();
     OrologioReale orologio;
     Pompa pompa(orologio, applicazione.Coda());
     Dialoghi& dialoghi = applicazione.Riquadri();
@@ -23,6 +24,7 @@ void EseguiProgramma(Applicazione& applicazione, const Macchina& macchina) {
 
     const IstanzaUnica istanza(macchina.percorsoBlocco);
     const auto uscite = macchina.uscite([&pompa] { return pompa.Adesso(); });
+    pompa.PonSveglia([&uscite] { uscite->Sveglia(); });
     Suono suono(*uscite, pompa, dialoghi);
     if (!istanza.AltraIstanza()) impostazioni.CreaSeManca();
     const Ambiente ambiente{globali, pompa, finestre, dialoghi, suono, impostazioni, file, casuale};

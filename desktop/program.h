@@ -20,6 +20,8 @@ struct Macchina {
     std::string percorsoBlocco;        ///< the lock that tells of another instance
     /// Makes the outputs, given what tells the instant at which the logic stands.
     std::function<std::unique_ptr<PiattaformaMidi>(std::function<double()>)> uscite;
+    /// Called first of all on the logic's thread, to have its waits end on time; may be empty.
+    std::function<void()> puntuale = {};
     /// Called with the main window before it is shown; may be empty.
     std::function<void(CorvanaMainF&)> pronta = {};
 };

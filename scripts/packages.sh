@@ -2,11 +2,12 @@
 # ./measure, scripts/package and .ci/run.
 
 build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev libsdl2-dev
+    libsystemd-dev
     libfluidsynth-dev librtmidi-dev libasound2-dev libjack-jackd2-dev)
 run_packages=("${build_packages[@]}" timgm6mb-soundfont fonts-inter fonts-oflb-euterpe)
 screen_packages=(xvfb xdotool scrot)
 test_packages=("${run_packages[@]}" libgtest-dev librapidcheck-dev locales pulseaudio
-    pulseaudio-utils jackd2)
+    pulseaudio-utils jackd2 dbus-daemon)
 lint_packages=(clang-format clang-tidy clang libclang-rt-14-dev cppcheck)
 package_packages=(dpkg-dev file man-db lintian appstream desktop-file-utils)
 
