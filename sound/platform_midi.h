@@ -46,6 +46,8 @@ public:
     /// Starts a wave file and returns; the wave that plays is cut. A missing file stays silent.
     virtual void sndPlaySoundA(const std::string& percorso, unsigned flags) = 0;
 
+    /// The user has done something: what rests in silence gets ready to sound. Cheap.
+    virtual void Sveglia() {}
     /// False when what is sent reaches nobody's ear, since the machine has no sound device.
     virtual bool Udibile() { return true; }
 };

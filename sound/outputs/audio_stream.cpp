@@ -3,13 +3,14 @@
 #define SDL_MAIN_HANDLED
 #include <SDL2/SDL.h>
 
+#include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
 #include <string_view>
 #include <utility>
 
-#include "forms/real_clock.h"
 #include "sound/outputs/quiet_libraries.h"
 #include "sound/outputs/stream_clock.h"
 
@@ -48,13 +49,34 @@ bool DriverMuto() {
 }  // namespace
 
 struct FlussoAudio::Stato {
-    explicit Stato(std::shared_ptr<MotoreSonoro> m) : motore(std::move(m)) {}
+    Stato(std::shared_ptr<MotoreSonoro> m, ImpostazioniUscite i)
+        : motore(std::move(m)), impostazioni(std::move(i)) {}
+
+    /// Nothing has sounded and nobody has woken the stream for long enough.
+    bool Stanco(double adesso) const {
+        return adesso - std::max(ultimoSuono.load(), ultimaSveglia.load()) > impostazioni.quiete;
+    }
+
+    void Stanca() {
+        const std::lock_guard guardia(blocco);
+        stanco = true;
+        arrivo.notify_all();
+    }
+    void Chiama() {
+        const std::lock_guard guardia(blocco);
+        chiamato = true;
+        arrivo.notify_all();
+    }
 
     std::shared_ptr<MotoreSonoro> motore;
+    const ImpostazioniUscite impostazioni;
+    std::atomic<double> ultimoSuono{0};  ///< of the device's thread
+    std::atomic<double> ultimaSveglia{0};
+    std::atomic<bool> riposa{false};  ///< the device is let go; whoever wakes has to say so
     /// Of the device's thread while a device is open.
     struct Ascolto {
         OrologioFlusso orologio;
-        bool puntuale = false;  ///< that thread has asked to be on time
+        bool iniziato = false;
     };
     std::mutex turno;
     Ascolto ascolto;
@@ -63,6 +85,8 @@ struct FlussoAudio::Stato {
     std::condition_variable arrivo;
     bool fine = false;
     bool perso = false;
+    bool stanco = false;
+    bool chiamato = false;  ///< somebody wakes the stream that rests
     bool tentato = false;
     bool udibile = false;
     SDL_AudioDeviceID dispositivo = 0;
@@ -76,7 +100,8 @@ public:
     void Esegui() {
         PreparaLibrerie();
         do {
-            if (Apri()) AspettaPerdita();
+            Comincia();
+            while (Apri() && AspettaSilenzio() && Riposa()) {}
             Chiudi();
         } while (!FinitoEntroIlProssimo());
         SDL_TLSCleanup();
@@ -86,9 +111,15 @@ private:
     static void Rendi(void* dato, Uint8* buffer, int byte);
     static int Osserva(void* dato, SDL_Event* evento);
 
+    void Comincia();
     bool Apri();
     void Chiudi();
-    void AspettaPerdita();
+    /// True when a long silence has ended the wait, false when the device is lost or all ends.
+    bool AspettaSilenzio();
+    /// Lets the device go until somebody wakes the stream; false when all ends.
+    bool Riposa();
+    /// The device, which nobody shall know of any more; 0 for none.
+    SDL_AudioDeviceID Congeda();
     bool FinitoEntroIlProssimo();
     void Annuncia(SDL_AudioDeviceID dispositivo);
 
@@ -98,12 +129,19 @@ private:
 void FlussoAudio::Custode::Rendi(void* dato, Uint8* buffer, int byte) {
     auto& stato = *static_cast<Stato*>(dato);
     const std::lock_guard guardia(stato.turno);
-    if (!std::exchange(stato.ascolto.puntuale, true)) PreferisciPuntualita();
+    if (!std::exchange(stato.ascolto.iniziato, true) && stato.impostazioni.puntuale)
+        stato.impostazioni.puntuale();
     OrologioFlusso& orologio = stato.ascolto.orologio;
     const int frame = byte / static_cast<int>(2 * sizeof(float));
-    const double istante = orologio.Prossimo(AdessoMonotono(), frame);
-    stato.motore->mescolatore.Rendi(reinterpret_cast<float*>(buffer), frame,
-                                    istante - orologio.Ritardo(), orologio.PerSecondo());
+    const double adesso = AdessoMonotono();
+    const double istante = orologio.Prossimo(adesso, frame);
+    const bool suona =
+        stato.motore->mescolatore.Rendi(reinterpret_cast<float*>(buffer), frame,
+                                        istante - orologio.Ritardo(), orologio.PerSecondo());
+    if (suona)
+        stato.ultimoSuono = adesso;
+    else if (stato.Stanco(adesso))
+        stato.Stanca();
 }
 
 int FlussoAudio::Custode::Osserva(void* dato, SDL_Event* evento) {
@@ -115,25 +153,27 @@ int FlussoAudio::Custode::Osserva(void* dato, SDL_Event* evento) {
     return 1;
 }
 
+void FlussoAudio::Custode::Comincia() {
+    if (SDL_InitSubSystem(SDL_INIT_AUDIO) == 0) SDL_AddEventWatch(Osserva, stato_.get());
+}
+
 bool FlussoAudio::Custode::Apri() {
-    SDL_AudioDeviceID dispositivo = 0;
-    if (SDL_InitSubSystem(SDL_INIT_AUDIO) == 0) {
-        SDL_AddEventWatch(Osserva, stato_.get());
-        SDL_AudioSpec voluto{};
-        voluto.freq = frequenza;
-        voluto.format = AUDIO_F32SYS;
-        voluto.channels = 2;
-        voluto.samples = frameDiBuffer;
-        voluto.callback = Rendi;
-        voluto.userdata = stato_.get();
-        dispositivo = SDL_OpenAudioDevice(nullptr, 0, &voluto, nullptr, 0);
-    }
+    SDL_AudioSpec voluto{};
+    voluto.freq = frequenza;
+    voluto.format = AUDIO_F32SYS;
+    voluto.channels = 2;
+    voluto.samples = frameDiBuffer;
+    voluto.callback = Rendi;
+    voluto.userdata = stato_.get();
+    const bool pronto = SDL_WasInit(SDL_INIT_AUDIO) != 0;
+    const auto dispositivo = pronto ? SDL_OpenAudioDevice(nullptr, 0, &voluto, nullptr, 0) : 0;
     Annuncia(dispositivo);
     if (dispositivo == 0) return false;
     {
         const std::lock_guard guardia(stato_->turno);
         stato_->ascolto = {};
     }
+    stato_->ultimoSuono = AdessoMonotono();
     stato_->motore->mescolatore.PonAttivo(true);
     SDL_PauseAudioDevice(dispositivo, 0);
     return true;
@@ -149,20 +189,35 @@ void FlussoAudio::Custode::Annuncia(SDL_AudioDeviceID dispositivo) {
     stato_->arrivo.notify_all();
 }
 
-void FlussoAudio::Custode::AspettaPerdita() {
+bool FlussoAudio::Custode::AspettaSilenzio() {
     // Lost before it was announced, it sends no event that would be heard.
-    if (SDL_GetAudioDeviceStatus(stato_->dispositivo) == SDL_AUDIO_STOPPED) return;
+    if (SDL_GetAudioDeviceStatus(stato_->dispositivo) == SDL_AUDIO_STOPPED) return false;
     std::unique_lock guardia(stato_->blocco);
-    stato_->arrivo.wait(guardia, [this] { return stato_->fine || stato_->perso; });
+    do {
+        stato_->stanco = stato_->chiamato = stato_->riposa = false;
+        stato_->arrivo.wait(guardia,
+                            [&] { return stato_->fine || stato_->perso || stato_->stanco; });
+        stato_->riposa = true;
+        // Who has just woken the stream may not have seen yet that he has to say so.
+    } while (stato_->stanco && !stato_->Stanco(AdessoMonotono()));
+    return !stato_->fine && !stato_->perso;
+}
+
+bool FlussoAudio::Custode::Riposa() {
+    SDL_CloseAudioDevice(Congeda());
+    std::unique_lock guardia(stato_->blocco);
+    stato_->arrivo.wait(guardia, [&] { return stato_->fine || stato_->chiamato; });
+    return !stato_->fine;
+}
+
+SDL_AudioDeviceID FlussoAudio::Custode::Congeda() {
+    const std::lock_guard guardia(stato_->blocco);
+    return std::exchange(stato_->dispositivo, 0);
 }
 
 void FlussoAudio::Custode::Chiudi() {
-    SDL_AudioDeviceID dispositivo = 0;
-    {
-        const std::lock_guard guardia(stato_->blocco);
-        dispositivo = std::exchange(stato_->dispositivo, 0);
-        stato_->udibile = false;
-    }
+    const SDL_AudioDeviceID dispositivo = Congeda();
+    Annuncia(0);
     stato_->motore->mescolatore.PonAttivo(false);
     if (!SDL_WasInit(SDL_INIT_AUDIO)) return;
     if (dispositivo != 0) SDL_CloseAudioDevice(dispositivo);
@@ -175,14 +230,22 @@ bool FlussoAudio::Custode::FinitoEntroIlProssimo() {
     return stato_->arrivo.wait_for(guardia, fraITentativi, [this] { return stato_->fine; });
 }
 
-FlussoAudio::FlussoAudio(std::shared_ptr<MotoreSonoro> motore)
-    : stato_(std::make_shared<Stato>(std::move(motore))),
+FlussoAudio::FlussoAudio(std::shared_ptr<MotoreSonoro> motore,
+                         const ImpostazioniUscite& impostazioni)
+    : stato_(std::make_shared<Stato>(std::move(motore), impostazioni)),
       filo_([stato = stato_] { Custode(stato).Esegui(); }, pazienza) {}
 
 FlussoAudio::~FlussoAudio() {
     const std::lock_guard guardia(stato_->blocco);
     stato_->fine = true;
     stato_->arrivo.notify_all();
+}
+
+void FlussoAudio::Sveglia() {
+    // Both in one order for all threads: either this sees that the stream rests, or the stream sees
+    // that it was woken.
+    stato_->ultimaSveglia = AdessoMonotono();
+    if (stato_->riposa) stato_->Chiama();
 }
 
 bool FlussoAudio::Udibile() {

@@ -47,6 +47,7 @@ void Mescolatore::Accoda(const MessaggioDatato& messaggio) {
 }
 
 void Mescolatore::PonAttivo(bool attivo) {
+    if (attivo && attivo_.load(std::memory_order_acquire)) return;
     const std::lock_guard guardia(blocco_);
     SvuotaMuto();
     richiesto_.store(nullptr, std::memory_order_relaxed);
@@ -55,7 +56,7 @@ void Mescolatore::PonAttivo(bool attivo) {
     attivo_.store(attivo, std::memory_order_release);
 }
 
-void Mescolatore::Rendi(float* stereo, int frame, double istante, double perSecondo) {
+bool Mescolatore::Rendi(float* stereo, int frame, double istante, double perSecondo) {
     const std::lock_guard guardia(blocco_);
     std::fill_n(stereo, 2 * frame, 0.0F);
     if (const Onda* onda = richiesto_.exchange(nullptr, std::memory_order_acquire))
@@ -63,6 +64,7 @@ void Mescolatore::Rendi(float* stereo, int frame, double istante, double perSeco
     Sintetizza(stereo, frame, {istante, perSecondo});
     segnale_.Aggiungi(stereo, frame);
     std::transform(stereo, stereo + 2 * frame, stereo, Limita);
+    return !Quieto() || sfumati_ < frameDiSfumatura || segnale_.Suona() || coda_.Primo();
 }
 
 void Mescolatore::Sintetizza(float* stereo, int frame, const Riferimento& riferimento) {

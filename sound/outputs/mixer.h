@@ -39,13 +39,15 @@ public:
     /// The wave starts with the next buffer.
     void AvviaSegnale(const Onda* onda) { richiesto_.store(onda, std::memory_order_release); }
 
-    /// A renderer begins or ends to call `Rendi`. What sounded before doesn't sound on.
+    /// A renderer begins or ends to call `Rendi`. What sounded before doesn't sound on. A renderer
+    /// that takes another's place without an end between them plays what has been put meanwhile.
     void PonAttivo(bool attivo);
 
     /// Renders `frame` stereo frames, of which the first belongs to `istante` and each further one
     /// is `1 / perSecondo` later. A message starts on its own frame where nothing sounds, else with
     /// the synthesiser's next block; one whose instant has passed starts as soon as it can.
-    void Rendi(float* stereo, int frame, double istante, double perSecondo = frequenza);
+    /// False when nothing sounded at its end and nothing waits.
+    bool Rendi(float* stereo, int frame, double istante, double perSecondo = frequenza);
 
 private:
     /// Where in the buffer that is being rendered an instant lies.

@@ -20,7 +20,7 @@ UsciteReali::UsciteReali(std::function<double()> istante, const ImpostazioniUsci
     : istante_(std::move(istante)),
       motore_(std::make_shared<MotoreSonoro>()),
       font_(std::make_unique<CaricamentoFont>(motore_, impostazioni)),
-      flusso_(std::make_unique<FlussoAudio>(motore_)),
+      flusso_(std::make_unique<FlussoAudio>(motore_, impostazioni)),
       porte_(std::make_unique<PorteMidi>()) {}
 
 UsciteReali::~UsciteReali() {
@@ -75,7 +75,7 @@ int UsciteReali::midiOutReset(HandleDispositivo handle) {
     if (aperto->second)
         aperto->second->Azzera();
     else
-        motore_->mescolatore.Accoda({istante_(), 0, true});
+        Accoda({istante_(), 0, true});
     return midiSenzaErrore;
 }
 
@@ -83,8 +83,13 @@ int UsciteReali::midiOutShortMsg(HandleDispositivo handle, std::uint32_t messagg
     const auto aperto = aperti_.find(handle);
     if (aperto == aperti_.end()) return midiHandleErrato;
     if (aperto->second) return aperto->second->Invia(messaggio) ? midiSenzaErrore : midiSenzaDriver;
-    motore_->mescolatore.Accoda({istante_(), messaggio});
+    Accoda({istante_(), messaggio});
     return midiSenzaErrore;
+}
+
+void UsciteReali::Accoda(const MessaggioDatato& messaggio) {
+    motore_->mescolatore.Accoda(messaggio);
+    flusso_->Sveglia();
 }
 
 std::string UsciteReali::midiOutGetErrorTextA(int codice) {
@@ -108,10 +113,15 @@ int UsciteReali::midiOutGetDevCapsA(std::int32_t id, std::string& nome) {
 
 void UsciteReali::sndPlaySoundA(const std::string& percorso, unsigned) {
     if (const Onda* onda = motore_->onde.Trova(percorso)) motore_->mescolatore.AvviaSegnale(onda);
+    flusso_->Sveglia();
 }
 
 bool UsciteReali::Udibile() {
     return flusso_->Udibile();
+}
+
+void UsciteReali::Sveglia() {
+    flusso_->Sveglia();
 }
 
 }  // namespace corvana

@@ -18,6 +18,7 @@ class CaricamentoFont;
 class FlussoAudio;
 class MittentePorta;
 class PorteMidi;
+struct MessaggioDatato;
 struct MotoreSonoro;
 
 class UsciteReali final : public PiattaformaMidi {
@@ -44,9 +45,11 @@ public:
     void sndPlaySoundA(const std::string& percorso, unsigned flags) override;
     /// The first time it waits until the audio device has opened or failed, at most 1.5 seconds.
     bool Udibile() override;
+    void Sveglia() override;
 
 private:
     int ApriSintetizzatore();
+    void Accoda(const MessaggioDatato& messaggio);
     int ApriPorta(std::shared_ptr<MittentePorta>& porta, std::int32_t id);
     /// Lets the port close in its own time.
     void Congeda(std::shared_ptr<MittentePorta> porta);

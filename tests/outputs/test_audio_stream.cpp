@@ -22,10 +22,7 @@ using prova::ServerSonoro;
 /// The logic's side of a running program, with the machine's outputs.
 class Programma {
 public:
-    Programma() {
-        PreferisciPuntualita();
-        EXPECT_TRUE(suono.ApriMidi(dispositivoPredefinito));
-    }
+    Programma() { EXPECT_TRUE(suono.ApriMidi(dispositivoPredefinito)); }
 
     OrologioReale orologio;
     CodaEventi coda;
