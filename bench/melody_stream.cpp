@@ -10,6 +10,7 @@
 #include "forms/real_clock.h"
 #include "melody/ticks.h"
 #include "melody/tokens.h"
+#include "realtime/punctuality.h"
 #include "sound/outputs/real_outputs.h"
 #include "tests/hearing/melody_stage.h"
 #include "tests/outputs/hearing.h"

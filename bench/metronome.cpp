@@ -1,13 +1,15 @@
 // The metronome's timing, at the message and in the stream that a null sink records: 137 and 181
-// pulses a minute, idle and beside four busy loops. Usage: bench_metronome [SECONDS]
+// pulses a minute, idle, beside busy programs, and stopped now and then. Usage: bench_metronome
+// [SECONDS]
 #include <cstdio>
 #include <cstdlib>
 
-#include "bench/busy.h"
 #include "bench/figures.h"
 #include "bench/pulses.h"
+#include "bench/row.h"
 #include "forms/real_clock.h"
 #include "program/program.h"
+#include "realtime/punctuality.h"
 #include "sound/outputs/real_outputs.h"
 #include "tests/outputs/sound_server.h"
 #include "tests/support/memory_files.h"
@@ -17,10 +19,13 @@ namespace {
 
 using namespace corvana;
 
-/// Passes everything on and notes the real instant of each pulse's message.
+using misura::Intorno;
+
+/// Passes everything on and notes of each pulse's message the real instant and the one asked for.
 class Spia final : public PiattaformaMidi {
 public:
-    explicit Spia(std::function<double()> istante) : uscite_(std::move(istante)) {}
+    explicit Spia(std::function<double()> istante)
+        : istante_(istante), uscite_(std::move(istante), {.puntuale = PreferisciPuntualita}) {}
     int midiOutOpen(HandleDispositivo& h, std::int32_t id) override {
         return uscite_.midiOutOpen(h, id);
     }
@@ -28,8 +33,10 @@ public:
     int midiOutReset(HandleDispositivo h) override { return uscite_.midiOutReset(h); }
     int midiOutShortMsg(HandleDispositivo h, std::uint32_t messaggio) override {
         constexpr std::uint32_t percussione = 0x99;
-        if ((messaggio & 0xFF) == percussione && messaggio >> 16)
+        if ((messaggio & 0xFF) == percussione && messaggio >> 16) {
             pulsi.push_back(orologio_.Adesso());
+            richiesti.push_back(istante_());
+        }
         return uscite_.midiOutShortMsg(h, messaggio);
     }
     std::string midiOutGetErrorTextA(int codice) override {
@@ -42,8 +49,10 @@ public:
     void sndPlaySoundA(const std::string&, unsigned) override {}
 
     std::vector<double> pulsi;
+    std::vector<double> richiesti;
 
 private:
+    std::function<double()> istante_;
     OrologioReale orologio_;
     UsciteReali uscite_;
 };
@@ -77,29 +86,35 @@ void Dormi(double secondi) {
     std::this_thread::sleep_for(std::chrono::duration<double>(secondi));
 }
 
-void Misura(const prova::ServerSonoro& server, int tempo, double secondi, int occupati) {
+void Misura(const prova::ServerSonoro& server, int tempo, double secondi, Intorno intorno) {
     Banco banco;
     banco.impostazioni.CreaSeManca();
+    bool puntuale = false;
     std::thread logica([&] {
         PreferisciPuntualita();
+        puntuale = misura::Puntuale();
         banco.programma.Esegui(false);
     });
     constexpr double siglaFinita = 3;
     Dormi(siglaFinita);
-    const misura::CicliOccupati cicli(occupati);
+    const misura::ProgrammiOccupati occupati(intorno == Intorno::Occupato);
     prova::Registrazione registrazione(server);
     banco.Fai("mnuMetro", Fatto::Click);
     banco.Fai("MetroTempoS", Fatto::Change, tempo);
     banco.Fai("cmdSSmetro", Fatto::Click);
-    Dormi(secondi);
+    {
+        const misura::Singhiozzo singhiozzo(intorno == Intorno::Fermato, secondi);
+        Dormi(secondi);
+    }
     banco.Fai("cmdSSmetro", Fatto::Click);
     Dormi(1);
     const auto suono = registrazione.Ferma();
     banco.Fai("CorvanaMainF", Fatto::Chiudi);
     logica.join();
     const std::string titolo =
-        std::to_string(tempo) + " a minute, " + std::to_string(occupati) + " busy loops, ";
-    misura::StampaPulsi(titolo + "message", banco.uscita.pulsi, 60.0 / tempo);
+        std::to_string(tempo) + " a minute, " + misura::Titolo(intorno, puntuale) + ", ";
+    misura::StampaMessaggi(titolo + "message", banco.uscita.pulsi, banco.uscita.richiesti,
+                           60.0 / tempo);
     misura::StampaPulsi(titolo + "stream", misura::Attacchi(suono), 60.0 / tempo);
 }
 
@@ -113,7 +128,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     server.UsaInQuestoProcesso();
-    for (const int occupati : {0, 4})
+    for (const auto intorno : {Intorno::Quiete, Intorno::Occupato, Intorno::Fermato})
         for (const int tempo : {137, 181})
-            Misura(server, tempo, secondi, occupati);
+            Misura(server, tempo, secondi, intorno);
 }

@@ -19,6 +19,17 @@ double Media(const std::vector<double>& valori) {
     return std::accumulate(valori.begin(), valori.end(), 0.0) / static_cast<double>(valori.size());
 }
 
+/// The median of the slopes between instants that lie at least half the row apart.
+double PeriodoMediano(const std::vector<double>& istanti) {
+    std::vector<double> pendenze;
+    const std::size_t mezza = istanti.size() / 2;
+    for (std::size_t i = 0; i + mezza < istanti.size(); ++i)
+        for (std::size_t j = i + mezza; j < istanti.size(); ++j)
+            pendenze.push_back((istanti[j] - istanti[i]) / static_cast<double>(j - i));
+    std::sort(pendenze.begin(), pendenze.end());
+    return Quantile(pendenze, 0.5);
+}
+
 /// The slope of the line that fits the instants best.
 double Periodo(const std::vector<double>& istanti) {
     const double mezzo = static_cast<double>(istanti.size() - 1) / 2;
@@ -57,6 +68,26 @@ std::vector<double> Attacchi(std::span<const float> mono) {
         silenzio = suona ? 0 : silenzio + 1;
     }
     return attacchi;
+}
+
+void StampaMessaggi(const std::string& titolo, const std::vector<double>& istanti,
+                    const std::vector<double>& richiesti, double periodo) {
+    if (istanti.size() < 4) {
+        std::printf("%-44s only %zu pulses\n", titolo.c_str(), istanti.size());
+        return;
+    }
+    std::vector<double> ritardi;
+    for (std::size_t i = 0; i < istanti.size(); ++i)
+        ritardi.push_back((istanti[i] - (richiesti[0] + static_cast<double>(i) * periodo)) * 1e3);
+    std::sort(ritardi.begin(), ritardi.end());
+    const double chiesti = richiesti.back() - richiesti.front();
+    const double persi = chiesti - static_cast<double>(richiesti.size() - 1) * periodo;
+    std::printf(
+        "%-44s n %4zu   mean %+8.3f ppm   lost %6.4f   late: median %6.4f   p99 %6.4f   "
+        "worst %6.4f ms\n",
+        titolo.c_str(), istanti.size(), (PeriodoMediano(istanti) / periodo - 1) * 1e6, persi * 1e3,
+        Quantile(ritardi, 0.5), Quantile(ritardi, 0.99), ritardi.back());
+    std::fflush(stdout);
 }
 
 void StampaPulsi(const std::string& titolo, const std::vector<double>& istanti, double periodo) {

@@ -16,4 +16,12 @@ std::vector<double> Attacchi(std::span<const float> mono);
 /// by turns with two instruments, whose attacks differ: each has its own row, with one period.
 void StampaPulsi(const std::string& titolo, const std::vector<double>& istanti, double periodo);
 
+/// Prints one line for messages, sent at `istanti` and asked for at `richiesti`: how many, error of
+/// the mean period in ppm of `periodo`, by the middle one of the slopes between any two messages at
+/// least half the row apart, so that single late ones don't count; what the row of instants asked
+/// for lost in all; and how late the messages were, against an even row from the first instant
+/// asked for, by median, 99th percentile and worst.
+void StampaMessaggi(const std::string& titolo, const std::vector<double>& istanti,
+                    const std::vector<double>& richiesti, double periodo);
+
 }  // namespace corvana::misura

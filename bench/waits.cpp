@@ -1,51 +1,47 @@
-// How late the waits of timed sound end, idle and beside two busy loops, and whether they drift.
+// How late waits of timed sound end, against the instant asked for and by the clock, and what a
+// long row of them loses. Usage: bench_waits [SECONDS]
 #include <cstdio>
+#include <cstdlib>
 
-#include "bench/busy.h"
 #include "bench/figures.h"
+#include "bench/row.h"
 #include "forms/pump.h"
 #include "forms/real_clock.h"
+#include "realtime/punctuality.h"
 
 namespace {
 
 using namespace corvana;
+using misura::Intorno;
 
-void MisuraRitardi(const std::string& titolo, double secondi, int volte) {
+void Misura(Intorno intorno, double attesa, double secondi) {
+    const misura::ProgrammiOccupati occupati(intorno == Intorno::Occupato);
     OrologioReale orologio;
     CodaEventi coda;
     Pompa pompa(orologio, coda);
-    std::vector<double> ritardi;
-    for (int i = 0; i < volte; ++i) {
-        pompa.Attendi(secondi);
-        // The pump stands at the instant at which the wait should have ended.
-        ritardi.push_back((orologio.Adesso() - pompa.Adesso()) * 1e3);
-    }
-    misura::Stampa(titolo, ritardi, "ms");
-}
-
-void MisuraDeriva(double secondi, int volte) {
-    OrologioReale orologio;
-    CodaEventi coda;
-    Pompa pompa(orologio, coda);
-    pompa.Attendi(secondi);
+    pompa.Attendi(attesa);
+    const misura::Singhiozzo singhiozzo(intorno == Intorno::Fermato, secondi);
     const double inizio = pompa.Adesso();
-    for (int i = 0; i < volte; ++i)
-        pompa.Attendi(secondi);
-    const double deriva = pompa.Adesso() - inizio - secondi * volte;
-    std::printf("%-52s %.6f ms\n", "drift over 200 waits of 29 ms", deriva * 1e3);
-}
-
-void MisuraTutto(const std::string& dove) {
-    MisuraRitardi("lateness of a wait of 5 ms, " + dove, 0.005, 1000);
-    MisuraRitardi("lateness of a wait of 29 ms, " + dove, 0.029, 300);
-    MisuraDeriva(0.029, 200);
+    const int volte = static_cast<int>(secondi / attesa);
+    std::vector<double> ritardi;
+    for (int i = 1; i <= volte; ++i) {
+        pompa.Attendi(attesa);
+        ritardi.push_back((orologio.Adesso() - (inizio + i * attesa)) * 1e3);
+    }
+    const double persi = (pompa.Adesso() - inizio - volte * attesa) * 1e3;
+    char titolo[80];
+    std::snprintf(titolo, sizeof titolo, "waits of %.0f ms, %s", attesa * 1e3,
+                  misura::Titolo(intorno, misura::Puntuale()).c_str());
+    misura::Stampa(titolo, ritardi, "ms late");
+    std::printf("%-52s %.6f ms\n", "  lost in all", persi);
 }
 
 }  // namespace
 
-int main() {
+int main(int argc, char** argv) {
+    const double secondi = argc > 1 ? std::atof(argv[1]) : 60;
     PreferisciPuntualita();
-    MisuraTutto("idle");
-    const misura::CicliOccupati cicli(2);
-    MisuraTutto("beside two busy loops");
+    for (const auto intorno : {Intorno::Quiete, Intorno::Occupato, Intorno::Fermato})
+        for (const double attesa : {0.005, 0.029})
+            Misura(intorno, attesa, secondi);
 }
