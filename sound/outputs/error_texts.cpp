@@ -10,7 +10,7 @@ std::string TestoErroreMidi(int codice) {
         case midiDispositivoErrato: return "This MIDI device is no longer there.";
         case midiHandleErrato: return "No MIDI device is open.";
         case midiSenzaDriver: return "The MIDI device doesn't answer.";
-        case midiMemoria: return "The sound font of the synthesiser couldn't be loaded.";
+        case midiMemoria: return "The sound font of the synthesizer couldn't be loaded.";
         default: return "Unknown MIDI error " + std::to_string(codice) + ".";
     }
 }
