@@ -1,0 +1,24 @@
+#include <array>
+
+#include "tests/language/expected_rows.h"
+
+namespace corvana::prova {
+
+namespace {
+
+using T = TestiLingua;
+
+constexpr auto righe = std::to_array<RigaAttesa>({
+    {79, "", "edizione", "edition", &T::TxtVersione},
+    {80, "", "Leggere, ascoltare", "Reading, listening", &T::TxtMotto},
+    {81, "", "licenza MIT", "MIT License", &T::TxtLicenza},
+    {82, "Text2", "Corvana insegna", "Corvana teaches"},
+});
+
+}  // namespace
+
+RigheAttese RigheAbout() {
+    return righe;
+}
+
+}  // namespace corvana::prova

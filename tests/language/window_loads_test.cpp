@@ -1,0 +1,71 @@
+// Every window reads its language when it is loaded, if the file is there.
+#include <gtest/gtest.h>
+
+#include "composer/composer.h"
+#include "metronome/conf_metro.h"
+#include "tests/program/program_rig.h"
+#include "utilities/about.h"
+#include "utilities/midi_test.h"
+
+namespace corvana::prova {
+
+namespace {
+
+struct BancoCaricato : BancoProgramma {
+    /// Loads the window while this row is all that the language file holds; none: without a file.
+    void Carica(Form& form, const std::string& riga) {
+        globali.PercorsoLingua = "/programma/lang.csv";
+        if (!riga.empty()) file.contenuti[globali.PercorsoLingua] = riga + '\n';
+        form.Form_Load();
+        EXPECT_TRUE(dialoghi.messaggi.empty());
+    }
+};
+
+}  // namespace
+
+TEST(LinguaAlCaricamento, TheMainWindowReadsIt) {
+    BancoCaricato b;
+    b.Carica(b.finestra, "1;CorvanaMainF;letto");
+    EXPECT_EQ(b.finestra.cmdEsci.Caption(), "letto");
+}
+
+TEST(LinguaAlCaricamento, ThePatternWindowReadsIt) {
+    BancoCaricato b;
+    frmConfMetro finestra{b.Tutto()};
+    b.Carica(finestra, "71;frmConfMetro;letto");
+    EXPECT_EQ(finestra.Label1.Caption(), "letto");
+}
+
+TEST(LinguaAlCaricamento, TheMidiTestReadsIt) {
+    BancoCaricato b;
+    frmMidiTest finestra{b.Tutto()};
+    b.Carica(finestra, "76;frmMidiTest;letto");
+    EXPECT_EQ(finestra.Label1.Caption(), "letto");
+}
+
+TEST(LinguaAlCaricamento, TheAboutBoxReadsItBeforeItShowsTheVersion) {
+    BancoCaricato b;
+    frmAbout finestra{b.Tutto()};
+    b.Carica(finestra, "79;frmAbout;letto");
+    EXPECT_TRUE(finestra.lblVersion.Caption().ends_with(" - letto"));
+}
+
+TEST(LinguaAlCaricamento, TheMelodyWindowReadsIt) {
+    BancoCaricato b;
+    frmComposer finestra{b.Tutto(), {[] { return ""; }, [] { return ""; }, {}}};
+    b.Carica(finestra, "277;frmComposer;letto");
+    EXPECT_EQ(finestra.cmdInsPausa.Caption(), "letto");
+}
+
+TEST(LinguaAlCaricamento, WithoutItsFileTheTextsOfTheDesignStayAndNothingIsTold) {
+    BancoCaricato b;
+    frmConfMetro sequenza{b.Tutto()};
+    frmMidiTest prova{b.Tutto()};
+    for (Form* form : std::initializer_list<Form*>{&b.finestra, &sequenza, &prova})
+        b.Carica(*form, "");
+    EXPECT_EQ(b.finestra.cmdEsci.Caption(), "Esci");
+    EXPECT_EQ(sequenza.Label1.Caption(), "Suoni");
+    EXPECT_EQ(prova.Label1.Caption(), "Strumento");
+}
+
+}  // namespace corvana::prova

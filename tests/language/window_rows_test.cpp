@@ -1,0 +1,122 @@
+// What each row really changes in the windows that exist.
+#include <gtest/gtest.h>
+
+#include "composer/composer.h"
+#include "core/language.h"
+#include "metronome/conf_metro.h"
+#include "tests/language/expected_rows.h"
+#include "tests/program/program_rig.h"
+#include "utilities/about.h"
+#include "utilities/midi_test.h"
+
+namespace corvana::prova {
+
+namespace {
+
+/// What the melody window hasn't yet.
+const Luoghi daFare = {
+    "mnuApriCont",  "ToolButton1",   "ToolButton3",   "ToolButton4",   "ToolButton5",
+    "mnuCopyFromA", "mnucCopyFromA", "mnuChiudi",     "cmdNpp",        "cmdHideBm",
+    "cmdChiudi",    "mnuSs",         "mnuSsCont",     "pictCi",        "cmdAttrNota0",
+    "cmdAttrNota2", "cmdAttrNota3",  "ckConsAttLb",   "Label5",        "lblIDs0",
+    "lblIDs1",      "chekLoopLb",    "lblStep0",      "lblStep1",      "cmdReset",
+    "lblid0",       "lblid1",        "lblid2",        "lblid3",        "lblid4",
+    "lblid5",       "lblid6",        "lblid7",        "lblid8",        "lblid9",
+    "lblid10",      "lblid11",       "lblid12",       "lblid13",       "lblid14",
+    "lblid15",      "cmdCancNota",   "cmdInsertNote", "lblActualNote", "cmdModifica0",
+    "Lbdoc",        "cmdRenameBm",   "cmdPlayBm",     "cmdModBm",      "cmdMbUd0",
+    "cmdMbUd1",     "cmdRename",     "cmdMkdir"};
+
+void Aggiungi(Luoghi& luoghi, const Controllo& controllo, const ProprietaBase& proprieta,
+              const std::string& testo) {
+    const auto valore = proprieta.Leggi();
+    if (const auto* righe = std::get_if<Righe>(&valore)) {
+        for (std::size_t i = 0; i < righe->size(); ++i)
+            if (righe->at(i) == testo)
+                luoghi.insert(controllo.Name + '[' + std::to_string(i) + ']');
+    } else if (const auto* letto = std::get_if<std::string>(&valore);
+               letto && letto->ends_with(testo)) {
+        const bool consiglio = proprieta.NomeProprieta() == Nome::ToolTipText;
+        luoghi.insert(controllo.Name + (consiglio ? ".tip" : ""));
+    }
+}
+
+/// Where in the window the text is to be read.
+Luoghi Leggono(const Form& finestra, const std::string& testo) {
+    Luoghi luoghi;
+    for (const Controllo* controllo : finestra.Controlli())
+        for (const ProprietaBase* proprieta : controllo->ListaProprieta())
+            Aggiungi(luoghi, *controllo, *proprieta, testo);
+    return luoghi;
+}
+
+/// Applies each row that the window may have, and looks what has changed.
+void ControllaRighe(Form& finestra, Globali& globali, const Luoghi& mancano = {}) {
+    for (const RigaAttesa& riga : RigheDi(finestra.Name)) {
+        Luoghi attesi = LuoghiDi(riga);
+        std::erase_if(attesi, [&](const auto& l) { return mancano.contains(ControlloDi(l)); });
+        const std::string testo = '<' + std::to_string(riga.id) + '>';
+        ApplicaRiga(globali, std::to_string(riga.id), testo, finestra);
+        EXPECT_EQ(Leggono(finestra, testo), attesi) << riga.id;
+        EXPECT_TRUE(!riga.stringa || globali.testi.*riga.stringa == testo) << riga.id;
+    }
+}
+
+template <class F>
+struct BancoFinestra : Banco {
+    F finestra{Tutto()};
+};
+
+}  // namespace
+
+TEST(RigheNelleFinestre, EachSetsItsControlsOfTheMainWindowAndNoOther) {
+    BancoProgramma b;
+    ControllaRighe(b.finestra, b.globali);
+}
+
+TEST(RigheNelleFinestre, EachSetsItsControlsOfThePatternWindowAndNoOther) {
+    BancoFinestra<frmConfMetro> b;
+    ControllaRighe(b.finestra, b.globali);
+}
+
+TEST(RigheNelleFinestre, EachSetsItsControlsOfTheMidiTestAndNoOther) {
+    BancoFinestra<frmMidiTest> b;
+    ControllaRighe(b.finestra, b.globali);
+}
+
+TEST(RigheNelleFinestre, EachSetsItsControlsOfTheAboutBoxAndNoOther) {
+    BancoFinestra<frmAbout> b;
+    ControllaRighe(b.finestra, b.globali);
+}
+
+TEST(RigheNelleFinestre, EachSetsItsControlsOfTheMelodyWindowAndNoOther) {
+    Banco b;
+    frmComposer finestra{b.Tutto(), {}};
+    ControllaRighe(finestra, b.globali, daFare);
+}
+
+TEST(RigheNelleFinestre, TheMelodyWindowHasNoneOfTheControlsThatItIsSaidToLack) {
+    Banco b;
+    const frmComposer finestra{b.Tutto(), {}};
+    for (const std::string& nome : daFare)
+        EXPECT_EQ(finestra.Trova(nome), nullptr) << nome << " is there: take it from the list";
+}
+
+TEST(RigheNelleFinestre, TheSeparatorsOfTheRangesStay) {
+    BancoProgramma b;
+    for (int id = 0; id <= 57; ++id)
+        ApplicaRiga(b.globali, std::to_string(id), "x", b.finestra);
+    for (std::size_t i = 0; i < b.finestra.difficolt.List().size(); ++i)
+        EXPECT_EQ(b.finestra.difficolt.List()[i].front(), i == 4 || i == 9 ? '-' : 'x') << i;
+}
+
+TEST(RigheNelleFinestre, AnIdOutsideOfTheWindowsSetChangesNothing) {
+    for (const char* id : {"-1", "27", "58", "68", "69", "77", "79", "156", "157", "166", "168",
+                           "245", "379", "383", "32767"}) {
+        BancoProgramma b;
+        ApplicaRiga(b.globali, id, "nuovo", b.finestra);
+        EXPECT_EQ(Leggono(b.finestra, "nuovo"), Luoghi{}) << id;
+    }
+}
+
+}  // namespace corvana::prova
