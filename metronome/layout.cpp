@@ -33,7 +33,7 @@ constexpr std::array conf = {
     Posto{"InstrC", 2280, 810, 900, 2340},
     Posto{"Label2", 3480, 180, 2880, 270, "Sequenza", {}, "titolo"},
     Posto{"txtPattern", 3480, 510, 2880, 360},
-    Posto{"Label3", 3480, 990, 1500, 270, "Tempo", {}, "titolo"},
+    Posto{"Label3", 3480, 990, 2880, 270, "Tempo", {}, "titolo"},
     Posto{"txtTempo", 3480, 1320, 1200, 360},
     Posto{"seqPreset", 3480, 1830, 2880, 1320},
     Posto{"Text1",
