@@ -13,24 +13,12 @@ namespace corvana::prova {
 
 namespace {
 
-Insieme IdDellaTabella(const std::string& finestra) {
-    Insieme insieme;
-    for (const Bersaglio& bersaglio : Bersagli(Minuscolo(finestra)))
-        insieme.insert(bersaglio.id);
-    return insieme;
-}
-
 struct FinestraSpiegata : Form {
     FinestraSpiegata() : Form("frmConfMetro") {}
     Casella Text1{*this, "Text1"};
 };
 
 }  // namespace
-
-TEST(TabelleLingua, EveryWindowHasTargetsForExactlyItsIds) {
-    for (const auto& [finestra, insieme] : IdDiFinestra())
-        EXPECT_EQ(IdDellaTabella(finestra), insieme) << finestra;
-}
 
 TEST(TabelleLingua, AnIdBelongsToOneWindowOnly) {
     Insieme tutti;
