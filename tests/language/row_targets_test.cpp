@@ -19,7 +19,7 @@ struct Trovata {
 };
 
 std::string Luogo(const Bersaglio& bersaglio) {
-    const std::string controllo(bersaglio.controllo);
+    std::string controllo(bersaglio.controllo);
     if (bersaglio.cosa == Cosa::Consiglio) return controllo + ".tip";
     if (bersaglio.cosa == Cosa::Riga)
         return controllo + '[' + std::to_string(bersaglio.elemento) + ']';
