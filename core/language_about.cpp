@@ -8,7 +8,7 @@ namespace {
 
 using T = TestiLingua;
 
-constexpr std::array bersagli = {
+constexpr std::array bersagliAbout = {
     Stringa(79, &T::TxtVersione),
     Stringa(80, &T::TxtMotto),
     Stringa(81, &T::TxtLicenza),
@@ -18,7 +18,7 @@ constexpr std::array bersagli = {
 }  // namespace
 
 std::span<const Bersaglio> BersagliAbout() {
-    return bersagli;
+    return bersagliAbout;
 }
 
 }  // namespace corvana

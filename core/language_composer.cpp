@@ -8,7 +8,7 @@ namespace {
 
 using T = TestiLingua;
 
-constexpr std::array bersagli = {
+constexpr std::array bersagliComposer = {
     Testo(245, "frmComposer"),
     Testo(246, "strumento"),
     Testo(247, "mnuOp"),
@@ -164,7 +164,7 @@ constexpr std::array bersagli = {
 }  // namespace
 
 std::span<const Bersaglio> BersagliComposer() {
-    return bersagli;
+    return bersagliComposer;
 }
 
 }  // namespace corvana

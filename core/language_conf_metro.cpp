@@ -8,7 +8,7 @@ namespace {
 
 using T = TestiLingua;
 
-constexpr std::array bersagli = {
+constexpr std::array bersagliConfMetro = {
     Testo(69, "frmConfMetro"),
     Testo(70, "Label3"),
     Testo(71, "Label1"),
@@ -21,7 +21,7 @@ constexpr std::array bersagli = {
 }  // namespace
 
 std::span<const Bersaglio> BersagliConfMetro() {
-    return bersagli;
+    return bersagliConfMetro;
 }
 
 }  // namespace corvana

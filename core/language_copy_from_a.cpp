@@ -6,7 +6,7 @@ namespace corvana {
 
 namespace {
 
-constexpr std::array bersagli = {
+constexpr std::array bersagliCopyFromA = {
     Testo(375, "frmCopyFromA"),
     Testo(376, "Label1"),
     Testo(377, "cmdCopia"),
@@ -16,7 +16,7 @@ constexpr std::array bersagli = {
 }  // namespace
 
 std::span<const Bersaglio> BersagliCopyFromA() {
-    return bersagli;
+    return bersagliCopyFromA;
 }
 
 }  // namespace corvana

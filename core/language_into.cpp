@@ -8,7 +8,7 @@ namespace {
 
 using T = TestiLingua;
 
-constexpr std::array bersagli = {
+constexpr std::array bersagliInto = {
     Testo(157, "frmInto"),
     Testo(158, "Esercizio"),
     Testo(159, "mnuNotA"),
@@ -106,7 +106,7 @@ constexpr std::array bersagli = {
 }  // namespace
 
 std::span<const Bersaglio> BersagliInto() {
-    return bersagli;
+    return bersagliInto;
 }
 
 }  // namespace corvana

@@ -8,7 +8,7 @@ namespace {
 
 using T = TestiLingua;
 
-constexpr std::array bersagli = {
+constexpr std::array bersagliPrincipali = {
     Testo(0, "CorvanaMainF"),
     Testo(1, "cmdEsci"),
     Testo(2, "Esci"),
@@ -87,7 +87,7 @@ constexpr std::array bersagli = {
 }  // namespace
 
 std::span<const Bersaglio> BersagliPrincipali() {
-    return bersagli;
+    return bersagliPrincipali;
 }
 
 }  // namespace corvana

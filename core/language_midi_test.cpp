@@ -6,7 +6,7 @@ namespace corvana {
 
 namespace {
 
-constexpr std::array bersagli = {
+constexpr std::array bersagliMidiTest = {
     Testo(75, "Label2"),
     Testo(76, "Label1"),
     Testo(77, "cmdTest"),
@@ -15,7 +15,7 @@ constexpr std::array bersagli = {
 }  // namespace
 
 std::span<const Bersaglio> BersagliMidiTest() {
-    return bersagli;
+    return bersagliMidiTest;
 }
 
 }  // namespace corvana

@@ -6,7 +6,7 @@ namespace corvana {
 
 namespace {
 
-constexpr std::array bersagli = {
+constexpr std::array bersagliOptions = {
     Testo(83, "frmOptions"),
     Testo(84, "cmdOK"),
     Testo(85, "cmdSel0"),
@@ -86,7 +86,7 @@ constexpr std::array bersagli = {
 }  // namespace
 
 std::span<const Bersaglio> BersagliOptions() {
-    return bersagli;
+    return bersagliOptions;
 }
 
 }  // namespace corvana

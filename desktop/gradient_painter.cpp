@@ -7,7 +7,7 @@ namespace corvana {
 
 namespace {
 
-QRgb Riga(const Sfumatura& s, int passo, int passi) {
+QRgb RigaSfumata(const Sfumatura& s, int passo, int passi) {
     const auto canale = [=](int da, int a) { return da + (a - da) * passo / passi; };
     return qRgb(canale(Rosso(s.inizio), Rosso(s.fine)), canale(Verde(s.inizio), Verde(s.fine)),
                 canale(Blu(s.inizio), Blu(s.fine)));
@@ -21,7 +21,7 @@ std::array<QRgb, righeSfumatura> RigheSfumatura(const Sfumatura& sfumatura) {
     for (int i = 0; i < righeSfumatura; ++i) {
         // On its way back it takes each colour again, and so ends with the one that it began with.
         const int passo = i < passi ? i : righeSfumatura - 1 - i;
-        righe[static_cast<std::size_t>(i)] = Riga(sfumatura, passo, passi);
+        righe[static_cast<std::size_t>(i)] = RigaSfumata(sfumatura, passo, passi);
     }
     return righe;
 }

@@ -10,7 +10,6 @@ namespace corvana {
 
 namespace {
 
-constexpr std::int16_t canalePercussioni = 10;
 constexpr std::int16_t velocitaCampione = 127;
 constexpr double fraLeProve = 0.8;
 

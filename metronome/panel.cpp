@@ -10,7 +10,6 @@ namespace {
 
 constexpr int aiutoTrainer = 2;
 constexpr int aiutoMetronomo = 8;
-constexpr std::int16_t canalePercussioni = 10;
 /// The last part of a pulse, dark and silent, in seconds.
 constexpr double buio = 0.1;
 

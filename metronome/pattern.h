@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string_view>
 
 #include "core/metronome_state.h"
@@ -9,6 +10,7 @@
 namespace corvana {
 
 constexpr int luciMetronomo = 20;
+constexpr std::int16_t canalePercussioni = 10;
 constexpr Colore coloreLuceSpenta = 0xAAAAAA;
 
 struct Metro {

@@ -11,7 +11,7 @@ namespace corvana {
 
 namespace {
 
-constexpr std::array posti = {
+constexpr std::array postiAbout = {
     Posto{"frmAbout", 0, 0, 5175, 3600, "Corvana"},
     Posto{"frmBg", 0, 0, 5175, 3600, {}, {}, "pannello"},
     Posto{"lblTitle", 300, 180, 4575, 900, {}, {}, "insegna"},
@@ -30,7 +30,7 @@ constexpr std::array posti = {
 }  // namespace
 
 frmAbout::frmAbout(const Ambiente& ambiente) : Form("frmAbout"), a_(ambiente) {
-    Disponi(*this, posti.data(), posti.size());
+    Disponi(*this, postiAbout.data(), postiAbout.size());
     Text2.Locked = true;
     cmdOK.Click = [this] { cmdOK_Click(); };
 }

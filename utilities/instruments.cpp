@@ -19,7 +19,7 @@ constexpr Colore blu = 0xFF0000;
 constexpr int aDestra = 900;
 constexpr int inBasso = 2600;
 
-constexpr std::array posti = {
+constexpr std::array postiStrumenti = {
     Posto{"frmStrum", 0, 0, 4245, 3150, "Corvana"},
     Posto{"List1", 225, 225, 2850, 2700},
     Posto{"cmdTest", 3300, 300, 720, 720, {}, "Test", "icona:prova"},
@@ -30,7 +30,7 @@ constexpr std::array posti = {
 }  // namespace
 
 frmStrum::frmStrum(const Ambiente& ambiente) : Form("frmStrum"), a_(ambiente) {
-    Disponi(*this, posti.data(), posti.size());
+    Disponi(*this, postiStrumenti.data(), postiStrumenti.size());
     cmdEsci.ForeColor = blu;
     List1.Click = [this] { List1_Click(); };
     cmdEsci.Click = cmdEscibg.Click = [this] { cmdEsci_Click(); };

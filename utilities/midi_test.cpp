@@ -13,7 +13,7 @@ constexpr std::int16_t canaleProva = 1;
 constexpr std::int16_t notaProva = 69;
 constexpr std::int16_t velocitaProva = 100;
 
-constexpr std::array posti = {
+constexpr std::array postiMidiTest = {
     Posto{"frmMidiTest", 0, 0, 6000, 4200, "MIDI Test"},
     Posto{"Label2", 240, 180, 5520, 270, "Dispositivi MIDI", {}, "titolo"},
     Posto{"LstMidiDev", 240, 510, 5520, 1560},
@@ -29,7 +29,7 @@ constexpr std::array posti = {
 }  // namespace
 
 frmMidiTest::frmMidiTest(const Ambiente& ambiente) : Form("frmMidiTest"), a_(ambiente) {
-    Disponi(*this, posti.data(), posti.size());
+    Disponi(*this, postiMidiTest.data(), postiMidiTest.size());
     InstrS.Max = 127;
     LstMidiDev.Click = [this] { LstMidiDev_Click(); };
     cmdTest.Click = [this] { cmdTest_Click(); };

@@ -6,7 +6,7 @@ namespace corvana {
 
 namespace {
 constexpr double attesaDelFont = 10;
-constexpr double pazienza = 0.5;
+constexpr double pazienzaColFont = 0.5;
 }  // namespace
 
 bool CaricaMotore(MotoreSonoro& motore, const ImpostazioniUscite& impostazioni) {
@@ -24,7 +24,7 @@ CaricamentoFont::CaricamentoFont(std::shared_ptr<MotoreSonoro> motore,
     : esito_(std::make_shared<bool>(false)),
       filo_([motore = std::move(motore), impostazioni,
              esito = esito_] { *esito = CaricaMotore(*motore, impostazioni); },
-            pazienza) {}
+            pazienzaColFont) {}
 
 bool CaricamentoFont::Pronto() {
     return filo_.AspettaFine(attesaDelFont) && *esito_;

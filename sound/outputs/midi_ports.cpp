@@ -6,7 +6,7 @@ namespace corvana {
 
 namespace {
 constexpr double attesaRicerca = 0.5;
-constexpr double pazienza = 0.3;
+constexpr double pazienzaConLElenco = 0.3;
 }  // namespace
 
 /// Of one search; read when its thread has ended.
@@ -21,7 +21,8 @@ int PorteMidi::Cerca() {
     if (!ricerca_ || ricerca_->AspettaFine(0)) {
         esito_ = std::make_shared<Esito>();
         ricerca_ = std::make_unique<FiloAbbandonabile>(
-            [esito = esito_, jack = jack_] { esito->porte = ElencaPorte(*jack); }, pazienza);
+            [esito = esito_, jack = jack_] { esito->porte = ElencaPorte(*jack); },
+            pazienzaConLElenco);
     }
     if (ricerca_->AspettaFine(attesaRicerca)) note_ = esito_->porte;
     return static_cast<int>(note_.size());

@@ -11,7 +11,7 @@
 namespace corvana {
 
 namespace {
-constexpr std::int64_t frameDiBuffer = 256;
+constexpr std::int64_t frameDiOgniPasso = 256;
 constexpr HandleDispositivo handleSynth = 1;
 }  // namespace
 
@@ -72,7 +72,7 @@ std::vector<float> ResaOffline::Rendi(double secondi) {
     const std::int64_t richiesti = std::llround(secondi * frequenza);
     std::vector<float> stereo(static_cast<std::size_t>(2 * richiesti));
     for (std::int64_t fatti = 0; fatti < richiesti;) {
-        const std::int64_t ora = std::min(frameDiBuffer, richiesti - fatti);
+        const std::int64_t ora = std::min(frameDiOgniPasso, richiesti - fatti);
         Passa(static_cast<double>(frame_ + ora) / frequenza);
         motore_.mescolatore.Rendi(stereo.data() + 2 * fatti, static_cast<int>(ora),
                                   static_cast<double>(frame_) / frequenza);

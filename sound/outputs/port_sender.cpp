@@ -11,7 +11,7 @@ namespace corvana {
 
 namespace {
 
-constexpr double pazienza = 0.5;
+constexpr double pazienzaConLaPorta = 0.5;
 
 bool Spedisci(PortaUscita& porta, std::uint32_t parola) {
     const auto corto = Decodifica(parola);
@@ -48,7 +48,7 @@ struct MittentePorta::Stato {
 MittentePorta::MittentePorta(AperturaPorta apertura)
     : stato_(std::make_shared<Stato>()),
       filo_([stato = stato_, apertura = std::move(apertura)] { Esegui(*stato, apertura); },
-            pazienza) {}
+            pazienzaConLaPorta) {}
 
 MittentePorta::~MittentePorta() {
     Chiudi();

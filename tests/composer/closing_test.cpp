@@ -9,7 +9,7 @@ namespace {
 
 using Boxes = std::vector<std::string>;
 
-constexpr std::int32_t violino = 40;
+constexpr std::int32_t programmaViolino = 40;
 
 /// A note in the soprano, changed since it was saved.
 struct BancoModificato : BancoComposer {
@@ -25,13 +25,13 @@ struct BancoModificato : BancoComposer {
 TEST(ChiusuraComposer, AnUnmodifiedMelodyClosesWithoutAQuestionAndTheFolderIsKept) {
     BancoComposer b;
     b.globali.percorsoCorrente = "/home/mine/";
-    b.globali.StrumentoGlobale = violino;
+    b.globali.StrumentoGlobale = programmaViolino;
     b.globali.hover.HoverNome = "toolbutton1";
     b.uscita.messaggi.clear();
     EXPECT_TRUE(b.finestre.Scarica(b.finestra));
     EXPECT_TRUE(b.dialoghi.messaggi.empty());
     EXPECT_EQ(b.impostazioni.LeggiValore("LastDir"), "/home/mine/");
-    EXPECT_EQ(b.Programmi(), (std::vector<std::pair<int, int>>{{1, violino}}));
+    EXPECT_EQ(b.Programmi(), (std::vector<std::pair<int, int>>{{1, programmaViolino}}));
     EXPECT_FALSE(b.globali.ComposerAperto);
     EXPECT_EQ(b.globali.hover.HoverNome, "");
 }

@@ -9,8 +9,6 @@
 
 namespace corvana::prova {
 
-inline const Linee soloSoprano = {"60;62;", "1;1;", "n;n;", " 60 ", " 16 "};
-
 struct BancoCarica : BancoComposer {
     using BancoComposer::BancoComposer;
 

@@ -6,6 +6,14 @@
 
 namespace corvana::prova {
 
+/// A voice's text that says the same so many times.
+inline std::string Ripetuto(const std::string& token, int volte) {
+    std::string testo;
+    for (int i = 0; i < volte; ++i)
+        testo += token;
+    return testo;
+}
+
 using Linee = std::vector<std::string>;
 
 /// The file of these lines.
@@ -15,6 +23,9 @@ inline std::string FileDi(const Linee& linee) {
         byte += linea + "\r\n";
     return byte;
 }
+
+/// The soprano's two notes and nothing else.
+inline const Linee soloSoprano = {"60;62;", "1;1;", "n;n;", " 60 ", " 16 "};
 
 /// Two voices, the metronome's settings, the bookmark of the whole melody and one more.
 inline const Linee dueVoci = {"60;62;64;65;", "1;1;1;1;",

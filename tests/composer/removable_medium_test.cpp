@@ -10,8 +10,6 @@ namespace {
 
 using Boxes = std::vector<std::string>;
 
-const Linee dueNote = {"60;62;", "1;1;", "n;n;", " 60 ", " 16 "};
-
 /// A melody with a name and a medium in the machine.
 struct BancoSupporto : BancoComposer {
     std::vector<int> puntatori;  ///< the pointer's shape as each box comes up
@@ -46,7 +44,7 @@ struct BancoSupporto : BancoComposer {
 TEST(SalvaSuSupporto, WritesTheMelodyToTheMediumAndSaysSo) {
     BancoSupporto b;
     b.Subito(Fatto::Click, "mnuSalvaA");
-    EXPECT_EQ(b.SulSupporto("song.mel"), FileDi(dueNote));
+    EXPECT_EQ(b.SulSupporto("song.mel"), FileDi(soloSoprano));
     EXPECT_EQ(b.dialoghi.messaggi, Boxes{"song.mel\r\nsalvata"});
     EXPECT_FALSE(b.Modificata());
 }
@@ -54,7 +52,7 @@ TEST(SalvaSuSupporto, WritesTheMelodyToTheMediumAndSaysSo) {
 TEST(SalvaSuSupporto, TheEntryOfTheContextMenuDoesTheSame) {
     BancoSupporto b;
     b.Subito(Fatto::Click, "mnucSalvaA");
-    EXPECT_EQ(b.SulSupporto("song.mel"), FileDi(dueNote));
+    EXPECT_EQ(b.SulSupporto("song.mel"), FileDi(soloSoprano));
 }
 
 TEST(SalvaSuSupporto, ChangesNeitherTheShownNameNorTheList) {
@@ -96,7 +94,7 @@ TEST(SalvaSuSupporto, WithoutANameAsksForOneAndProposesNone) {
     EXPECT_EQ(b.dialoghi.messaggi, (Boxes{"nome?", "mine.mel\r\nsalvata"}));
     EXPECT_EQ(b.dialoghi.titoli, Boxes{"salva con nome"});
     EXPECT_EQ(b.dialoghi.proposte, Boxes{""});
-    EXPECT_EQ(b.SulSupporto("mine.mel"), FileDi(dueNote));
+    EXPECT_EQ(b.SulSupporto("mine.mel"), FileDi(soloSoprano));
     EXPECT_EQ(b.melodia.nomeMelodia, "mine");
 }
 
@@ -129,7 +127,7 @@ TEST(SalvaSuSupporto, ReplacesAFileOfThatNameWithoutAQuestion) {
     BancoSupporto b;
     b.file.contenuti["/media/stick/song.mel"] = "old";
     b.finestra.mnuSalvaA_Click();
-    EXPECT_EQ(b.SulSupporto("song.mel"), FileDi(dueNote));
+    EXPECT_EQ(b.SulSupporto("song.mel"), FileDi(soloSoprano));
     EXPECT_EQ(b.dialoghi.messaggi, Boxes{"song.mel\r\nsalvata"});
 }
 

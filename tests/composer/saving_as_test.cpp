@@ -10,8 +10,6 @@ namespace {
 
 using Boxes = std::vector<std::string>;
 
-const Linee dueNote = {"60;62;", "1;1;", "n;n;", " 60 ", " 16 "};
-
 struct BancoConNome : BancoComposer {
     int scrittePrima = file.scritture;
 
@@ -36,7 +34,7 @@ TEST(SalvaConNome, AsksWithPromptAndTitleAndProposesNothingWithoutAChosenRow) {
     EXPECT_EQ(b.dialoghi.titoli, Boxes{"salva con nome"});
     EXPECT_EQ(b.dialoghi.proposte, Boxes{""});
     EXPECT_EQ(b.melodia.nomeMelodia, "new");
-    EXPECT_EQ(b.ContenutoFile("new"), FileDi(dueNote));
+    EXPECT_EQ(b.ContenutoFile("new"), FileDi(soloSoprano));
     EXPECT_EQ(b.finestra.lblNome.Caption(), "Salvato: new");
     EXPECT_FALSE(b.finestra.lblModificato.Visible());
 }
@@ -57,7 +55,7 @@ TEST(SalvaConNome, OnAFolderOffersItsSignAndNameWhichTheTestOfCharactersDoesntCa
     b.Rispondi("» mine");
     EXPECT_EQ(b.dialoghi.proposte, Boxes{"» mine"});
     EXPECT_EQ(b.dialoghi.messaggi, Boxes{"nome?"});
-    EXPECT_EQ(b.ContenutoFile("» mine"), FileDi(dueNote));
+    EXPECT_EQ(b.ContenutoFile("» mine"), FileDi(soloSoprano));
 }
 
 TEST(SalvaConNome, OpensTheListAndAsksNothingWhenTheSopranoIsEmpty) {
@@ -76,7 +74,7 @@ TEST(SalvaConNome, TheEntriesOfBothMenusDoTheSame) {
         b.dialoghi.testi = {"new"};
         b.Subito(Fatto::Click, voce);
         EXPECT_TRUE(b.finestra.Fr2.Visible());
-        EXPECT_EQ(b.ContenutoFile("new"), FileDi(dueNote));
+        EXPECT_EQ(b.ContenutoFile("new"), FileDi(soloSoprano));
     }
 }
 
@@ -84,7 +82,7 @@ TEST(SalvaConNome, TakesOuterBlanksOffAndLeavesInnerOnesAndQuotes) {
     BancoConNome b;
     b.Rispondi("  my \"new\" song ");
     EXPECT_EQ(b.melodia.nomeMelodia, "my \"new\" song");
-    EXPECT_EQ(b.ContenutoFile("my \"new\" song"), FileDi(dueNote));
+    EXPECT_EQ(b.ContenutoFile("my \"new\" song"), FileDi(soloSoprano));
 }
 
 TEST(SalvaConNome, ARefusedNameGivesTheOldOneBackWhenANameIsShown) {
@@ -140,7 +138,7 @@ TEST(SalvaConNome, AYesToReplacingAMelodyReplacesIt) {
     b.PonFile("new", "another");
     b.dialoghi.risposte = {true};
     b.Rispondi("new");
-    EXPECT_EQ(b.ContenutoFile("new"), FileDi(dueNote));
+    EXPECT_EQ(b.ContenutoFile("new"), FileDi(soloSoprano));
     EXPECT_FALSE(b.finestra.lblModificato.Visible());
 }
 

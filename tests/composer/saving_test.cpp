@@ -33,8 +33,6 @@ private:
     int scrittePrima_ = file.scritture;
 };
 
-const Linee soloSoprano = {"60;62;", "1;1;", "n;n;", " 60 ", " 16 "};
-
 }  // namespace
 
 TEST(SalvaMelodia, WithOnlyASopranoAndTheMetronomeOffIsExactlyFiveLines) {

@@ -12,28 +12,28 @@ namespace corvana::prova {
 
 namespace {
 
-constexpr std::array<DurataModello, 22> durate = {{{"4", 128},
-                                                   {"2", 64},
-                                                   {"1", 32},
-                                                   {"0.5", 16},
-                                                   {"0.25", 8},
-                                                   {"0.125", 4},
-                                                   {"0.0625", 2},
-                                                   {"0.03125", 1},
-                                                   {"3", 96},
-                                                   {"1.5", 48},
-                                                   {"0,75", 24},
-                                                   {"0,375", 12},
-                                                   {"2.25", 72},
-                                                   {"7", 224},
-                                                   {"5.5", 176},
-                                                   {"2.66666666666667", 85, true},
-                                                   {"1.33333333333333", 43, true},
-                                                   {"0.666666666666667", 21, true},
-                                                   {"0.333333333333333", 11, true},
-                                                   {"0.166666666666667", 5, true},
-                                                   {"0.0833333333333333", 3, true},
-                                                   {"0.0416666666666667", 1, true}}};
+constexpr std::array<DurataModello, 22> durateDelModello = {{{"4", 128},
+                                                             {"2", 64},
+                                                             {"1", 32},
+                                                             {"0.5", 16},
+                                                             {"0.25", 8},
+                                                             {"0.125", 4},
+                                                             {"0.0625", 2},
+                                                             {"0.03125", 1},
+                                                             {"3", 96},
+                                                             {"1.5", 48},
+                                                             {"0,75", 24},
+                                                             {"0,375", 12},
+                                                             {"2.25", 72},
+                                                             {"7", 224},
+                                                             {"5.5", 176},
+                                                             {"2.66666666666667", 85, true},
+                                                             {"1.33333333333333", 43, true},
+                                                             {"0.666666666666667", 21, true},
+                                                             {"0.333333333333333", 11, true},
+                                                             {"0.166666666666667", 5, true},
+                                                             {"0.0833333333333333", 3, true},
+                                                             {"0.0416666666666667", 1, true}}};
 
 /// Sums of three tuplet notes, and what the third of them gets.
 const std::map<int, int> correzioni = {{255, 1}, {129, -1}, {63, 1}, {33, -1},
@@ -152,17 +152,17 @@ VoceModello EstraiVoce(bool anchePrivaDiNote) {
     using Tratto = std::tuple<std::size_t, int, int, char>;
     // The whole ranges also of a melody that is still small.
     const auto tratto = rc::gen::resize(
-        rc::kNominalSize,
-        rc::gen::tuple(rc::gen::inRange<std::size_t>(0, durate.size()), rc::gen::inRange(36, 96),
-                       rc::gen::inRange(0, 4), rc::gen::element('n', 'n', 'a', 's', 't', 'p')));
+        rc::kNominalSize, rc::gen::tuple(rc::gen::inRange<std::size_t>(0, durateDelModello.size()),
+                                         rc::gen::inRange(36, 96), rc::gen::inRange(0, 4),
+                                         rc::gen::element('n', 'n', 'a', 's', 't', 'p')));
     auto tratti = *rc::gen::resize(12, rc::gen::container<std::vector<Tratto>>(tratto));
     if (tratti.empty() && !anchePrivaDiNote) tratti.emplace_back(2, 60, 0, 'n');
     VoceModello voce;
     for (const auto& [durata, nota, gruppo, attributo] : tratti) {
         // Most tuplet notes come as the three of a whole group.
-        const int note = durate.at(durata).tuplet && gruppo > 0 ? 3 : 1;
+        const int note = durateDelModello.at(durata).tuplet && gruppo > 0 ? 3 : 1;
         for (int i = 0; i < note; ++i)
-            voce.push_back({durate.at(durata), attributo == 'p' ? 0 : nota, attributo});
+            voce.push_back({durateDelModello.at(durata), attributo == 'p' ? 0 : nota, attributo});
     }
     return voce;
 }

@@ -4,18 +4,12 @@
 #include "melody/durations.h"
 #include "melody/tokens.h"
 #include "tests/composer/composer_rig.h"
+#include "tests/composer/mel_lines.h"
 #include "tests/melody/fault_number.h"
 
 namespace corvana::prova {
 
 namespace {
-
-std::string Ripetuto(const std::string& token, int volte) {
-    std::string testo;
-    for (int i = 0; i < volte; ++i)
-        testo += token;
-    return testo;
-}
 
 /// The list's word for a duration token.
 std::string DurataDi(BancoComposer& b, const std::string& token) {

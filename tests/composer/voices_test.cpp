@@ -2,18 +2,12 @@
 #include <gtest/gtest.h>
 
 #include "tests/composer/composer_rig.h"
+#include "tests/composer/mel_lines.h"
 #include "tests/melody/fault_number.h"
 
 namespace corvana::prova {
 
 namespace {
-
-std::string Ripetuto(const std::string& token, int volte) {
-    std::string testo;
-    for (int i = 0; i < volte; ++i)
-        testo += token;
-    return testo;
-}
 
 struct BancoVoci : BancoComposer {
     /// Gives the texts and makes the voice the active one, without splitting them.

@@ -42,7 +42,7 @@ ContenutoMel Convertito(const LetturaMel& letta) {
     return contenuto;
 }
 
-auto Campi(const VoceMelodia& voce) {
+auto CampiDi(const VoceMelodia& voce) {
     return std::tie(voce.testoNote, voce.testoDurate, voce.testoAttributi, voce.strumento);
 }
 
@@ -57,7 +57,7 @@ bool UgualiMetronomi(const std::optional<MetronomoMel>& uno,
 
 bool operator==(const ContenutoMel& uno, const ContenutoMel& altro) {
     for (std::size_t voce = 0; voce < numeroVoci; ++voce)
-        if (Campi(uno.voci[voce]) != Campi(altro.voci[voce])) return false;
+        if (CampiDi(uno.voci[voce]) != CampiDi(altro.voci[voce])) return false;
     return uno.tempo == altro.tempo && UgualiMetronomi(uno.metronomo, altro.metronomo) &&
            uno.riferimenti == altro.riferimenti;
 }

@@ -36,9 +36,9 @@ std::vector<std::size_t> Voci(const LetturaMel& letta) {
     return voci;
 }
 
-const std::string contralto = Righe({"contralto;48", "55;", "1;", "n;"});
-const std::string tenore = Righe({"tenore;19", "50;", "2;", "s;"});
-const std::string basso = Righe({"basso;32", "43;", "4;", "t;"});
+const std::string bloccoContralto = Righe({"contralto;48", "55;", "1;", "n;"});
+const std::string bloccoTenore = Righe({"tenore;19", "50;", "2;", "s;"});
+const std::string bloccoBasso = Righe({"basso;32", "43;", "4;", "t;"});
 using Indici = std::vector<std::size_t>;
 
 }  // namespace
@@ -89,13 +89,14 @@ TEST(RigaRiferimenti, ASingleRowIsTakenForAHeaderAndDropped) {
 }
 
 TEST(RigaRiferimenti, ASingleRowCountsAsOneOfTheThreeBlocks) {
-    const LetturaMel letta = Letta(Dietro({"1 \xF7 4 \xF7Tutta;"}) + contralto + tenore + basso);
+    const LetturaMel letta =
+        Letta(Dietro({"1 \xF7 4 \xF7Tutta;"}) + bloccoContralto + bloccoTenore + bloccoBasso);
     EXPECT_EQ(Voci(letta), (Indici{1, 2}));
 }
 
 TEST(RigaRiferimenti, ALineWithoutSemicolonIsBookmarksOfNoRow) {
     for (const char* riga : {"", "contralto", "1 \xF7 4 \xF7Tutta", " "}) {
-        const LetturaMel letta = Letta(Dietro({riga}) + basso);
+        const LetturaMel letta = Letta(Dietro({riga}) + bloccoBasso);
         EXPECT_TRUE(letta.conRiferimenti) << riga;
         EXPECT_TRUE(letta.riferimenti.empty()) << riga;
         EXPECT_EQ(Voci(letta), Indici{3}) << riga;
@@ -110,19 +111,22 @@ TEST(RigaRiferimenti, AHeaderWithAClosingSemicolonIsBookmarks) {
 }
 
 TEST(RigaRiferimenti, OnlyTheFirstLineBehindTheFiveCanBeBookmarks) {
-    const LetturaMel letta = Letta(Dietro({"a;b;", "c;d;"}) + basso);
+    const LetturaMel letta = Letta(Dietro({"a;b;", "c;d;"}) + bloccoBasso);
     EXPECT_EQ(letta.riferimenti, (Campi{"a", "b"}));
     EXPECT_EQ(Voci(letta), Indici{3});
 }
 
 TEST(Blocchi, AreReadWithAndWithoutBookmarksInTheOrderOfTheFile) {
-    EXPECT_EQ(Voci(Letta(ConQuinta(" 16 ", contralto + tenore + basso))), (Indici{1, 2, 3}));
-    EXPECT_EQ(Voci(Letta(ConQuinta(" 16 ", basso + contralto))), (Indici{3, 1}));
-    EXPECT_EQ(Voci(Letta(Dietro({"a;b;"}) + tenore + basso + contralto)), (Indici{2, 3, 1}));
+    EXPECT_EQ(Voci(Letta(ConQuinta(" 16 ", bloccoContralto + bloccoTenore + bloccoBasso))),
+              (Indici{1, 2, 3}));
+    EXPECT_EQ(Voci(Letta(ConQuinta(" 16 ", bloccoBasso + bloccoContralto))), (Indici{3, 1}));
+    EXPECT_EQ(Voci(Letta(Dietro({"a;b;"}) + bloccoTenore + bloccoBasso + bloccoContralto)),
+              (Indici{2, 3, 1}));
 }
 
 TEST(Blocchi, AFourthIsIgnored) {
-    const std::string quattro = contralto + tenore + basso + Righe({"tenore;1", "36;", "8;", "a;"});
+    const std::string quattro =
+        bloccoContralto + bloccoTenore + bloccoBasso + Righe({"tenore;1", "36;", "8;", "a;"});
     for (const std::string& prima : {ConQuinta(" 16 "), Dietro({"a;b;"})}) {
         const LetturaMel letta = Letta(prima + quattro);
         EXPECT_EQ(Voci(letta), (Indici{1, 2, 3}));
@@ -131,26 +135,28 @@ TEST(Blocchi, AFourthIsIgnored) {
 }
 
 TEST(Blocchi, WhatStandsBehindTheThirdIsNotRead) {
-    EXPECT_EQ(Voci(Letta(ConQuinta(" 16 ", contralto + tenore + basso + "tenore"))),
-              (Indici{1, 2, 3}));
+    EXPECT_EQ(
+        Voci(Letta(ConQuinta(" 16 ", bloccoContralto + bloccoTenore + bloccoBasso + "tenore"))),
+        (Indici{1, 2, 3}));
 }
 
 TEST(Blocchi, AVoiceMayComeTwice) {
     const LetturaMel letta =
-        Letta(ConQuinta(" 16 ", basso + Righe({"basso;5", "36;", "8;", "a;"})));
+        Letta(ConQuinta(" 16 ", bloccoBasso + Righe({"basso;5", "36;", "8;", "a;"})));
     EXPECT_EQ(Voci(letta), (Indici{3, 3}));
     EXPECT_EQ(letta.blocchi[1].strumento, "5");
 }
 
 TEST(Blocchi, ALineOfAnyOtherNameIsDroppedAloneAndCounts) {
     for (const char* riga : {"soprano;1", "Basso;32", "alto;3", "basso ;32", "basso:32;1"}) {
-        const LetturaMel letta = Letta(Dietro({"a;b;", riga}) + contralto + tenore + basso);
+        const LetturaMel letta =
+            Letta(Dietro({"a;b;", riga}) + bloccoContralto + bloccoTenore + bloccoBasso);
         EXPECT_EQ(Voci(letta), (Indici{1, 2})) << riga;
     }
 }
 
 TEST(Blocchi, TheTextsOfADroppedHeaderAreTakenForHeadersToo) {
-    const LetturaMel letta = Letta(Dietro({"alto;48", "55;", "1;", "n;"}) + basso);
+    const LetturaMel letta = Letta(Dietro({"alto;48", "55;", "1;", "n;"}) + bloccoBasso);
     EXPECT_TRUE(letta.blocchi.empty());
 }
 

@@ -12,7 +12,7 @@ namespace corvana::prova {
 
 namespace {
 
-int GuastoDi(const std::string& testo) {
+int GuastoDelNumero(const std::string& testo) {
     return NumeroDelGuasto([&] { NumeroReale(testo); });
 }
 
@@ -79,32 +79,32 @@ TEST(NumeroReale, IgnoresBlanksAroundTheNumberAndNowhereElse) {
     EXPECT_EQ(NumeroReale(" 60 "), 60);
     EXPECT_EQ(NumeroReale("   0,5"), 0.5);
     for (const char* testo : {"6 0", "- 6", "\t6", "6\r", "0, 5"})
-        EXPECT_EQ(GuastoDi(testo), guastoTipo) << testo;
+        EXPECT_EQ(GuastoDelNumero(testo), guastoTipo) << testo;
 }
 
 TEST(NumeroReale, RefusesWhatIsNoNumber) {
     for (const char* testo :
          {"",   " ",  "x",   "4x",  "x4",  "n",   "-",     "+",     ".",     ",",
           "e5", "1e", "1e+", "--4", "+-4", "++4", "1.2.3", "1,2,3", "1.2,3", "÷"})
-        EXPECT_EQ(GuastoDi(testo), guastoTipo) << testo;
-    EXPECT_EQ(GuastoDi(std::string("4\0", 2)), guastoTipo);
+        EXPECT_EQ(GuastoDelNumero(testo), guastoTipo) << testo;
+    EXPECT_EQ(GuastoDelNumero(std::string("4\0", 2)), guastoTipo);
 }
 
 TEST(NumeroReale, RefusesTheWordsForInfinityAndHexadecimalDigits) {
     for (const char* testo : {"inf", "-inf", "INF", "infinity", "nan", "NAN", "-nan", "nan(1)",
                               "0x10", "0x1p3", "1p3", "&H10", "1d5"})
-        EXPECT_EQ(GuastoDi(testo), guastoTipo) << testo;
+        EXPECT_EQ(GuastoDelNumero(testo), guastoTipo) << testo;
 }
 
 TEST(NumeroReale, ANumberThatNoDoubleHoldsIsAnOverflow) {
-    EXPECT_EQ(GuastoDi("1E+309"), guastoTraboccamento);
-    EXPECT_EQ(GuastoDi("-1,5E999"), guastoTraboccamento);
-    EXPECT_EQ(GuastoDi(" " + std::string(400, '9') + " "), guastoTraboccamento);
+    EXPECT_EQ(GuastoDelNumero("1E+309"), guastoTraboccamento);
+    EXPECT_EQ(GuastoDelNumero("-1,5E999"), guastoTraboccamento);
+    EXPECT_EQ(GuastoDelNumero(" " + std::string(400, '9') + " "), guastoTraboccamento);
 }
 
 TEST(NumeroReale, WhatIsNoNumberIsAMismatchAlsoBehindDigitsThatNoDoubleHolds) {
     for (const char* testo : {"1e999x", "1e999;", "1e999,5", "1e999 1", "-1e999-"})
-        EXPECT_EQ(GuastoDi(testo), guastoTipo) << testo;
+        EXPECT_EQ(GuastoDelNumero(testo), guastoTipo) << testo;
 }
 
 RC_GTEST_PROP(NumeroReale, AnyTextGivesAFiniteNumberOrAFault, ()) {

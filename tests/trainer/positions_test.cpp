@@ -11,7 +11,7 @@ namespace corvana::prova {
 namespace {
 
 /// What is known of a position, written down independently of the table under test.
-struct Attesa {
+struct PostoAtteso {
     int numero, valore, midi;
     const char* nome;
     const char* risposta;
@@ -20,7 +20,7 @@ struct Attesa {
     int left, top, width, height;
 };
 
-constexpr std::array<Attesa, 46> attese = {{
+constexpr std::array<PostoAtteso, 46> postiAttesi = {{
     {11, 496, 31, "Sol", "SOL", 4545, 4635, 'M', 4845, 3975, 435, 630},
     {12, 498, 33, "La", "LA", 4425, 4530, 'M', 4095, 3975, 435, 525},
     {13, 500, 35, "Si", "SI", 4305, 4395, 'M', 3330, 3975, 435, 405},
@@ -78,7 +78,7 @@ Specie SpecieDi(char lettera) {
 
 /// The number of the position whose band holds `y`, or 0.
 int NumeroDaY(int y) {
-    for (const Attesa& attesa : attese)
+    for (const PostoAtteso& attesa : postiAttesi)
         if (y >= attesa.da && y <= attesa.a) return attesa.numero;
     return 0;
 }
@@ -86,13 +86,13 @@ int NumeroDaY(int y) {
 }  // namespace
 
 TEST(Posizioni, AreTheFortySixInAscendingOrder) {
-    ASSERT_EQ(Posizioni().size(), attese.size());
-    for (std::size_t i = 0; i < attese.size(); ++i)
-        EXPECT_EQ(Posizioni()[i].numero, attese[i].numero);
+    ASSERT_EQ(Posizioni().size(), postiAttesi.size());
+    for (std::size_t i = 0; i < postiAttesi.size(); ++i)
+        EXPECT_EQ(Posizioni()[i].numero, postiAttesi[i].numero);
 }
 
 TEST(Posizioni, EachHasItsPitch) {
-    for (const Attesa& attesa : attese) {
+    for (const PostoAtteso& attesa : postiAttesi) {
         const Posizione* p = CercaPosizione(attesa.numero);
         ASSERT_NE(p, nullptr);
         EXPECT_EQ(p->valore, attesa.valore) << attesa.numero;
@@ -102,7 +102,7 @@ TEST(Posizioni, EachHasItsPitch) {
 }
 
 TEST(Posizioni, EachHasTheNameOfItsPitch) {
-    for (const Attesa& attesa : attese) {
+    for (const PostoAtteso& attesa : postiAttesi) {
         const int valore = CercaPosizione(attesa.numero)->valore;
         EXPECT_EQ(NomeNota(static_cast<std::int16_t>(valore + 36), false), attesa.nome)
             << attesa.numero;
@@ -110,7 +110,7 @@ TEST(Posizioni, EachHasTheNameOfItsPitch) {
 }
 
 TEST(Posizioni, EachHasItsAnswer) {
-    for (const Attesa& attesa : attese) {
+    for (const PostoAtteso& attesa : postiAttesi) {
         const int risposta = RispostaDi(*CercaPosizione(attesa.numero));
         EXPECT_STREQ(risposte.at(static_cast<std::size_t>(risposta - 1)), attesa.risposta)
             << attesa.numero;
@@ -118,7 +118,7 @@ TEST(Posizioni, EachHasItsAnswer) {
 }
 
 TEST(Posizioni, EachHasItsControlOnThePicture) {
-    for (const Attesa& attesa : attese) {
+    for (const PostoAtteso& attesa : postiAttesi) {
         const Posizione* p = CercaPosizione(attesa.numero);
         EXPECT_EQ(p->specie, SpecieDi(attesa.specie)) << attesa.numero;
         EXPECT_EQ(p->left, attesa.left) << attesa.numero;
@@ -135,7 +135,7 @@ TEST(Posizioni, TheStavesOverlapByEightNotes) {
 
 TEST(Posizioni, NoOtherNumberIsOne) {
     std::set<int> numeri;
-    for (const Attesa& attesa : attese)
+    for (const PostoAtteso& attesa : postiAttesi)
         numeri.insert(attesa.numero);
     for (int numero = -300; numero <= 300; ++numero)
         EXPECT_EQ(CercaPosizione(numero) != nullptr, numeri.contains(numero)) << numero;

@@ -13,12 +13,12 @@ namespace corvana::prova {
 
 namespace {
 
-struct Attesa {
+struct RigaAttesa {
     const char* testo;
     int basso, alto;
 };
 
-constexpr std::array<Attesa, 11> attese = {{
+constexpr std::array<RigaAttesa, 11> righeAttese = {{
     {"Chiave di Sol: SI - MI", 43, 53},
     {"Chiave di Sol: Sol - Sol", 41, 55},
     {"Chiave di Sol: Fa - Do", 40, 58},
@@ -41,17 +41,17 @@ std::uint8_t Byte(int numero) {
 }  // namespace
 
 TEST(RigheEsercizio, AreTheElevenOfTheList) {
-    for (std::size_t i = 0; i < attese.size(); ++i) {
-        EXPECT_EQ(righeEsercizio.at(i).testo, attese.at(i).testo);
-        EXPECT_EQ(righeEsercizio.at(i).limiteBasso, attese.at(i).basso) << i;
-        EXPECT_EQ(righeEsercizio.at(i).limiteAlto, attese.at(i).alto) << i;
+    for (std::size_t i = 0; i < righeAttese.size(); ++i) {
+        EXPECT_EQ(righeEsercizio.at(i).testo, righeAttese.at(i).testo);
+        EXPECT_EQ(righeEsercizio.at(i).limiteBasso, righeAttese.at(i).basso) << i;
+        EXPECT_EQ(righeEsercizio.at(i).limiteAlto, righeAttese.at(i).alto) << i;
     }
 }
 
 TEST(RigaDaLimiti, FindsEachRowByItsLimitsAndNoSeparator) {
-    for (std::size_t i = 0; i < attese.size(); ++i) {
-        const bool separatore = attese.at(i).basso == 0;
-        const auto riga = RigaDaLimiti(attese.at(i).basso, attese.at(i).alto);
+    for (std::size_t i = 0; i < righeAttese.size(); ++i) {
+        const bool separatore = righeAttese.at(i).basso == 0;
+        const auto riga = RigaDaLimiti(righeAttese.at(i).basso, righeAttese.at(i).alto);
         EXPECT_EQ(riga.value_or(-1), separatore ? -1 : static_cast<int>(i));
     }
 }
