@@ -9,7 +9,7 @@ namespace corvana::prova {
 
 namespace {
 
-constexpr int pazienza = 30'000;  ///< milliseconds; a busy machine never comes near it
+constexpr int pazienza = 60'000;  ///< milliseconds; a busy machine never comes near it
 
 VistaFinestra& Davanti(Scrivania& scrivania) {
     VistaFinestra* davanti = scrivania.Davanti();

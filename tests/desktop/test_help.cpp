@@ -113,7 +113,7 @@ TEST(FinestraAiuto, BackNeverLeadsToTheOtherLanguage) {
 TEST(FinestraAiuto, EscClosesIt) {
     Aiuto a;
     a.finestra.Mostra(italiano, 2);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&a.finestra));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&a.finestra, 60'000));
     QTest::keyClick(a.finestra.windowHandle(), Qt::Key_Escape);
     EXPECT_FALSE(a.finestra.isVisible());
     EXPECT_EQ(a.chiusure, 1);
@@ -140,7 +140,7 @@ TEST(FinestraAiuto, EveryPictureAndLinkOfEveryPageIsFound) {
 TEST(FinestraAiuto, PicturesFitTheWindowAndTheStyleSheetCounts) {
     Aiuto a;
     a.finestra.Mostra(italiano, 2);
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&a.finestra));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&a.finestra, 60'000));
     const QTextBrowser& testo = a.finestra.Testo();
     EXPECT_LE(testo.document()->idealWidth(), testo.viewport()->width());
     const QTextBlock sottotitolo = testo.document()->begin().next();

@@ -134,6 +134,26 @@ std::vector<double> Attacchi(std::span<const float> mono) {
     return attacchi;
 }
 
+std::vector<int> NoteUdite(std::span<const float> mono) {
+    constexpr double finestra = 0.08;
+    constexpr double passo = 0.04;
+    constexpr double udibile = 0.2;  ///< of the loudest moment
+    const double soglia = udibile * Picco(mono);
+    std::vector<int> note;
+    int prima = 0;
+    for (double inizio = 0; Parte(mono, inizio, finestra).size() > 0; inizio += passo) {
+        const auto parte = Parte(mono, inizio, finestra);
+        const double nota = Picco(parte) < soglia ? 0 : NotaMidi(std::max(Altezza(parte), 1.0));
+        const int vicina = static_cast<int>(std::lround(nota));
+        const bool chiara = nota > 0 && std::fabs(nota - vicina) < 0.25;
+        // A note holds on for two moments at least.
+        if (chiara && vicina == prima && (note.empty() || note.back() != vicina))
+            note.push_back(vicina);
+        prima = chiara ? vicina : 0;
+    }
+    return note;
+}
+
 double Ritrova(std::span<const float> mono, std::span<const float> modello, double intorno,
                double raggio) {
     constexpr std::size_t ogni = 5;  // samples of the model that are compared

@@ -30,6 +30,10 @@ double Picco(std::span<const float> campioni);
 /// 0.1 s count as one.
 std::vector<double> Attacchi(std::span<const float> mono);
 
+/// The MIDI numbers of the notes, one at a time, in their order; one that is struck again at once
+/// counts once. Silence and moments without a clear pitch are passed over.
+std::vector<int> NoteUdite(std::span<const float> mono);
+
 /// Where in `mono` a known sound begins, to some tenths of a millisecond: the place within `raggio`
 /// of `intorno`, all in seconds, where `modello` fits best.
 double Ritrova(std::span<const float> mono, std::span<const float> modello, double intorno,

@@ -78,6 +78,6 @@ private:
 /// Waits until `condizione` holds, which is looked at whenever a file in `cartella` comes, goes or
 /// changes; as long as `processo` lives, and for `secondi` at most. Returns whether it holds.
 bool AspettaInCartella(const std::filesystem::path& cartella, const Processo& processo,
-                       const std::function<bool()>& condizione, double secondi = 20);
+                       const std::function<bool()>& condizione, double secondi = 60);
 
 }  // namespace corvana::prova

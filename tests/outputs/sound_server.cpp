@@ -12,6 +12,8 @@
 #include <iterator>
 #include <system_error>
 
+#include "tests/outputs/hearing.h"
+
 namespace corvana::prova {
 
 namespace {
@@ -80,7 +82,7 @@ bool ServerSonoro::Avvia() {
 }
 
 bool ServerSonoro::AspettaChiLoCerca() const {
-    constexpr int pazienza = 20'000;
+    constexpr int pazienza = 60'000;
     return Portone(Presa()).Bussano(pazienza);
 }
 
@@ -124,8 +126,18 @@ bool Registrazione::Finche(const std::function<bool()>& condizione) const {
     return AspettaInCartella(cartella_.Percorso(), processo_, condizione);
 }
 
+bool Registrazione::Ancora(double secondi) const {
+    const auto inPiu = static_cast<std::size_t>(secondi * frequenzaUdito) * sizeof(float);
+    const auto fine = std::filesystem::file_size(file_) + inPiu;
+    return Finche([&] { return std::filesystem::file_size(file_) >= fine; });
+}
+
 std::vector<float> Registrazione::Ferma() {
     processo_.Termina();
+    return Finora();
+}
+
+std::vector<float> Registrazione::Finora() const {
     std::ifstream file(file_, std::ios::binary);
     std::vector<float> suono(std::filesystem::file_size(file_) / sizeof(float));
     file.read(reinterpret_cast<char*>(suono.data()),

@@ -44,9 +44,13 @@ public:
     explicit Registrazione(const ServerSonoro& server);
     bool InCorso() const { return inCorso_; }
     /// Waits until `condizione` holds, which is looked at whenever a piece of sound has come, for
-    /// some seconds at most.
+    /// a minute at most.
     bool Finche(const std::function<bool()>& condizione) const;
-    /// Ends it: one channel, 48000 samples each second, -1 to 1.
+    /// Waits until that much more sound has come; false when a minute doesn't bring it.
+    bool Ancora(double secondi) const;
+    /// What has come so far: one channel, 48000 samples each second, -1 to 1.
+    std::vector<float> Finora() const;
+    /// Ends it.
     std::vector<float> Ferma();
 
 private:

@@ -10,8 +10,8 @@ namespace {
 TEST(FiloAbbandonabile, RunsItsBodyToTheEnd) {
     int fatto = 0;
     {
-        FiloAbbandonabile filo([&] { fatto = 1; }, 20);
-        EXPECT_TRUE(filo.AspettaFine(20));
+        FiloAbbandonabile filo([&] { fatto = 1; }, 60);
+        EXPECT_TRUE(filo.AspettaFine(60));
     }
     EXPECT_EQ(fatto, 1);
 }
@@ -19,7 +19,7 @@ TEST(FiloAbbandonabile, RunsItsBodyToTheEnd) {
 TEST(FiloAbbandonabile, WaitsForTheEndWhenDestroyed) {
     int fatto = 0;
     {
-        FiloAbbandonabile filo([&] { fatto = 1; }, 20);
+        FiloAbbandonabile filo([&] { fatto = 1; }, 60);
     }
     EXPECT_EQ(fatto, 1);
 }
@@ -42,8 +42,8 @@ TEST(FiloAbbandonabile, LeavesABodyBehindThatDoesNotEnd) {
 
 TEST(FiloAbbandonabile, LetsGoOfWhatItsBodyHolds) {
     auto tenuto = std::make_shared<int>(1);
-    FiloAbbandonabile filo([tenuto] {}, 20);
-    EXPECT_TRUE(filo.AspettaFine(20));
+    FiloAbbandonabile filo([tenuto] {}, 60);
+    EXPECT_TRUE(filo.AspettaFine(60));
     EXPECT_EQ(tenuto.use_count(), 1);
 }
 

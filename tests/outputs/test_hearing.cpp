@@ -44,6 +44,16 @@ TEST(Udito, NumbersNotesFromTheirFrequency) {
     EXPECT_NEAR(NotaMidi(261.6256), 60, 1e-4);
 }
 
+TEST(Udito, TellsNotesInTheirOrderAcrossSilenceAndHum) {
+    std::vector<float> onda;
+    for (const double hertz : {440.0, 0.0, 440.0, 523.25, 329.63, 1.0, 440.0}) {
+        const auto parte = Accordo({hertz, 2 * hertz}, 0.3);
+        onda.insert(onda.end(), parte.begin(), parte.end());
+    }
+    EXPECT_EQ(NoteUdite(onda), (std::vector<int>{69, 72, 64, 69}));
+    EXPECT_TRUE(NoteUdite(std::vector<float>(48000)).empty());
+}
+
 TEST(Udito, FindsStrokesWithinTwoMilliseconds) {
     std::vector<float> onda(48000);
     for (const double inizio : {0.1, 0.45, 0.8})

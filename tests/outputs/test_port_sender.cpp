@@ -43,7 +43,7 @@ struct Banco {
     /// False when a generous time doesn't bring it about.
     bool Aspetta(const std::function<bool()>& condizione) {
         std::unique_lock guardia(blocco);
-        return cambiato.wait_for(guardia, std::chrono::seconds(20), condizione);
+        return cambiato.wait_for(guardia, std::chrono::seconds(60), condizione);
     }
 };
 

@@ -16,7 +16,7 @@ constexpr const char* pausa = "exec tail -f /dev/null";
 
 TEST(Processo, ItsEndIsWaitedForAndItsResultKept) {
     Processo breve({{"sh", "-c", "exit 7"}});
-    EXPECT_TRUE(breve.AspettaFine(20));
+    EXPECT_TRUE(breve.AspettaFine(60));
     EXPECT_FALSE(breve.Vivo());
     EXPECT_EQ(breve.EsitoFinale(), 7);
 }
@@ -66,7 +66,7 @@ TEST(AspettaInCartella, TheLastThatAProgramWroteCounts) {
     const CartellaPropria cartella;
     const auto file = cartella.Percorso() / "file";
     const Processo breve({{"sh", "-c", "echo uno"}, {}, file});
-    EXPECT_TRUE(breve.AspettaFine(20));
+    EXPECT_TRUE(breve.AspettaFine(60));
     EXPECT_TRUE(AspettaInCartella(cartella.Percorso(), breve,
                                   [&] { return std::filesystem::file_size(file) == 4; }));
 }
