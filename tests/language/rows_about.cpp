@@ -8,7 +8,7 @@ namespace {
 
 using T = TestiLingua;
 
-constexpr auto righe = std::to_array<RigaAttesa>({
+constexpr auto righeAbout = std::to_array<RigaAttesa>({
     {79, "", "edizione", "edition", &T::TxtVersione},
     {80, "", "Leggere, ascoltare", "Reading, listening", &T::TxtMotto},
     {81, "", "licenza MIT", "MIT License", &T::TxtLicenza},
@@ -18,7 +18,7 @@ constexpr auto righe = std::to_array<RigaAttesa>({
 }  // namespace
 
 RigheAttese RigheAbout() {
-    return righe;
+    return righeAbout;
 }
 
 }  // namespace corvana::prova

@@ -8,7 +8,7 @@ namespace {
 
 using T = TestiLingua;
 
-constexpr auto righe = std::to_array<RigaAttesa>({
+constexpr auto righeComposer = std::to_array<RigaAttesa>({
     {245, "frmComposer", "Composizione", "Composing"},
     {246, "strumento", "&Strumento", "&Instrument"},
     {247, "mnuOp", "Opzioni", "Options"},
@@ -150,7 +150,7 @@ constexpr auto righe = std::to_array<RigaAttesa>({
 }  // namespace
 
 RigheAttese RigheComposer() {
-    return righe;
+    return righeComposer;
 }
 
 }  // namespace corvana::prova

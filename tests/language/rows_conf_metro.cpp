@@ -8,7 +8,7 @@ namespace {
 
 using T = TestiLingua;
 
-constexpr auto righe = std::to_array<RigaAttesa>({
+constexpr auto righeConfMetro = std::to_array<RigaAttesa>({
     {69, "frmConfMetro", "metronomo", "Metronome"},
     {70, "Label3", "Tempo", "Time signature"},
     {71, "Label1", "Suoni", "Sounds"},
@@ -20,7 +20,7 @@ constexpr auto righe = std::to_array<RigaAttesa>({
 }  // namespace
 
 RigheAttese RigheConfMetro() {
-    return righe;
+    return righeConfMetro;
 }
 
 }  // namespace corvana::prova

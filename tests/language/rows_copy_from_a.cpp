@@ -6,7 +6,7 @@ namespace corvana::prova {
 
 namespace {
 
-constexpr auto righe = std::to_array<RigaAttesa>({
+constexpr auto righeCopyFromA = std::to_array<RigaAttesa>({
     {375, "frmCopyFromA", "supporto rimovibile", "removable medium"},
     {376, "Label1", "Seleziona i file", "Select the files"},
     {377, "cmdCopia", "Copia", "Copy"},
@@ -16,7 +16,7 @@ constexpr auto righe = std::to_array<RigaAttesa>({
 }  // namespace
 
 RigheAttese RigheCopyFromA() {
-    return righe;
+    return righeCopyFromA;
 }
 
 }  // namespace corvana::prova

@@ -8,7 +8,7 @@ namespace {
 
 using T = TestiLingua;
 
-constexpr auto righe = std::to_array<RigaAttesa>({
+constexpr auto righeInto = std::to_array<RigaAttesa>({
     {157, "frmInto", "altezza nota / Intervallo", "Ear training"},
     {158, "Esercizio", "Esercizio", "Exercise"},
     {159, "mnuNotA", "altezza nota", "Pitch"},
@@ -102,7 +102,7 @@ constexpr auto righe = std::to_array<RigaAttesa>({
 }  // namespace
 
 RigheAttese RigheInto() {
-    return righe;
+    return righeInto;
 }
 
 }  // namespace corvana::prova

@@ -8,7 +8,7 @@ namespace {
 
 using T = TestiLingua;
 
-constexpr auto righe = std::to_array<RigaAttesa>({
+constexpr auto righeMain = std::to_array<RigaAttesa>({
     {0, "CorvanaMainF", "Corvana - Lettura", "Corvana - Note"},
     {1, "cmdEsci", "Esci", "Exit"},
     {2, "Esci", "Esci", "Exit"},
@@ -77,7 +77,7 @@ constexpr auto righe = std::to_array<RigaAttesa>({
 }  // namespace
 
 RigheAttese RigheMain() {
-    return righe;
+    return righeMain;
 }
 
 }  // namespace corvana::prova

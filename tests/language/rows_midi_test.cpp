@@ -6,7 +6,7 @@ namespace corvana::prova {
 
 namespace {
 
-constexpr auto righe = std::to_array<RigaAttesa>({
+constexpr auto righeMidiTest = std::to_array<RigaAttesa>({
     {75, "Label2", "Uscite", "outputs"},
     {76, "Label1", "Strumento", "Instrument"},
     {77, "cmdTest", "Test (La)", "Test (A)"},
@@ -15,7 +15,7 @@ constexpr auto righe = std::to_array<RigaAttesa>({
 }  // namespace
 
 RigheAttese RigheMidiTest() {
-    return righe;
+    return righeMidiTest;
 }
 
 }  // namespace corvana::prova

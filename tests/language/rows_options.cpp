@@ -6,7 +6,7 @@ namespace corvana::prova {
 
 namespace {
 
-constexpr auto righe = std::to_array<RigaAttesa>({
+constexpr auto righeOptions = std::to_array<RigaAttesa>({
     {83, "frmOptions", "Promemoria", "Reference chart"},
     {84, "cmdOK", "Chiudi", "Close"},
     {85, "cmdSel(0)", "Nomi note", "Note names"},
@@ -86,7 +86,7 @@ constexpr auto righe = std::to_array<RigaAttesa>({
 }  // namespace
 
 RigheAttese RigheOptions() {
-    return righe;
+    return righeOptions;
 }
 
 }  // namespace corvana::prova
