@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
+#include <memory>
 #include <vector>
 
 #include "forms/real_clock.h"
@@ -20,13 +22,16 @@ using prova::ServerSonoro;
 /// The logic's side of a running program, with the machine's outputs.
 class Programma {
 public:
-    Programma() { EXPECT_TRUE(suono.ApriMidi(dispositivoPredefinito)); }
+    explicit Programma(const ImpostazioniUscite& impostazioni = {})
+        : uscite([this] { return pompa.Adesso(); }, impostazioni) {
+        EXPECT_TRUE(suono.ApriMidi(dispositivoPredefinito));
+    }
 
     OrologioReale orologio;
     CodaEventi coda;
     Pompa pompa{orologio, coda};
     prova::DialoghiDaCopione dialoghi;
-    UsciteReali uscite{[this] { return pompa.Adesso(); }};
+    UsciteReali uscite;
     Suono suono{uscite, pompa, dialoghi};
 };
 
@@ -105,6 +110,40 @@ TEST_F(FlussoAudioVero, ACueIsHeardInTheSameStream) {
         programma.suono.SuonaOnda(CORVANA_CUES "/rok.wav", sndAsincrono);
         programma.pompa.Attendi(0.4);
     });
+}
+
+/// Counts how often the device was opened. The counter outlives what may be left behind.
+struct Conteggio {
+    std::shared_ptr<std::atomic<int>> aperture = std::make_shared<std::atomic<int>>(0);
+    ImpostazioniUscite ConQuiete(double secondi) const {
+        return {.puntuale = [aperture = aperture] { ++*aperture; }, .quiete = secondi};
+    }
+};
+
+TEST_F(FlussoAudioVero, InSilenceTheDeviceIsLetGoAndWhoeverWakesTheStreamIsHeard) {
+    AvviaServer();
+    const Conteggio conteggio;
+    Programma programma(conteggio.ConQuiete(0));
+    ASSERT_TRUE(DiventaUdibile(server, programma));
+    {
+        const Registrazione registrazione(server);
+        EXPECT_TRUE(registrazione.Finche([&] {
+            programma.uscite.Sveglia();
+            return *conteggio.aperture >= 3;
+        }));
+    }
+    EXPECT_TRUE(programma.uscite.Udibile());
+    AspettatiNota(server, programma, 67);
+}
+
+TEST_F(FlussoAudioVero, AMomentOfSilenceLeavesTheDeviceOpen) {
+    AvviaServer();
+    const Conteggio conteggio;
+    Programma programma(conteggio.ConQuiete(3600));
+    ASSERT_TRUE(DiventaUdibile(server, programma));
+    for (const int nota : {60, 67})
+        AspettatiNota(server, programma, nota);
+    EXPECT_EQ(*conteggio.aperture, 1);
 }
 
 TEST_F(FlussoAudioVero, AServerThatDiesHoldsNothingUpAndOneThatComesBackIsTakenUp) {
