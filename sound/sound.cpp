@@ -73,17 +73,18 @@ void Suono::Attendi(double secondi) {
     if (secondi > 0 && secondi < attesaMassima) pompa_.Attendi(secondi);
 }
 
-void Suono::FermaUltima() {
+void Suono::FermaUltima(bool comunque) {
     if (CodiceBasso(UltimaNota)) NotaOff(canaleNota, Midi(UltimaNota, -scartoCodiciBassi));
     // Not an else: a low code's second note off carries into the velocity byte and comes out as a
     // very faint note, which belongs to the sound of the low notes.
-    if (UltimaNota >= 0) NotaOff(canaleNota, Midi(UltimaNota, scartoIndice));
+    if (comunque || UltimaNota >= 0) NotaOff(canaleNota, Midi(UltimaNota, scartoIndice));
 }
 
 void Suono::SuonaNota(std::int16_t valore) {
     if (valore <= -2) return ProssimaDomanda();
-    FermaUltima();
-    if (valore == -1) return;
+    const bool soloFermare = valore == -1;
+    FermaUltima(soloFermare);
+    if (soloFermare) return;
     const int scarto = CodiceBasso(valore) ? -scartoCodiciBassi : scartoIndice;
     NotaOn(canaleNota, Midi(valore, scarto), velocitaNota);
     UltimaNota = valore;

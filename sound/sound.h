@@ -75,7 +75,8 @@ public:
     void PonDomanda(DomandaIntonazione* domanda) { domanda_ = domanda; }
 
 private:
-    void FermaUltima();
+    /// `comunque`: also when no note was ever started.
+    void FermaUltima(bool comunque);
     void ProssimaDomanda();
 
     PiattaformaMidi& piattaforma_;

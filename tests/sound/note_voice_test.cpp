@@ -170,4 +170,14 @@ TEST(ProssimaDomanda, WithAReferenceAndTheNameHiddenNoKeyIsTouched) {
     EXPECT_EQ(domanda.diario, (Boxes{"0 choose", "2 awaits"}));
 }
 
+TEST(SuonaNota, MinusOneStopsWhateverStandsThereAlsoWhatNoNoteCanBe) {
+    BancoSuono b;
+    b.suono.UltimaNota = -3;
+    b.suono.SuonaNota(-1);
+    EXPECT_EQ(b.Messaggi(), Pacchetti{Nota(33, 0)});
+    EXPECT_EQ(b.suono.UltimaNota, -3);
+    b.suono.SuonaNota(0);
+    EXPECT_EQ(b.Messaggi(), Pacchetti{Nota(36, 100)});
+}
+
 }  // namespace corvana::prova
