@@ -13,6 +13,12 @@ void Sposta(Controllo& controllo, int twip) {
     controllo.Left = controllo.Left + twip;
 }
 
+void Ricorda(StatoHover& hover, Controllo& controllo) {
+    hover.HoverControllo = &controllo;
+    hover.HoverTop = controllo.Top;
+    hover.HoverLeft = controllo.Left;
+}
+
 }  // namespace
 
 void Gradiente(Controllo& oggetto, int r1, int g1, int b1, int r2, int g2, int b2,
@@ -31,9 +37,7 @@ void ImpostaBarra(Controllo& barra, const Controllo& fondo, float rapporto,
 
 void EffettoImmagine(StatoHover& hover, Controllo& controllo, std::string_view stato) {
     if (stato == "over" && !hover.HoverAttivo) {
-        hover.HoverControllo = &controllo;
-        hover.HoverTop = controllo.Top;
-        hover.HoverLeft = controllo.Left;
+        Ricorda(hover, controllo);
         hover.HoverAttivo = true;
         Sposta(controllo, affondo);
     } else if (stato == "out" && hover.HoverAttivo) {
@@ -48,7 +52,7 @@ void EffettoPulsante(StatoHover& hover, Controllo& sfondo, Controllo& etichetta,
     const bool sopra = stato == "over";
     if (sopra == hover.HoverAttivo) return;
     hover.HoverAttivo = sopra;
-    if (sopra) hover.HoverControllo = &sfondo;
+    if (sopra) Ricorda(hover, sfondo);
     Sposta(sfondo, sopra ? affondo : -affondo);
     etichetta.ForeColor = colore;
 }

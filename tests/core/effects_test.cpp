@@ -131,6 +131,17 @@ TEST(EffettoPulsante, ThePictureSinksOnceAndTheLabelTakesTheColour) {
     EXPECT_EQ(f.etichetta.ForeColor(), 0xFF0000);
 }
 
+TEST(EffettoPulsante, ThePictureIsRememberedWithItsPlaceSoThatAnyOutPutsItBack) {
+    FinestraEffetti f;
+    f.hover.HoverTop = f.hover.HoverLeft = 5;  // of one that sank long ago
+    EffettoPulsante(f.hover, f.figura, f.etichetta, "over", 255);
+    EXPECT_EQ(f.hover.HoverControllo, &f.figura);
+    EffettoImmagine(f.hover, f.altra, "out");
+    EXPECT_EQ(f.figura.Left(), 100);
+    EXPECT_EQ(f.figura.Top(), 200);
+    EXPECT_EQ(f.altra.Left(), 300);
+}
+
 TEST(RitagliaForm, GivesTheWindowItsSizeOfFifteenTwipsToThePixelAndRoundCorners) {
     FinestraEffetti f;
     RitagliaForm(f, 345, 240);
