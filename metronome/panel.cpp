@@ -60,6 +60,8 @@ void PannelloMetronomo::ConsigliaX12() {
 }
 
 void PannelloMetronomo::lblCloseMetro_Click() {
+    // Nothing would be left to stop it with.
+    if (Stato().MetroAttivo) return;
     finestra_.HelpContextID = aiutoTrainer;
     frmMetro_.Visible = false;
 }

@@ -51,7 +51,7 @@ public:
     void MetroVol_Change();
     void cmdSetup_Click();
 
-    /// Opens the panel, or closes it when it is open.
+    /// Opens the panel, or closes it when it is open; not while the metronome runs.
     void Alterna();
 
 private:

@@ -49,4 +49,23 @@ TEST(MetronomoEdEsercizio, AMetronomeStartedInsideAnAutomaticDrillHoldsTheDrillU
     EXPECT_TRUE(b.finestra.InCorso);
 }
 
+TEST(MetronomoEdEsercizio, APanelThatTicksCantBeClosedThoughAStoppedDrillHasEnabledTheToolbar) {
+    BancoProgramma b;
+    b.Clicca(3, "mnuMetro");
+    b.Clicca(4, "cmdSSmetro");
+    b.Clicca(4.5, "Start");
+    b.Clicca(5.5, "Start");
+    b.Clicca(6.5, "ToolButton3");
+    b.Quando(7.5, [&] {
+        EXPECT_TRUE(b.finestra.Risorse.Enabled());
+        EXPECT_TRUE(b.finestra.frmMetro.Visible());
+        EXPECT_EQ(b.finestra.HelpContextID(), 8);
+    });
+    b.Clicca(7.6, "cmdSSmetro");
+    b.Clicca(9, "ToolButton3");
+    b.Vai(10);
+    EXPECT_FALSE(b.finestra.frmMetro.Visible());
+    EXPECT_FALSE(b.stato.MetroAttivo);
+}
+
 }  // namespace corvana::prova
