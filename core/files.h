@@ -2,10 +2,17 @@
 // have '/' between their parts. Logic thread.
 #pragma once
 
+#include <cstddef>
+#include <limits>
 #include <string>
 #include <vector>
 
 namespace corvana {
+
+constexpr std::size_t senzaLimite = std::numeric_limits<std::size_t>::max();
+/// The program's own texts, languages and settings, are a few thousand bytes long. What is far
+/// longer was put there by mistake, and isn't read.
+constexpr std::size_t limiteTesti = 1024 * 1024;
 
 struct VoceCartella {
     std::string nome;
@@ -23,14 +30,19 @@ public:
     /// True for a file, not for a folder.
     virtual bool Esiste(const std::string& percorso) = 0;
     virtual bool EsisteCartella(const std::string& percorso) = 0;
-    /// Reads all bytes into `contenuto`. Returns 0 or the errno of what failed.
-    virtual int Leggi(const std::string& percorso, std::string& contenuto) = 0;
+    /// Reads all bytes into `contenuto`. Returns 0 or the errno of what failed: EFBIG when there
+    /// are more than `limite`, EINVAL when it is neither a file nor a folder. Never waits for
+    /// anybody.
+    virtual int Leggi(const std::string& percorso, std::string& contenuto,
+                      std::size_t limite = senzaLimite) = 0;
     /// Replaces the file: whatever interrupts it, the old or the new content is there, whole.
     /// Returns 0 or the errno of what failed.
     virtual int ScriviAtomico(const std::string& percorso, const std::string& contenuto) = 0;
+    /// Gives the file another name; one that had it before is gone. Returns 0 or the errno.
+    virtual int Rinomina(const std::string& percorso, const std::string& nuovo) = 0;
     /// Makes the folder and those above it. Returns 0 (also when it is there) or the errno.
     virtual int CreaCartella(const std::string& percorso) = 0;
-    /// What lies in the folder, in any order, without "." and "..": what can be read of it.
+    /// The folders and files in it, in any order, without "." and "..": what can be read of it.
     virtual std::vector<VoceCartella> Elenca(const std::string& percorso) = 0;
     /// The folder of the removable medium that is in the machine, with a closing separator; empty
     /// when there is none.

@@ -38,7 +38,8 @@ bool FileLinguaEsiste(const Ambiente& ambiente) {
 void UpdateString(const Ambiente& ambiente, Form& form) {
     try {
         std::string contenuto;
-        if (const int errore = ambiente.file.Leggi(ambiente.globali.PercorsoLingua, contenuto))
+        if (const int errore =
+                ambiente.file.Leggi(ambiente.globali.PercorsoLingua, contenuto, limiteTesti))
             throw Guasto(errore, "read error");
         if (contenuto.ends_with('\n')) contenuto.pop_back();
         for (std::string& linea : Dividi(contenuto, '\n')) {

@@ -17,11 +17,12 @@ namespace {
 
 constexpr mode_t permessi = 0644;
 
-/// An open descriptor, closed with its owner.
+/// An open descriptor, closed with its owner. A pipe that nobody holds the other end of would keep
+/// the opening waiting for ever.
 class Descrittore {
 public:
     Descrittore(const std::string& percorso, int modo)
-        : numero_(open(percorso.c_str(), modo | O_CLOEXEC, permessi)) {}
+        : numero_(open(percorso.c_str(), modo | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, permessi)) {}
     Descrittore(const Descrittore&) = delete;
     Descrittore& operator=(const Descrittore&) = delete;
     ~Descrittore() { Chiudi(); }
@@ -54,6 +55,14 @@ bool Deposita(const std::string& percorso, const std::string& contenuto) {
            file.Chiudi() == 0;
 }
 
+/// Why there are no bytes to be had of it; 0 for a file.
+int NonLeggibile(int descrittore) {
+    struct stat dati {};
+    if (fstat(descrittore, &dati) != 0) return errno;
+    if (S_ISDIR(dati.st_mode)) return EISDIR;
+    return S_ISREG(dati.st_mode) ? 0 : EINVAL;
+}
+
 /// The new name is on the disk only when the folder is.
 void FissaCartella(const std::string& percorso) {
     const std::string cartella = std::filesystem::path(percorso).parent_path().string();
@@ -68,18 +77,27 @@ bool FileReali::Esiste(const std::string& percorso) {
     return stat(percorso.c_str(), &dati) == 0 && S_ISREG(dati.st_mode);
 }
 
-int FileReali::Leggi(const std::string& percorso, std::string& contenuto) {
+int FileReali::Leggi(const std::string& percorso, std::string& contenuto, std::size_t limite) {
     contenuto.clear();
     const Descrittore file(percorso, O_RDONLY);
     if (!file.Aperto()) return errno;
+    if (const int errore = NonLeggibile(file.Numero())) return errore;
     std::array<char, 65536> pezzo{};
     for (;;) {
         const ssize_t letti = read(file.Numero(), pezzo.data(), pezzo.size());
         if (letti == 0) return 0;
         if (letti < 0 && errno == EINTR) continue;
         if (letti < 0) return errno;
+        if (static_cast<std::size_t>(letti) > limite - contenuto.size()) {
+            contenuto.clear();
+            return EFBIG;
+        }
         contenuto.append(pezzo.data(), static_cast<std::size_t>(letti));
     }
+}
+
+int FileReali::Rinomina(const std::string& percorso, const std::string& nuovo) {
+    return rename(percorso.c_str(), nuovo.c_str()) == 0 ? 0 : errno;
 }
 
 int FileReali::ScriviAtomico(const std::string& percorso, const std::string& contenuto) {

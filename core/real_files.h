@@ -17,8 +17,10 @@ public:
 
     bool Esiste(const std::string& percorso) override;
     bool EsisteCartella(const std::string& percorso) override;
-    int Leggi(const std::string& percorso, std::string& contenuto) override;
+    int Leggi(const std::string& percorso, std::string& contenuto,
+              std::size_t limite = senzaLimite) override;
     int ScriviAtomico(const std::string& percorso, const std::string& contenuto) override;
+    int Rinomina(const std::string& percorso, const std::string& nuovo) override;
     int CreaCartella(const std::string& percorso) override;
     std::vector<VoceCartella> Elenca(const std::string& percorso) override;
     std::string SupportoRimovibile() override;

@@ -43,7 +43,9 @@ std::vector<VoceCartella> FileReali::Elenca(const std::string& percorso) {
     for (fs::directory_iterator voce(percorso, errore), fine; !errore && voce != fine;
          voce.increment(errore)) {
         std::error_code illeggibile;
-        voci.push_back({voce->path().filename().string(), voce->is_directory(illeggibile)});
+        // Pipes, sockets and devices are nothing to open.
+        if (!voce->is_other(illeggibile))
+            voci.push_back({voce->path().filename().string(), voce->is_directory(illeggibile)});
     }
     return voci;
 }

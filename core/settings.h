@@ -17,9 +17,12 @@ public:
     Impostazioni(ArchivioFile& file, Dialoghi& dialoghi, std::string percorso)
         : file_(file), dialoghi_(dialoghi), percorso_(std::move(percorso)) {}
 
-    /// Makes the store with its four values, empty, when there is none. The installed program's
-    /// first start calls it before anything is read, so that a newcomer meets no error box.
-    void CreaSeManca();
+    /// Makes the store with its four values, empty, when there is none: the program's start calls
+    /// it before anything is read, so that a newcomer meets no error box. A store that is damaged,
+    /// so that one of the four can't be read, is told of, here alone, by the box that reading would
+    /// show; it is put aside under its name with ".damaged", and one with what can be read of it
+    /// takes its place.
+    void Prepara();
 
     /// The value, cut before its first zero character. Empty, after a box with the error's code,
     /// when the store can't be opened (Error1), has no such value (Error2, code 2), or holds it in
@@ -32,7 +35,7 @@ private:
     using Voci = std::vector<std::pair<std::string, std::string>>;
     int Apri(Voci& voci);
     void Salva(const Voci& voci);
-    std::string Errore(const std::string& testo, int codice);
+    void Ripara(const Voci& voci, const std::string& difetto);
 
     ArchivioFile& file_;
     Dialoghi& dialoghi_;

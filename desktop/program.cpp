@@ -26,7 +26,7 @@ void EseguiProgramma(Applicazione& applicazione, const Macchina& macchina) {
     const auto uscite = macchina.uscite([&pompa] { return pompa.Adesso(); });
     pompa.PonSveglia([&uscite] { uscite->Sveglia(); });
     Suono suono(*uscite, pompa, dialoghi);
-    if (!istanza.AltraIstanza()) impostazioni.CreaSeManca();
+    if (!istanza.AltraIstanza()) impostazioni.Prepara();
     const Ambiente ambiente{globali, pompa, finestre, dialoghi, suono, impostazioni, file, casuale};
     Programma programma(ambiente);
     if (macchina.pronta) macchina.pronta(programma.principale);

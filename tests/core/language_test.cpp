@@ -135,17 +135,6 @@ TEST(UpdateString, AZeroByteInATextDoesNoHarm) {
     EXPECT_TRUE(b.dialoghi.messaggi.empty());
 }
 
-TEST(UpdateString, AFileOfTenMegabytesIsReadThrough) {
-    BancoLingua b;
-    const std::string linea = "1;frmAbout;" + std::string(988, 'x') + "\n";
-    std::string contenuto;
-    while (contenuto.size() < 10'000'000)
-        contenuto += linea;
-    b.Applica(contenuto + "1;CorvanaMainF;a\n");
-    EXPECT_EQ(b.finestra.cmdEsci.Caption(), "a");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
-}
-
 TEST(UpdateString, TenMegabytesWithoutALineAreAReadError) {
     BancoLingua b;
     b.Applica(std::string(10'000'000, 'x'));
@@ -180,6 +169,19 @@ RC_GTEST_PROP(UpdateString, AnyTextOfARowGoesInWhole, ()) {
     BancoLingua b;
     b.Applica("1;CorvanaMainF;" + testo);
     RC_ASSERT(b.finestra.cmdEsci.Caption() == testo);
+}
+
+TEST(UpdateString, AFileFarTooLongIsToldAndNothingOfItIsApplied) {
+    BancoLingua b;
+    b.Applica("1;CorvanaMainF;Esci\n" + std::string(limiteTesti, '\n'));
+    EXPECT_EQ(b.finestra.cmdEsci.Caption(), "");
+    EXPECT_EQ(b.dialoghi.messaggi, Boxes{guasto});
+    std::string lungo = "1;CorvanaMainF;Esci\n";
+    while (lungo.size() + 20 < limiteTesti)
+        lungo += "9999;frmAbout;text\n";
+    b.Applica(lungo);
+    EXPECT_EQ(b.finestra.cmdEsci.Caption(), "Esci");
+    EXPECT_EQ(b.dialoghi.messaggi.size(), 1U);
 }
 
 }  // namespace corvana::prova

@@ -82,6 +82,46 @@ TEST(FileReali, ReadingTellsWhatFailedAndGivesNothing) {
     EXPECT_EQ(file.Leggi(cartella.Di(""), contenuto), EISDIR);
 }
 
+TEST(FileReali, APipeIsToldAndNeverWaitedFor) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    ASSERT_EQ(mkfifo(cartella.Di("x").c_str(), 0600), 0);
+    std::string contenuto = "old";
+    EXPECT_EQ(file.Leggi(cartella.Di("x"), contenuto), EINVAL);
+    EXPECT_EQ(contenuto, "");
+    EXPECT_EQ(file.Leggi("/dev/zero", contenuto), EINVAL);
+    EXPECT_FALSE(file.Esiste(cartella.Di("x")));
+    // In the way of a write's temporary.
+    ASSERT_EQ(mkfifo(cartella.Di("y.nuovo").c_str(), 0600), 0);
+    EXPECT_EQ(file.ScriviAtomico(cartella.Di("y"), "new"), ENXIO);
+}
+
+TEST(FileReali, AFileLongerThanTheLimitIsntReadAndOneOfItIs) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    for (const std::size_t limite : {0U, 1U, 65535U, 65536U, 65537U, 200000U}) {
+        file.ScriviAtomico(cartella.Di("a"), std::string(limite, 'x'));
+        std::string contenuto = "old";
+        EXPECT_EQ(file.Leggi(cartella.Di("a"), contenuto, limite), 0) << limite;
+        EXPECT_EQ(contenuto.size(), limite);
+        file.ScriviAtomico(cartella.Di("a"), std::string(limite + 1, 'x'));
+        EXPECT_EQ(file.Leggi(cartella.Di("a"), contenuto, limite), EFBIG) << limite;
+        EXPECT_EQ(contenuto, "");
+        EXPECT_EQ(file.Leggi(cartella.Di("a"), contenuto), 0);
+    }
+}
+
+TEST(FileReali, AFileTakesAnotherNameAndReplacesWhatHadIt) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    file.ScriviAtomico(cartella.Di("a"), "x");
+    file.ScriviAtomico(cartella.Di("b"), "older");
+    EXPECT_EQ(file.Rinomina(cartella.Di("a"), cartella.Di("b")), 0);
+    EXPECT_EQ(Contenuto(cartella.Di("b")), "x");
+    EXPECT_EQ(cartella.Quanti(), 1);
+    EXPECT_EQ(file.Rinomina(cartella.Di("a"), cartella.Di("c")), ENOENT);
+}
+
 TEST(FileReali, OnlyAFileExistsAsAFile) {
     const CartellaProvvisoria cartella;
     FileReali file;
@@ -106,7 +146,7 @@ TEST(ImpostazioniSuDisco, AreMadeInAFolderThatIsMadeWithThem) {
     FileReali file;
     DialoghiDaCopione dialoghi;
     Impostazioni impostazioni(file, dialoghi, cartella.Di("config/corvana/settings"));
-    impostazioni.CreaSeManca();
+    impostazioni.Prepara();
     EXPECT_EQ(Contenuto(cartella.Di("config/corvana/settings")),
               "Language=\nCorvanaLastS=\nLastDir=\nIntoLastS=\n");
     impostazioni.ScriviValore("LastDir", "/perché\n");
@@ -127,6 +167,21 @@ TEST(ImpostazioniSuDisco, TellTheSystemsErrorCodes) {
                                         "Error1 Opening key: " + std::to_string(EISDIR)}));
     assenti.ScriviValore("Language", "en");
     EXPECT_EQ(cartella.Quanti(), 0);
+}
+
+TEST(ImpostazioniSuDisco, FiftyMegabytesArePutAsideUnread) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    DialoghiDaCopione dialoghi;
+    file.ScriviAtomico(cartella.Di("settings"), std::string(50'000'000, '\n'));
+    Impostazioni impostazioni(file, dialoghi, cartella.Di("settings"));
+    impostazioni.Prepara();
+    impostazioni.Prepara();
+    EXPECT_EQ(dialoghi.messaggi,
+              std::vector<std::string>{"Error1 Opening key: " + std::to_string(EFBIG)});
+    EXPECT_EQ(Contenuto(cartella.Di("settings")),
+              "Language=\nCorvanaLastS=\nLastDir=\nIntoLastS=\n");
+    EXPECT_EQ(std::filesystem::file_size(cartella.Di("settings.damaged")), 50'000'000U);
 }
 
 }  // namespace corvana::prova

@@ -1,6 +1,7 @@
 // Folders and removable media on the real disk. A medium that is mounted is played by a link to a
 // folder of the system's that always lies on a device of its own.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 
@@ -62,6 +63,15 @@ TEST(CartelleReali, ALinkIsWhatItLeadsToAndAFileWhenItLeadsNowhere) {
     EXPECT_EQ(
         InOrdine(FileReali().Elenca(radice.Percorso())),
         (std::vector<VoceCartella>{{"cartella", true}, {"legame", true}, {"nessuno", false}}));
+}
+
+TEST(CartelleReali, PipesSocketsAndDevicesArentListed) {
+    const Radice radice;
+    radice.File("aria.mel");
+    ASSERT_EQ(mkfifo(radice.Di("x.mel").c_str(), 0600), 0);
+    fs::create_symlink("/dev/null", radice.Di("null.mel"));
+    EXPECT_EQ(FileReali().Elenca(radice.Percorso()),
+              (std::vector<VoceCartella>{{"aria.mel", false}}));
 }
 
 TEST(CartelleReali, WhatIsNoFolderHoldsNothing) {

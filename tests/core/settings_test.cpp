@@ -11,6 +11,8 @@ namespace {
 
 using Boxes = std::vector<std::string>;
 
+const std::string intere = "Language=en\nCorvanaLastS=\nLastDir=\nIntoLastS=\n";
+
 /// A store whose file holds what the test says, or isn't there.
 struct BancoImpostazioni {
     static constexpr const char* percorso = "/config/settings";
@@ -103,25 +105,71 @@ TEST(Impostazioni, NamesAreComparedWithCase) {
 
 TEST(Impostazioni, TheFirstStartMakesTheStoreWithFourEmptyValuesAndNoBox) {
     BancoImpostazioni b;
-    b.impostazioni.CreaSeManca();
+    b.impostazioni.Prepara();
     for (const char* nome : {"Language", "CorvanaLastS", "LastDir", "IntoLastS"})
         EXPECT_EQ(b.impostazioni.LeggiValore(nome), "") << nome;
     EXPECT_TRUE(b.dialoghi.messaggi.empty());
 }
 
 TEST(Impostazioni, AStoreThatIsThereIsLeftAsItIs) {
-    BancoImpostazioni b("Language=en\n");
-    b.impostazioni.CreaSeManca();
-    EXPECT_EQ(b.Testo(), "Language=en\n");
-    BancoImpostazioni vuoto("");
-    vuoto.impostazioni.CreaSeManca();
-    EXPECT_EQ(vuoto.Testo(), "");
+    BancoImpostazioni b(intere + "more=\nno value\n");
+    b.impostazioni.Prepara();
+    EXPECT_EQ(b.Testo(), intere + "more=\nno value\n");
+    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+}
+
+TEST(Impostazioni, ADamagedStoreIsToldOnceAndPutAsideAndAFreshOneTakesItsPlace) {
+    for (const auto& [rovinate, box] : std::vector<std::pair<std::string, std::string>>{
+             {"", "Error2 Querying key: 2"},
+             {std::string("\x7f"
+                          "ELF\0\0\n\n\xff",
+                          9),
+              "Error2 Querying key: 2"},
+             {"language=en\n", "Error2 Querying key: 2"},
+             {"Language=\\x\n", "Error3 Querying key: 84"},
+             {std::string(limiteTesti + 1, 'x'), "Error1 Opening key: 27"}}) {
+        BancoImpostazioni b(rovinate);
+        b.impostazioni.Prepara();
+        EXPECT_EQ(b.dialoghi.messaggi, Boxes{box});
+        EXPECT_EQ(b.file.contenuti[std::string(b.percorso) + ".damaged"], rovinate);
+        EXPECT_EQ(b.Testo(), "Language=\nCorvanaLastS=\nLastDir=\nIntoLastS=\n");
+        b.impostazioni.Prepara();
+        for (const char* nome : {"Language", "CorvanaLastS", "LastDir", "IntoLastS"})
+            EXPECT_EQ(b.impostazioni.LeggiValore(nome), "") << nome;
+        EXPECT_EQ(b.dialoghi.messaggi.size(), 1U);
+    }
+}
+
+TEST(Impostazioni, WhatCanBeReadOfADamagedStoreIsKept) {
+    BancoImpostazioni b("CorvanaLastS=43;\\\nLanguage=en\nLastDir=/a\\\\b\nmore=1\n");
+    b.impostazioni.Prepara();
+    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"Error3 Querying key: 84"});
+    EXPECT_EQ(b.Testo(), "Language=en\nCorvanaLastS=\nLastDir=/a\\\\b\nIntoLastS=\n");
+}
+
+TEST(Impostazioni, ADamagedStoreThatCantBePutAsideStaysAndIsToldAgain) {
+    BancoImpostazioni b("garbage");
+    b.file.erroreScrivi = EROFS;
+    for (int volta = 1; volta <= 2; ++volta) {
+        b.impostazioni.Prepara();
+        EXPECT_EQ(b.dialoghi.messaggi.size(), static_cast<std::size_t>(volta));
+    }
+    EXPECT_EQ(b.Testo(), "garbage");
+    EXPECT_EQ(b.file.contenuti.size(), 1U);
+}
+
+TEST(Impostazioni, AFileFarTooLongIsntReadAtAnyTime) {
+    BancoImpostazioni b(intere + std::string(limiteTesti, '\n'));
+    EXPECT_EQ(b.impostazioni.LeggiValore("Language"), "");
+    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"Error1 Opening key: 27"});
+    b.impostazioni.ScriviValore("Language", "it");
+    EXPECT_EQ(b.file.scritture, 0);
 }
 
 TEST(Impostazioni, AStoreThatCantBeReadNowIsntReplacedByAnEmptyOne) {
     BancoImpostazioni b("Language=en\n");
     b.file.erroreLeggi = EIO;
-    b.impostazioni.CreaSeManca();
+    b.impostazioni.Prepara();
     EXPECT_EQ(b.Testo(), "Language=en\n");
     EXPECT_EQ(b.file.scritture, 0);
 }
@@ -129,7 +177,7 @@ TEST(Impostazioni, AStoreThatCantBeReadNowIsntReplacedByAnEmptyOne) {
 TEST(Impostazioni, WhereNothingCanBeWrittenTheProgramRunsAndForgets) {
     BancoImpostazioni b;
     b.file.erroreScrivi = EROFS;
-    b.impostazioni.CreaSeManca();
+    b.impostazioni.Prepara();
     b.impostazioni.ScriviValore("Language", "en");
     EXPECT_TRUE(b.dialoghi.messaggi.empty());
     EXPECT_TRUE(b.file.contenuti.empty());

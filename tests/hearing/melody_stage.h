@@ -25,7 +25,7 @@ struct PalcoMelodia {
           finestra({globali, pompa, finestre, dialoghi, suono, impostazioni, file, casuale},
                    {[] { return "Piano"; }, [] { return "Organo"; }, {}}) {
         globali.CartellaProgramma = "/programma";
-        impostazioni.CreaSeManca();
+        impostazioni.Prepara();
         suono.ApriMidi(dispositivoPredefinito);
         finestre.Mostra(finestra);
     }

@@ -20,10 +20,12 @@ public:
     std::string supportoRimovibile;  ///< with one; empty for none
 
     bool Esiste(const std::string& percorso) override { return contenuti.contains(percorso); }
-    int Leggi(const std::string& percorso, std::string& contenuto) override {
+    int Leggi(const std::string& percorso, std::string& contenuto,
+              std::size_t limite = senzaLimite) override {
         if (erroreLeggi) return erroreLeggi;
         const auto trovato = contenuti.find(percorso);
         if (trovato == contenuti.end()) return ENOENT;
+        if (trovato->second.size() > limite) return EFBIG;
         contenuto = trovato->second;
         return 0;
     }
@@ -31,6 +33,13 @@ public:
         if (erroreScrivi) return erroreScrivi;
         ++scritture;
         contenuti[percorso] = contenuto;
+        return 0;
+    }
+    int Rinomina(const std::string& percorso, const std::string& nuovo) override {
+        if (erroreScrivi) return erroreScrivi;
+        auto nodo = contenuti.extract(percorso);
+        if (nodo.empty()) return ENOENT;
+        contenuti[nuovo] = std::move(nodo.mapped());
         return 0;
     }
     bool EsisteCartella(const std::string& percorso) override {

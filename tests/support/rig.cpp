@@ -15,7 +15,7 @@ Evento EventoTasto(Fatto fatto, int codice) {
 
 Banco::Banco() {
     globali.CartellaProgramma = "/programma";
-    impostazioni.CreaSeManca();
+    impostazioni.Prepara();
 }
 
 Evento Banco::Fatta(Evento evento, const std::string& controllo) const {
