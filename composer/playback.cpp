@@ -1,8 +1,9 @@
 // The rounds of a play.
 #include "composer/playback.h"
 
+#include <exception>
+
 #include "composer/ranges.h"
-#include "forms/fault.h"
 #include "melody/numbers.h"
 #include "melody/tokens.h"
 
@@ -26,12 +27,12 @@ Esecuzione::Esecuzione(frmComposer& finestra, const Ambiente& ambiente,
 
 void Esecuzione::Suona() {
     SpegniResti();
-    Comincia();
     try {
+        Comincia();
         PreparaVoci();
         ScegliTratto();
         while (Giro()) {}
-    } catch (const Guasto&) {
+    } catch (const std::exception&) {
         Termina();
         throw;
     }

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <stdexcept>
 
 #include "tests/composer/composer_rig.h"
 
@@ -138,6 +139,17 @@ TEST(GuastoRiproduzione, AVoiceShorterInOneOfItsArraysPlaysTheNotesThatAreWhole)
     EXPECT_EQ(b.BancoComposer::Messaggi(),
               (Mandati{{1, 1, 60, 96}, {8, 1, 60, 0}, {9, 1, 62, 96}, {16, 1, 62, 0}}));
     EXPECT_EQ(b.Rimasti(), Testi{});
+}
+
+TEST(GuastoRiproduzione, AnyOtherExceptionPutsAllBackToo) {
+    for (const int tick : {3, 20}) {
+        BancoGuasto b;
+        b.Voce(soprano, "60;62;", "0.25");
+        b.NelTick(tick, [] { throw std::out_of_range("at"); });
+        b.finestra.chekLoop.Value = true;
+        EXPECT_EQ(b.Messaggi(), Testi{"51\r\nat"});
+        EXPECT_EQ(b.Rimasti(), Testi{});
+    }
 }
 
 TEST(GuastoRiproduzione, NotesOffTheKeyboardAreReleasedHoweverThePlayEnds) {

@@ -170,4 +170,48 @@ TEST(PassoRiproduzione, WhatThePlayBeforeLeftLoadedIsReleasedInTheOrderOfTheVoic
               (Mandati{{1, 1, 60, 96}, {32, 1, 60, 0}, {32, 2, 50, 0}, {32, 4, 36, 0}}));
 }
 
+TEST(PassoRiproduzione, TheRangeFieldsOfTheLowerVoicesAreThePlaysAndTheirBoxesKeepTheRange) {
+    BancoPasso b;
+    b.Voce(2, "43;45;47;", "1");
+    b.finestra.lblNiniC.Text = "2";
+    b.finestra.lblNfineT.Text = "2";
+    b.finestra.VoceAttiva_Click(contralto);
+    b.Passo(0);
+    // What the step leaves behind in them is no range that an editor could read.
+    EXPECT_EQ(b.melodia.voci[contralto].ultimaNota, 0);
+    EXPECT_EQ(b.melodia.voci[2].ultimaNota, -1);
+    EXPECT_EQ(b.melodia.voci[3].ultimaNota, -1);
+    EXPECT_EQ(b.melodia.voci[contralto].primaNota, 0);
+    EXPECT_EQ(b.finestra.lblNiniC.Text(), "2");
+    EXPECT_EQ(b.finestra.lblNfineC.Text(), "2");
+    EXPECT_EQ(b.finestra.lblNfineT.Text(), "2");
+    // The soprano has fields of its own for its plays.
+    EXPECT_EQ(b.melodia.voci[soprano].ultimaNota, 2);
+}
+
+TEST(PassoRiproduzione, BehindAStepNamesAreShownAsFarAsTheBoxSays) {
+    BancoPasso b;
+    b.Voce(2, "43;45;47;", "1");
+    b.finestra.lblNfineT.Text = "2";
+    b.Passo(0);
+    b.finestra.VoceAttiva_Click(2);
+    b.finestra.MostraNoteVoce();
+    EXPECT_EQ(b.finestra.LblNoteStringT.Caption(), "Sol;La;");
+}
+
+TEST(PassoRiproduzione, BehindAStepAWholePlayHasAllNotesOfAllVoicesAgain) {
+    BancoPasso b;
+    b.Passo(0);
+    b.melodia.modoPasso = false;
+    b.Suona();
+    EXPECT_EQ(b.Messaggi(1).size(), 6U);
+    EXPECT_EQ(b.Messaggi(2).size(), 4U);
+    // A play moves a lower voice's place and puts it back to the start, whatever its range was.
+    b.melodia.voci[contralto].primaNota = 1;
+    b.Suona();
+    EXPECT_EQ(b.Messaggi(2).size(), 4U);
+    EXPECT_EQ(b.melodia.voci[contralto].primaNota, 0);
+    EXPECT_EQ(b.melodia.voci[contralto].ultimaNota, 1);
+}
+
 }  // namespace corvana::prova
