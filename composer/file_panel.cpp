@@ -2,8 +2,8 @@
 #include <algorithm>
 
 #include "composer/composer.h"
-#include "composer/ranges.h"
 #include "core/text.h"
+#include "melody/names.h"
 
 namespace corvana {
 
@@ -16,10 +16,6 @@ void Ordina(Righe& righe) {
     std::stable_sort(righe.begin(), righe.end(), [](const std::string& a, const std::string& b) {
         return Minuscolo(a) < Minuscolo(b);
     });
-}
-
-std::string SenzaEstensione(const std::string& nome) {
-    return nome.substr(0, nome.rfind('.'));
 }
 
 void Entra(std::string& percorso, std::string_view riga) {
@@ -50,10 +46,13 @@ void frmComposer::ListaFD() {
     for (const VoceCartella& voce : a_.file.Elenca(percorso)) {
         if (voce.cartella)
             cartelle.push_back(std::string(segnoCartella) + voce.nome);
-        else if (voce.nome.ends_with(estensioneMelodia))
-            melodie.push_back(SenzaEstensione(voce.nome));
+        else if (auto nome = NomeDaFile(voce.nome))
+            melodie.push_back(std::move(*nome));
     }
     Ordina(cartelle);
+    // Files that differ in the extension's case alone are one name, and one row.
+    std::sort(melodie.begin(), melodie.end());
+    melodie.erase(std::unique(melodie.begin(), melodie.end()), melodie.end());
     Ordina(melodie);
     if (percorso != "/") cartelle.insert(cartelle.begin(), std::string(cartellaSopra));
     cartelle.insert(cartelle.end(), melodie.begin(), melodie.end());

@@ -1,14 +1,28 @@
 // Saving: into the current folder, under a new name, and onto a removable medium.
 #include "composer/composer.h"
-#include "composer/ranges.h"
 #include "core/file_faults.h"
 #include "core/text.h"
 #include "melody/names.h"
 
 namespace corvana {
 
+namespace {
+
+std::string NomeFile(const std::string& nome) {
+    return nome + std::string(estensioneMelodia);
+}
+
+}  // namespace
+
+/// The file in the current folder that has the name, or that is to get it.
 std::string frmComposer::Percorso(const std::string& nome) const {
-    return a_.globali.percorsoCorrente + nome + estensioneMelodia;
+    const std::string& cartella = a_.globali.percorsoCorrente;
+    const std::string usuale = cartella + NomeFile(nome);
+    if (a_.file.Esiste(usuale)) return usuale;
+    // Files of older systems may bear their extension in capitals.
+    for (const VoceCartella& voce : a_.file.Elenca(cartella))
+        if (!voce.cartella && NomeDaFile(voce.nome) == nome) return cartella + voce.nome;
+    return usuale;
 }
 
 void frmComposer::ScriviIn(const std::string& percorso) {
@@ -73,7 +87,7 @@ void frmComposer::mnuSalvaA_Click() {
         a_.dialoghi.MsgBox(a_.globali.testi.msgNomeMelodiaErrato);
         return;
     }
-    const std::string nomeFile = melodia.nomeMelodia + estensioneMelodia;
+    const std::string nomeFile = NomeFile(melodia.nomeMelodia);
     MousePointer = puntatoreAttesa;
     try {
         ScriviSulSupporto(nomeFile);

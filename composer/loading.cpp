@@ -4,7 +4,7 @@
 #include "composer/composer.h"
 #include "composer/ranges.h"
 #include "core/file_faults.h"
-#include "core/text.h"
+#include "melody/numbers.h"
 #include "melody/tokens.h"
 
 namespace corvana {
@@ -13,11 +13,20 @@ namespace {
 
 using Limiti = std::numeric_limits<std::int32_t>;
 
+/// A file edited by hand may hold a fraction where a whole number is meant.
 std::int32_t NumeroLetto(const std::string& testo) {
-    return static_cast<std::int32_t>(NumeroIntero(testo, Limiti::min(), Limiti::max()));
+    const std::int64_t numero = ArrotondaAlPari(NumeroReale(testo));
+    if (numero < Limiti::min() || numero > Limiti::max())
+        throw Guasto(guastoTraboccamento, "Overflow");
+    return static_cast<std::int32_t>(numero);
 }
 
+/// The arrays are split later, if the load comes that far. Until then the voice has no notes to
+/// play: those of the melody before don't belong to these texts.
 void PrendiTesti(VoceMelodia& voce, std::span<const std::string> testi) {
+    voce.noteVoce.clear();
+    voce.durateVoce.clear();
+    voce.attributiVoce.clear();
     std::string* const dove[] = {&voce.testoNote, &voce.testoDurate, &voce.testoAttributi};
     for (std::size_t i = 0; i < testi.size(); ++i)
         *dove[i] = testi[i];

@@ -28,8 +28,6 @@ constexpr std::int16_t canalePulsi = 10;
 constexpr int forzaPulsi = 120;  ///< velocity of a pulse, less the volume bar's value
 constexpr int pulsiMassimi = 9;
 
-constexpr const char* estensioneMelodia = ".mel";
-
 /// The last letters of a voice's note names that its display has room for.
 constexpr std::size_t lettereNomi = 40;
 

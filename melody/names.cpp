@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+#include "core/text.h"
+
 namespace corvana {
 
 bool NomeRifiutato(std::string_view nome, std::string_view rifiutati) {
@@ -14,6 +16,11 @@ bool NomeRifiutato(std::string_view nome, std::string_view rifiutati) {
         rifiutati.remove_prefix(lungo);
     }
     return false;
+}
+
+std::optional<std::string> NomeDaFile(std::string_view file) {
+    if (!Minuscolo(file).ends_with(estensioneMelodia)) return std::nullopt;
+    return std::string(file.substr(0, file.size() - estensioneMelodia.size()));
 }
 
 }  // namespace corvana

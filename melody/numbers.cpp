@@ -5,7 +5,6 @@
 #include <charconv>
 #include <cmath>
 
-#include "core/text.h"
 #include "forms/fault.h"
 
 namespace corvana {
@@ -21,8 +20,19 @@ std::string TestoNumero(double numero, char separatore) {
     return testo;
 }
 
+namespace {
+
+std::string_view SenzaBordi(std::string_view testo) {
+    constexpr std::string_view bordi = " \t";
+    const std::size_t primo = testo.find_first_not_of(bordi);
+    if (primo == std::string_view::npos) return {};
+    return testo.substr(primo, testo.find_last_not_of(bordi) - primo + 1);
+}
+
+}  // namespace
+
 double NumeroReale(std::string_view testo) {
-    std::string cifre(SenzaBlanchi(testo));
+    std::string cifre(SenzaBordi(testo));
     std::replace(cifre.begin(), cifre.end(), ',', '.');
     // Words that stand for infinity and for no number at all must not pass.
     const bool soloCifre = cifre.find_first_not_of("0123456789+-.eE") == std::string::npos;

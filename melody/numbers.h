@@ -11,8 +11,8 @@ namespace corvana {
 /// whole and fraction, a capital E before the exponent of very large and very small numbers.
 std::string TestoNumero(double numero, char separatore);
 
-/// The number that the text means, point or comma before the fraction, outer blanks ignored. Throws
-/// `Guasto` 13 when it isn't a number and `Guasto` 6 when no double can hold it.
+/// The number that the text means, point or comma before the fraction, outer blanks and tabs
+/// ignored. Throws `Guasto` 13 when it isn't a number and `Guasto` 6 when no double can hold it.
 double NumeroReale(std::string_view testo);
 
 /// A blank (or the minus), the digits, a blank: how a number stands alone in its line of a file.

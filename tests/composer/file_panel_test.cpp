@@ -160,4 +160,25 @@ TEST(EseguiFile, AMelodyIsLoadedFromTheFolderThatWasEntered) {
     EXPECT_TRUE(b.dialoghi.messaggi.empty());
 }
 
+TEST(ListaFD, AnExtensionInCapitalsIsAMelodysToo) {
+    BancoPannello b;
+    for (const char* nome : {"OLD.MEL", "new.mel", "x.Mel", "x.mel", "MEL"})
+        b.file.contenuti[std::string("/m/") + nome] = "";
+    EXPECT_EQ(b.RigheDi("/m/"), (Righe{"» ..", "new", "OLD", "x"}));
+}
+
+TEST(Esegui, AFileWithItsExtensionInCapitalsIsLoadedAndSavedAsTheFileItIs) {
+    BancoPannello b;
+    std::string& vecchio = b.file.contenuti[std::string(b.demo) + "OLD.MEL"];
+    vecchio = FileDi({"60;", "1;", "n;", " 60 ", " 16 "});
+    b.finestra.ListaFD();
+    b.Entra("OLD");
+    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_EQ(b.melodia.voci[soprano].testoNote, "60;");
+    b.Voce(soprano, "62;", "1");
+    b.finestra.SalvaMelodia("OLD");
+    EXPECT_EQ(vecchio, FileDi({"62;", "1;", "n;", " 60 ", " 16 "}));
+    EXPECT_EQ(b.finestra.List1.List(), (Righe{"» ..", "OLD"}));
+}
+
 }  // namespace corvana::prova

@@ -146,4 +146,31 @@ TEST(CaricaGuasto, AVoiceOf32767NotesLoads) {
     EXPECT_EQ(b.V(soprano).ultimaNota, 32766);
 }
 
+TEST(CaricaGuasto, BehindALoadThatFailedPlaySoundsNothingOfTheMelodyBefore) {
+    for (const std::size_t linee : {1U, 2U, 3U, 4U, 7U, 8U, 9U}) {
+        BancoGuasti b;
+        for (std::size_t voce = 0; voce < numeroVoci; ++voce)
+            b.Voce(voce, "72;74;", "1");
+        b.Carica(PrimeDi(dueVoci, linee));
+        b.dialoghi.messaggi.clear();
+        b.Suona();
+        EXPECT_FALSE(b.HaSuonato()) << linee;
+        EXPECT_TRUE(b.dialoghi.messaggi.empty()) << linee;
+        EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play") << linee;
+        EXPECT_TRUE(b.finestra.file.Enabled()) << linee;
+    }
+}
+
+TEST(CaricaGuasto, WhenTheTempoFailsPlaySoundsTheNewSopranoAndNoOldVoice) {
+    BancoGuasti b;
+    for (std::size_t voce = 0; voce < numeroVoci; ++voce)
+        b.Voce(voce, "72;74;", "1");
+    b.CaricaCon({{4, "fast"}});
+    b.Suona();
+    EXPECT_EQ(b.Messaggi(1).size(), 8U);
+    EXPECT_EQ(b.Messaggi().size(), 8U);
+    for (const Mandato& m : b.Messaggi())
+        EXPECT_LT(m.nota, 72);
+}
+
 }  // namespace corvana::prova

@@ -113,4 +113,35 @@ TEST(CaricaGuasto, ADurationThatIsNoNumberEndsThePlayThatItMeets) {
     EXPECT_TRUE(b.uscita.NoteAccese().empty());
 }
 
+TEST(Carica, ATempoIsTakenAsANumberWithItsFractionRoundedHalvesToTheEvenOne) {
+    for (const auto& [linea, tempo] : std::vector<std::pair<std::string, int>>{{" 60.5 ", 60},
+                                                                               {" 61.5 ", 62},
+                                                                               {"60,7", 61},
+                                                                               {"\t90\t", 90},
+                                                                               {" \t 45 \t", 45},
+                                                                               {"1E2", 100},
+                                                                               {"250.5", 250},
+                                                                               {"19.5", 20}}) {
+        BancoGuasti b;
+        b.CaricaCon({{4, linea}});
+        EXPECT_EQ(b.dialoghi.messaggi, Boxes{}) << linea;
+        EXPECT_EQ(b.melodia.tempo, tempo) << linea;
+        EXPECT_TRUE(b.HaSuonato()) << linea;
+    }
+    for (const char* linea : {"250.6", "19.4"}) {
+        BancoGuasti b;
+        b.CaricaCon({{4, linea}});
+        b.EsceGuasto(valoreErrato);
+    }
+}
+
+TEST(Carica, TheOtherNumbersOfAFileAreTakenTheSameWay) {
+    BancoGuasti b;
+    b.CaricaCon({{5, "16.4;3;4;1.5"}, {7, "basso;31.5"}});
+    EXPECT_EQ(b.dialoghi.messaggi, Boxes{});
+    EXPECT_EQ(b.V(soprano).strumento, 16);
+    EXPECT_EQ(b.V(basso).strumento, 32);
+    EXPECT_EQ(b.finestra.InizioPuls.Value(), 2);
+}
+
 }  // namespace corvana::prova

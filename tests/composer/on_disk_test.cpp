@@ -202,4 +202,18 @@ TEST(SuDisco, AMissingFileAndAFolderInItsPlaceAreToldByTheSystemsWords) {
                      std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)}));
 }
 
+TEST(SuDisco, APipeIsntListedAndItsNameDoesntKeepTheLoadWaiting) {
+    BancoSuDisco d;
+    ASSERT_EQ(mkfifo(d.cartella.Di("x.mel").c_str(), 0600), 0);
+    d.b.finestra.ListaFD();
+    EXPECT_EQ(d.b.finestra.List1.List(), Righe{"» .."});
+    d.b.finestra.List1.List = Righe{"x"};
+    d.Carica("x");
+    d.b.finestra.List1.List = Righe{"x"};
+    d.b.Scegli("x");
+    d.b.finestra.cmdEseguiFile_Click();
+    EXPECT_EQ(d.b.dialoghi.messaggi,
+              Boxes{std::to_string(EINVAL) + "\r\n" + ParoleSistema(EINVAL)});
+}
+
 }  // namespace corvana::prova

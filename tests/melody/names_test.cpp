@@ -84,4 +84,17 @@ TEST(NomeRifiutato, TheBytesThatTwoCharactersShareRefuseNeither) {
     EXPECT_TRUE(NomeRifiutato("·°", "°§"));
 }
 
+TEST(NomeDaFile, IsWhatStandsBeforeTheExtensionInWhateverCase) {
+    EXPECT_EQ(NomeDaFile("aria.mel"), "aria");
+    EXPECT_EQ(NomeDaFile("OLD.MEL"), "OLD");
+    EXPECT_EQ(NomeDaFile("a.b.Mel"), "a.b");
+    EXPECT_EQ(NomeDaFile("perché.mEL"), "perché");
+    EXPECT_EQ(NomeDaFile(".mel"), "");
+}
+
+TEST(NomeDaFile, IsNoneForAnyOtherFile) {
+    for (const char* file : {"", "mel", "aria.mel.bak", "aria.me", "aria.melo", "ariamel", "el"})
+        EXPECT_EQ(NomeDaFile(file), std::nullopt) << file;
+}
+
 }  // namespace corvana::prova

@@ -75,10 +75,11 @@ TEST(NumeroReale, TakesSignsAndExponents) {
     EXPECT_EQ(NumeroReale("1,5E3"), 1500);
 }
 
-TEST(NumeroReale, IgnoresBlanksAroundTheNumberAndNowhereElse) {
+TEST(NumeroReale, IgnoresBlanksAndTabsAroundTheNumberAndNowhereElse) {
     EXPECT_EQ(NumeroReale(" 60 "), 60);
     EXPECT_EQ(NumeroReale("   0,5"), 0.5);
-    for (const char* testo : {"6 0", "- 6", "\t6", "6\r", "0, 5"})
+    EXPECT_EQ(NumeroReale("\t60 \t"), 60);
+    for (const char* testo : {"6 0", "- 6", "6\t0", "6\r", "0, 5", "\t"})
         EXPECT_EQ(GuastoDelNumero(testo), guastoTipo) << testo;
 }
 
