@@ -45,25 +45,26 @@ void CorvanaMainF::Slider1_Scroll() {
 }
 
 void CorvanaMainF::CicloAutomatico() {
+    const std::uint32_t questa = corsa_;
     while (InCorso) {
         InizioNota = a_.pompa.Adesso();
         Mostranota();
         ++Mostrate;
         conta.Text = std::to_string(Mostrate);
         Risposto = false;
-        if (!AttendiRisposta()) return;
+        if (!AttendiRisposta(questa)) return;
     }
     // The run was stopped just as the note's time ran out.
     --Errate;
 }
 
-bool CorvanaMainF::AttendiRisposta() {
+bool CorvanaMainF::AttendiRisposta(std::uint32_t questa) {
     // The first pass doesn't wait: a key held from the note before answers this one at once.
     a_.pompa.PompaEventi();
     for (;;) {
-        // With the window gone there is no output left to silence; and the mode changes only
-        // between runs, so that by then this one is over.
-        if (!Identita() || Modo != "automatico") return false;
+        // With the window gone there is no output left to silence. And what was delivered may have
+        // stopped this run and begun another, whose counters and panel are none of this one's.
+        if (!Identita() || corsa_ != questa) return false;
         if (a_.finestre.Tasti().Premuto(vk::esc)) break;
         LeggiTasti();
         if (a_.pompa.Adesso() >= InizioNota + SecondiNota) return true;

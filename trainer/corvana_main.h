@@ -214,13 +214,15 @@ private:
     void PonRapporto(float rapporto);
     void MostraRisultati();
 
-    bool AttendiRisposta();
+    /// True when the note's time is over, false when the run numbered `questa` is.
+    bool AttendiRisposta(std::uint32_t questa);
     void LeggiTasti();
     void Giudica(int risposta);
 
     Ambiente a_;
     Secondarie secondarie_;
     bool primaAttivazione_ = true;
+    std::uint32_t corsa_ = 0;  ///< number of the run, so that a loop knows whether it is its own
 };
 
 /// Lays the main window's controls out and gives them their design-time texts.

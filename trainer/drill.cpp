@@ -1,4 +1,7 @@
 // A run of questions: its start and end, the answers of normal mode, the score.
+#include <algorithm>
+#include <limits>
+
 #include "core/effects.h"
 #include "core/text.h"
 #include "trainer/corvana_main.h"
@@ -8,7 +11,8 @@ namespace corvana {
 
 namespace {
 constexpr int giorno = 24 * 3600;
-}
+constexpr long massimoContato = std::numeric_limits<std::int32_t>::max() - 1;
+}  // namespace
 
 void CorvanaMainF::Start_Click() {
     if (Corre()) {
@@ -24,6 +28,7 @@ void CorvanaMainF::Start_Click() {
     PonRapporto(1);
     Nascondinote();
     InCorso = true;
+    ++corsa_;
     frmRisultati.Visible = false;
     Esatte = Errate = Mostrate = 0;
     OraInizio = a_.pompa.OraDelGiorno();
@@ -80,7 +85,7 @@ void CorvanaMainF::ControllaRisposta(int risposta) {
     const auto indice = static_cast<std::size_t>(risposta - 1);
     if (RispostaGiusta.at(indice) && TastoPremuto.at(indice)) {
         ++Esatte;
-        conta.Text = std::to_string(NumeroIntero(conta.Text(), 0, Esatte) + 1);
+        conta.Text = std::to_string(NumeroIntero(conta.Text(), 0, massimoContato) + 1);
         Mostranota();
     } else {
         SuonaOnda("rko.wav", sndAsincrono);
@@ -100,7 +105,8 @@ void CorvanaMainF::MostraPunteggio(int risposte) {
 }
 
 void CorvanaMainF::PonRapporto(float rapporto) {
-    Rapporto = rapporto;
+    // Answers given by hand in an automatic run can outnumber the notes that the clock has shown.
+    Rapporto = std::min(rapporto, 1.0F);
     ImpostaBarra(PercMet, PercBg, Rapporto, "v");
 }
 
