@@ -113,19 +113,19 @@ int Prova(Sequenza& clic, std::size_t lunghezza) {
 
 }  // namespace
 
-TEST(CicliAnnidati, InEveryOrderOfSixCommandsWhatIsShownRuns) {
+TEST(CicliAnnidati, InEveryOrderOfSevenCommandsWhatIsShownRuns) {
     Sequenza clic;
-    EXPECT_GT(Prova(clic, 6), 500);
+    EXPECT_GT(Prova(clic, 7), 2000);
 }
 
 TEST(CicliAnnidati, LikewiseWhenAnAutomaticRunAndItsStopUnderTheMetronomeHaveGoneBefore) {
     Sequenza clic = {"mnuAutomatico", "Start", "cmdSSmetro", "Start"};
-    EXPECT_GT(Prova(clic, 9), 50);
+    EXPECT_GT(Prova(clic, 10), 500);
 }
 
 TEST(CicliAnnidati, LikewiseWhenTheMetronomeStartedAndStoppedInAnAutomaticRun) {
     Sequenza clic = {"mnuAutomatico", "Start", "cmdSSmetro", "cmdSSmetro"};
-    EXPECT_GT(Prova(clic, 9), 50);
+    EXPECT_GT(Prova(clic, 10), 500);
 }
 
 }  // namespace corvana::prova

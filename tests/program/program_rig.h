@@ -7,7 +7,11 @@
 namespace corvana::prova {
 
 struct BancoProgramma : Banco {
-    Programma programma{Tutto()};
+    BancoProgramma() : programma(Tutto()) {}
+    /// With another source of chance.
+    explicit BancoProgramma(Casuale& altra) : programma(Con(altra)) {}
+
+    Programma programma;
     CorvanaMainF& finestra = programma.principale;
     PannelloMetronomo& metronomo = programma.metronomo;
     StatoMetronomo& stato = globali.metronomo;

@@ -159,9 +159,8 @@ void UtenteDistratto::Controlla() {
           "two answers are right");
     Esigi(f.Start.Caption() == (f.InCorso ? "Stop" : "Start"), "the caption of Start is wrong");
     Esigi(f.Esatte >= 0 && f.Mostrate >= 0, "a counter is negative");
-    // A stop just as a note's time runs out takes one away, once for each run that a stop and a
-    // start at one instant had laid upon another; no panel tells it and the next run begins at 0.
-    Esigi(f.Errate >= 0 || !f.InCorso, "the wrong answers of a run are fewer than none");
+    // A stop just as a note's time runs out takes one away, which no panel tells.
+    Esigi(f.Errate >= (f.InCorso ? 0 : -1), "the wrong answers are fewer than none");
     Esigi(f.Lrerrate.Caption().find('-') == std::string::npos, "a panel tells less than none");
     Esigi(f.Rapporto >= 0 && f.Rapporto <= 1, "the bar is out of its bounds");
     Esigi(f.Slider1.Value() >= 20 && f.Slider1.Value() <= 140, "the slider is out of its bounds");

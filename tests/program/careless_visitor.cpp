@@ -1,0 +1,248 @@
+#include "tests/program/careless_visitor.h"
+
+#include <algorithm>
+
+#include "core/text.h"
+#include "trainer/keys.h"
+
+namespace corvana::prova {
+
+namespace {
+
+const char* const italiano = "1;CorvanaMainF;Esci\n28;CorvanaMainF;Esatte: \n34;CorvanaMainF;V \n";
+const char* const inglese = "1;CorvanaMainF;Exit\n28;CorvanaMainF;Right: \n34;CorvanaMainF;S \n";
+
+/// What a burst is made of; a name that comes twice is done twice as often. "" is a right answer.
+constexpr std::array<const char*, 20> abitudini = {"Start",
+                                                   "Start",
+                                                   "Start",
+                                                   "Start",
+                                                   "cmdSSmetro",
+                                                   "cmdSSmetro",
+                                                   "cmdSSmetro",
+                                                   "mnuNormale",
+                                                   "mnuAutomatico",
+                                                   "mnuNormale",
+                                                   "ToolButton6",
+                                                   "mnuMetro",
+                                                   "ToolButton3",
+                                                   "",
+                                                   "",
+                                                   "pdo",
+                                                   "mnuIt",
+                                                   "mnuEn",
+                                                   "difficolt",
+                                                   "Regolo"};
+
+/// More than the slowest note and the slowest pulse take.
+constexpr double lungaAttesa = 8;
+constexpr double giroIntero = 3.5;
+
+}  // namespace
+
+void Vagabondo::Vivi() {
+    while (rimasti_ > 0 && guasto.empty())
+        Avvia();
+}
+
+void Vagabondo::Avvia() {
+    banco_ = std::make_unique<BancoProgramma>(chance_);
+    banco_->uscita.nomi = {"Porta"};
+    banco_->file.contenuti["/programma/langit.csv"] = italiano;
+    banco_->file.contenuti["/programma/langen.csv"] = inglese;
+    if (Capita(100)) banco_->uscita.esitoOpen = 4;
+    prima_.reset();
+    banco_->Quando(0, [this] { Passo(); });
+    const bool svolta = banco_->Esegui([this] { banco_->programma.Esegui(false); });
+    if (!svolta) ControllaChiusa();
+    pulsi += static_cast<int>(banco_->Pulsi().size());
+    secondi += banco_->orologio.Adesso();
+}
+
+double Vagabondo::Pausa() {
+    if (Capita(60)) return lungaAttesa + Tra(0, 20);
+    return Capita(998) ? Tra(0, 1500) / 1000.0 : Tra(0, 1800);
+}
+
+void Vagabondo::Passo() {
+    Controlla();
+    ControllaAttesa();
+    if (rimasti_ <= 0 || !guasto.empty()) throw FineCopione{};
+    for (int i = Capita(100) ? Tra(2, 6) : 1; i > 0; --i)
+        Agisci();
+    const double pausa = Pausa();
+    const double adesso = banco_->orologio.Adesso();
+    if (pausa >= lungaAttesa)
+        banco_->Quando(adesso + pausa - giroIntero, [this] {
+            if (DeveCorrere()) prima_ = Ora();
+        });
+    banco_->Quando(adesso + pausa, [this] { Passo(); });
+}
+
+void Vagabondo::Agisci() {
+    --rimasti_;
+    const Form* davanti = banco_->finestre.Davanti();
+    if (!davanti) return;
+    ++viste[davanti->Name];
+    const bool principale = davanti == &banco_->finestra;
+    if (principale && PerAbitudine()) return;
+    Evento e = GestoQualunque(*davanti);
+    if (e.fatto == Fatto::Chiudi && principale && !Capita(100)) e.fatto = Fatto::Click;
+    Manda(std::move(e));
+}
+
+bool Vagabondo::PerAbitudine() {
+    if (raffica_ == 0 && Capita(60)) raffica_ = Tra(4, 40);
+    if (raffica_ == 0) return false;
+    --raffica_;
+    const std::string cosa = abitudini.at(static_cast<std::size_t>(Tra(0, abitudini.size() - 1)));
+    if (Capita(15)) {
+        Evento chiude;
+        chiude.fatto = Fatto::Chiudi;
+        Manda(chiude);
+    } else if (Capita(15)) {
+        Tasto(27);
+    } else if (cosa.empty()) {
+        RispondiGiusto();
+    } else {
+        Premi(cosa);
+    }
+    return true;
+}
+
+void Vagabondo::Premi(const std::string& controllo) {
+    Evento e;
+    e.controllo = banco_->finestra.Trova(controllo)->Numero();
+    if (controllo == "Regolo") e.fatto = Fatto::MouseDown;
+    e.y = Tra(0, 4700);
+    e.valore = Tra(0, 10);
+    Manda(e);
+}
+
+void Vagabondo::RispondiGiusto() {
+    const auto& giuste = banco_->finestra.RispostaGiusta;
+    const auto quale = std::find(giuste.begin(), giuste.end(), true) - giuste.begin();
+    if (quale == static_cast<std::ptrdiff_t>(giuste.size())) return;
+    constexpr std::array bottoni = {"pdo", "pre", "pmi", "pfa", "psol", "pla", "psi"};
+    if (Capita(700)) return Premi(bottoni.at(static_cast<std::size_t>(quale)));
+    for (const TastiRisposta& tasti : tastiAutomatici)
+        if (tasti.risposta == quale + 1) Tasto(tasti.tasto);
+}
+
+void Vagabondo::Tasto(int codice) {
+    for (const Fatto fatto : {Fatto::KeyDown, Fatto::KeyUp}) {
+        Evento e;
+        e.fatto = fatto;
+        e.codice = codice;
+        Manda(e);
+    }
+}
+
+void Vagabondo::Manda(Evento evento) {
+    evento.finestra = banco_->finestre.Davanti()->Identita();
+    banco_->coda.Aggiungi(std::move(evento));
+}
+
+Evento Vagabondo::GestoQualunque(const Form& davanti) {
+    Evento e;
+    e.controllo = Tra(0, static_cast<int>(davanti.Controlli().size()) - 1);
+    e.valore = Tra(-20, 140);
+    e.x = Tra(-1000, 10000);
+    e.y = Tra(-1000, 5000);
+    e.codice = Capita(500) ? 27 : Tra(1, 255);
+    e.testo = std::string(static_cast<std::size_t>(Tra(0, 20)), static_cast<char>(Tra('a', 'e')));
+    if (Capita(300)) e.fatto = static_cast<Fatto>(Tra(0, static_cast<int>(Fatto::FuocoPerso)));
+    const bool dellaFinestra =
+        e.fatto == Fatto::KeyDown || e.fatto == Fatto::KeyUp || e.fatto == Fatto::Chiudi;
+    if (dellaFinestra) e.controllo = 0;
+    return e;
+}
+
+void Vagabondo::Esigi(bool vero, const std::string& cosa) {
+    if (!vero && guasto.empty()) guasto = cosa + ", " + std::to_string(rimasti_) + " to go";
+}
+
+void Vagabondo::Controlla() {
+    ControllaBoxes();
+    const StatoMetronomo& m = banco_->stato;
+    const CorvanaMainF& f = banco_->finestra;
+    Esigi(!m.MetroSequenza.empty() && m.MetroSequenza.size() <= 20, "no pattern");
+    Esigi(m.MetroBattito >= 0.15 - 1e-9 && m.MetroBattito <= 3, "a beat out of its bounds");
+    Esigi(f.Start.Caption() == (f.InCorso ? "Stop" : "Start"), "the caption of Start");
+    Esigi(f.Modo == (f.mnuAutomatico.Checked() ? "automatico" : "normale"), "the mode is unclear");
+    Esigi(f.Rapporto >= 0 && f.Rapporto <= 1, "the bar is out of its bounds");
+    if (m.MetroAttivo)
+        Esigi(!banco_->metronomo.cmdSetup.Enabled() && f.frmMetro.Visible(),
+              "the set-up is on, or the panel gone, while it ticks");
+    if (f.InCorso) ControllaCorsa();
+    // Until the opening signal is over some commands rest.
+    if (!f.InCorso && !m.MetroAttivo && banco_->orologio.Adesso() > BancoProgramma::pronta)
+        ControllaFermo();
+}
+
+void Vagabondo::ControllaBoxes() {
+    for (const std::string& testo : banco_->dialoghi.messaggi)
+        Esigi(testo.starts_with("Operation:"), "a box: " + testo);
+    banco_->dialoghi.messaggi.clear();
+}
+
+/// In an automatic run, and only there, notes have been shown by the clock.
+void Vagabondo::ControllaCorsa() {
+    ++corse;
+    const CorvanaMainF& f = banco_->finestra;
+    const bool automatica = f.Mostrate > 0;
+    cambi += automatica && f.Modo == "normale" ? 1 : 0;
+    Esigi(f.Esatte >= 0 && f.Errate >= 0 && f.Mostrate >= 0, "a counter of a run is negative");
+    Esigi(f.er.Text() == std::to_string(f.Errate), "the wrong answers shown");
+    Esigi(!f.frmRisultati.Visible(), "the results of an older run are shown");
+    Esigi(!f.Regolo.Visible(), "the ruler is there in a run");
+    if (automatica) {
+        Esigi(NumeroIntero(f.conta.Text(), 0, 100000) >= f.Mostrate, "the notes shown");
+        return;
+    }
+    const int date = f.Esatte + f.Errate;
+    Esigi(f.conta.Text() == std::to_string(f.Esatte), "the right answers shown");
+    Esigi(f.PercEs.Text() == (date ? Percento(f.Esatte, date) : "0"), "the percentage");
+}
+
+void Vagabondo::ControllaFermo() {
+    const CorvanaMainF& f = banco_->finestra;
+    Esigi(f.es.Enabled() && f.Opzioni.Enabled() && f.Risorse.Enabled() && f.f1.Enabled() &&
+              f.Esci.Enabled() && f.cmdEsci.Enabled() && f.Regolo.Visible(),
+          "the idle window isn't whole");
+    Esigi(banco_->metronomo.cmdSetup.Enabled() && banco_->metronomo.lblCloseMetro.Enabled(),
+          "the idle panel isn't whole");
+}
+
+bool Vagabondo::DeveCorrere() const {
+    const BancoProgramma& b = *banco_;
+    if (b.finestre.Davanti() != &b.finestra) return false;
+    // Without a device the metronome waits in silence.
+    if (b.stato.MetroAttivo) return b.suono.HandleMidi != 0;
+    return b.finestra.InCorso && b.finestra.Mostrate > 0;
+}
+
+Vagabondo::Avanzamento Vagabondo::Ora() const {
+    return {banco_->finestra.Mostrate, banco_->uscita.messaggi.size()};
+}
+
+void Vagabondo::ControllaAttesa() {
+    if (!prima_) return;
+    ++attese;
+    Esigi(Ora() != *prima_, "what is shown as running stands still");
+    prima_.reset();
+}
+
+void Vagabondo::ControllaChiusa() {
+    ++chiusure;
+    Controlla();
+    Esigi(!banco_->stato.MetroAttivo, "closed while the metronome ticks");
+    Esigi(!banco_->finestra.InCorso, "closed within a run");
+    Esigi(!banco_->uscita.aperto, "the device stays open");
+    // Before it was closed the drill had let go of its notes; only the faint ones behind the low
+    // codes, and what the MIDI test has struck, are never let go.
+    for (const auto& [canale, nota] : banco_->uscita.NoteAccese())
+        Esigi(canale != 1 || nota <= 24 || nota == 69, "a note was left sounding");
+}
+
+}  // namespace corvana::prova
