@@ -88,7 +88,7 @@ void Dormi(double secondi) {
 
 void Misura(const prova::ServerSonoro& server, int tempo, double secondi, Intorno intorno) {
     Banco banco;
-    banco.impostazioni.CreaSeManca();
+    banco.impostazioni.Prepara();
     bool puntuale = false;
     std::thread logica([&] {
         PreferisciPuntualita();

@@ -12,7 +12,8 @@ public:
     Esecuzione(frmComposer& finestra, const Ambiente& ambiente, const std::int16_t& primaNota,
                const std::int16_t& ultimaNota, const bool& soloNota);
 
-    /// Returns when the play has ended; when an exception ends it, everything is put back all the same.
+    /// Returns when the play has ended; when an exception ends it, everything is put back all the
+    /// same.
     void Suona();
 
 private:
