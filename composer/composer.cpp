@@ -102,7 +102,8 @@ void frmComposer::AzzeraEditing() {
 }
 
 void frmComposer::Form_Unload(bool& Cancel) {
-    if (lblModificato.Visible() && !a_.dialoghi.Domanda(a_.globali.testi.msgUscireSenzaSalvare)) {
+    const bool chiede = lblModificato.Visible() && !a_.finestre.InChiusura();
+    if (chiede && !a_.dialoghi.Domanda(a_.globali.testi.msgUscireSenzaSalvare)) {
         Cancel = true;
         return;
     }

@@ -1,8 +1,6 @@
 // The rounds of a play.
 #include "composer/playback.h"
 
-#include <exception>
-
 #include "composer/ranges.h"
 #include "melody/numbers.h"
 #include "melody/tokens.h"
@@ -32,7 +30,7 @@ void Esecuzione::Suona() {
         PreparaVoci();
         ScegliTratto();
         while (Giro()) {}
-    } catch (const std::exception&) {
+    } catch (...) {
         Termina();
         throw;
     }

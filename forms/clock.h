@@ -22,7 +22,13 @@ public:
     virtual int OraDelGiorno() const = 0;
     /// Returns at the instant `fino`, or at once when it has passed. Delivers nothing.
     virtual void AspettaFino(double fino) = 0;
-    /// Returns when an event waits in `coda` or the instant `fino` (may be infinite) has come.
+    /// The same, and returns at once when the end of the program is asked for in `coda`, where the
+    /// clock can tell.
+    virtual void AspettaFine(CodaEventi& coda, double fino) {
+        if (!coda.FineChiesta()) AspettaFino(fino);
+    }
+    /// Returns when an event waits in `coda`, the end is asked for there, or the instant `fino` (may
+    /// be infinite) has come.
     virtual void AspettaEvento(CodaEventi& coda, double fino) = 0;
 };
 

@@ -18,6 +18,7 @@ enum class Fatto : std::uint8_t {
     Scroll,      ///< a slider's thumb on its way (`valore`)
     Chiudi,      ///< a request to close the window
     FuocoPerso,  ///< the program lost the keyboard: every held key is released
+    Spostata,    ///< the window stands at `x`, `y` on the screen, in twips, its frame included
 };
 
 /// Bits of `shift`.

@@ -10,7 +10,7 @@ namespace {
 
 bool Sostituisce(const Evento& nuovo, const Evento& vecchio) {
     if (nuovo.fatto != vecchio.fatto || nuovo.finestra != vecchio.finestra) return false;
-    if (nuovo.fatto == Fatto::MouseMove) return true;
+    if (nuovo.fatto == Fatto::MouseMove || nuovo.fatto == Fatto::Spostata) return true;
     return nuovo.fatto == Fatto::Scroll && nuovo.controllo == vecchio.controllo;
 }
 
@@ -18,6 +18,15 @@ std::chrono::steady_clock::time_point Istante(double secondi) {
     using std::chrono::steady_clock;
     const std::chrono::duration<double> durata(secondi);
     return steady_clock::time_point(std::chrono::duration_cast<steady_clock::duration>(durata));
+}
+
+template <class Pronto>
+void Dormi(std::condition_variable& segnale, std::unique_lock<std::mutex>& guardia, double fino,
+           Pronto pronto) {
+    if (fino == std::numeric_limits<double>::infinity())
+        segnale.wait(guardia, pronto);
+    else
+        segnale.wait_until(guardia, Istante(std::max(fino, 0.0)), pronto);
 }
 
 }  // namespace
@@ -46,12 +55,22 @@ bool CodaEventi::Vuota() const {
 
 bool CodaEventi::Aspetta(double fino) {
     std::unique_lock guardia(blocco_);
-    const auto pronto = [this] { return !eventi_.empty(); };
-    if (fino == std::numeric_limits<double>::infinity())
-        arrivo_.wait(guardia, pronto);
-    else
-        arrivo_.wait_until(guardia, Istante(std::max(fino, 0.0)), pronto);
-    return pronto();
+    Dormi(arrivo_, guardia, fino, [this] { return !eventi_.empty() || fineChiesta_; });
+    return !eventi_.empty();
+}
+
+void CodaEventi::ChiediFine() {
+    {
+        const std::scoped_lock guardia(blocco_, bloccoFine_);
+        fineChiesta_ = true;
+    }
+    arrivo_.notify_one();
+    fine_.notify_one();
+}
+
+void CodaEventi::AspettaFine(double fino) {
+    std::unique_lock guardia(bloccoFine_);
+    Dormi(fine_, guardia, fino, [this] { return fineChiesta_.load(); });
 }
 
 }  // namespace corvana

@@ -21,7 +21,9 @@ int Form::Iscrivi(Controllo& controllo) {
 }
 
 void Form::Annuncia(const Controllo& controllo, const ProprietaBase& proprieta) {
-    if (specchio_) specchio_->Cambiato(controllo, proprieta.NomeProprieta(), proprieta.Leggi());
+    const Nome nome = proprieta.NomeProprieta();
+    if (&controllo == this && (nome == Nome::Left || nome == Nome::Top)) collocata_ = true;
+    if (specchio_) specchio_->Cambiato(controllo, nome, proprieta.Leggi());
 }
 
 void Form::Trascina() const {

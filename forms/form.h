@@ -33,6 +33,11 @@ public:
     /// The control of that name, compared with case, or null.
     Controllo* Trova(std::string_view nome) const;
 
+    /// `Left` and `Top`, in twips on the screen, were set for this showing: the window stands there.
+    /// Otherwise the face finds a place for it. While it is shown they follow the real window where
+    /// the platform tells, and setting them moves it.
+    bool Collocata() const { return collocata_; }
+
     /// Identity of this showing; 0 while the form isn't loaded.
     std::uint32_t Identita() const { return identita_; }
 
@@ -55,6 +60,7 @@ private:
     std::unordered_map<std::string_view, Controllo*> perNome_;
     Specchio* specchio_ = nullptr;
     std::uint32_t identita_ = 0;
+    bool collocata_ = false;
 };
 
 /// Where a control lies, in twips from its parent, and the texts that it starts with.

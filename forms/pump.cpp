@@ -1,6 +1,7 @@
 #include "forms/pump.h"
 
 #include <algorithm>
+#include <exception>
 
 namespace corvana {
 
@@ -26,14 +27,25 @@ void Pompa::Riprendi(double istante) {
     istante_ = risveglio_ - istante > ritardoRecuperato ? risveglio_ : istante;
 }
 
+bool Pompa::InChiusura() {
+    if (!coda_.FineChiesta()) return false;
+    coda_.SegnaFineVista();
+    // What puts things back while the stack unwinds may call anything: it must not throw again.
+    if (congedo_ || std::uncaught_exceptions() > 0) return true;
+    throw FineProgramma{};
+}
+
 void Pompa::PompaEventi() {
-    while (const auto evento = coda_.Prendi()) {
+    while (!InChiusura()) {
+        const auto evento = coda_.Prendi();
+        if (!evento) return;
         if (sveglia_) sveglia_();
         consegna_(*evento);
     }
 }
 
 void Pompa::AttendiEvento(double fino) {
+    if (InChiusura()) return;
     // Time never runs back, though the instant asked for may have passed.
     const double adesso = Adesso();
     orologio_.AspettaEvento(coda_, fino);
@@ -42,9 +54,10 @@ void Pompa::AttendiEvento(double fino) {
 }
 
 void Pompa::Attendi(double secondi) {
-    if (!(secondi > 0)) return;
+    if (!(secondi > 0) || InChiusura()) return;
     const double fino = Adesso() + secondi;
-    orologio_.AspettaFino(fino);
+    orologio_.AspettaFine(coda_, fino);
+    if (InChiusura()) return;
     Riprendi(fino);
 }
 

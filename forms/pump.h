@@ -13,6 +13,10 @@ constexpr double perSempre = std::numeric_limits<double>::infinity();
 /// What a `Sleep` lasts beyond its milliseconds: the granularity that playback counts on.
 constexpr int granularitaSleep = 2;
 
+/// Thrown by every way to wait once the end of the program was asked for: it ends whatever loop
+/// waits. Nobody but `Finestre` catches it.
+struct FineProgramma {};
+
 class Pompa {
 public:
     Pompa(Orologio& orologio, CodaEventi& coda) : orologio_(orologio), coda_(coda) {}
@@ -24,6 +28,13 @@ public:
 
     /// Called before each event that is taken; may be empty.
     void PonSveglia(std::function<void()> sveglia) { sveglia_ = std::move(sveglia); }
+
+    /// True when nothing is to be waited for any more, since the program ends: in what unwinds the
+    /// stack, and while the windows are closed (`PonCongedo`). Elsewhere it then throws
+    /// `FineProgramma`.
+    bool InChiusura();
+    /// The windows are being closed because the program ends.
+    void PonCongedo(bool congedo) { congedo_ = congedo; }
 
     /// Delivers all events that wait, nested on this stack. No time passes.
     void PompaEventi();
@@ -53,6 +64,7 @@ private:
     double istante_ = -perSempre;  ///< the instant that the last wait asked for
     double risveglio_ = 0;         ///< the clock's when that wait had ended
     double calcolato_ = 0;         ///< the processor time used until then
+    bool congedo_ = false;
 };
 
 }  // namespace corvana

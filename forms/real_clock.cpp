@@ -43,6 +43,10 @@ void OrologioReale::AspettaFino(double fino) {
     while (clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &istante, nullptr) == EINTR) {}
 }
 
+void OrologioReale::AspettaFine(CodaEventi& coda, double fino) {
+    coda.AspettaFine(fino);
+}
+
 void OrologioReale::AspettaEvento(CodaEventi& coda, double fino) {
     coda.Aspetta(fino);
 }

@@ -11,6 +11,7 @@ public:
     double Calcolato() const override;
     int OraDelGiorno() const override;
     void AspettaFino(double fino) override;
+    void AspettaFine(CodaEventi& coda, double fino) override;
     void AspettaEvento(CodaEventi& coda, double fino) override;
 };
 

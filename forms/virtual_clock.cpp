@@ -32,8 +32,13 @@ void OrologioVirtuale::AspettaFino(double fino) {
     adesso_ = std::max(adesso_, fino);
 }
 
+void OrologioVirtuale::AspettaFine(CodaEventi& coda, double fino) {
+    while (!coda.FineChiesta() && EseguiPasso(fino)) {}
+    if (!coda.FineChiesta()) adesso_ = std::max(adesso_, fino);
+}
+
 void OrologioVirtuale::AspettaEvento(CodaEventi& coda, double fino) {
-    while (coda.Vuota()) {
+    while (coda.Vuota() && !coda.FineChiesta()) {
         if (EseguiPasso(fino)) continue;
         if (passi_.empty()) throw FineCopione{};
         return AspettaFino(fino);

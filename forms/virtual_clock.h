@@ -27,6 +27,7 @@ public:
     double Calcolato() const override { return 0; }
     int OraDelGiorno() const override;
     void AspettaFino(double fino) override;
+    void AspettaFine(CodaEventi& coda, double fino) override;
     void AspettaEvento(CodaEventi& coda, double fino) override;
 
 private:

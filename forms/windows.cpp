@@ -32,19 +32,26 @@ void Finestre::Mostra(Form& form) {
 }
 
 void Finestre::MostraModale(Form& form) {
-    Apri(form, true);
-    while (Aperta(form))
-        pompa_.AttendiEvento(perSempre);
+    try {
+        if (!Apri(form, true)) return;
+        while (Aperta(form))
+            pompa_.AttendiEvento(perSempre);
+    } catch (const FineProgramma&) {
+        Congeda(form);
+        throw;
+    }
     if (Form* sotto = Davanti()) sotto->Form_Activate();
 }
 
-void Finestre::Apri(Form& form, bool modale) {
+bool Finestre::Apri(Form& form, bool modale) {
+    if (pompa_.InChiusura()) return false;
     form.Form_Load();
     form.identita_ = ++ultimaIdentita_;
     aperte_.push_back(&form);
     form.specchio_ = specchio_;
     if (specchio_) specchio_->Mostra(form, modale);
     form.Form_Activate();
+    return true;
 }
 
 bool Finestre::Aperta(const Form& form) const {
@@ -56,19 +63,42 @@ bool Finestre::Scarica(Form& form) {
     bool Cancel = false;
     form.Form_Unload(Cancel);
     if (Cancel) return false;
+    Togli(form);
+    return true;
+}
+
+void Finestre::Togli(Form& form) {
     std::erase(aperte_, &form);
     if (specchio_) specchio_->Chiudi(form);
     form.specchio_ = nullptr;
     form.identita_ = 0;
-    return true;
+    form.collocata_ = false;
 }
 
-void Finestre::Esegui() {
-    while (!aperte_.empty())
-        pompa_.AttendiEvento(perSempre);
+void Finestre::Congeda(Form& form) {
+    if (!Aperta(form)) return;
+    inChiusura_ = true;
+    pompa_.PonCongedo(true);
+    Evento evento;
+    evento.fatto = Fatto::Chiudi;
+    Riferisci(form, form, evento);
+    if (Aperta(form)) Togli(form);
+    pompa_.PonCongedo(false);
+}
+
+void Finestre::Esegui(const std::function<void()>& inizio) {
+    try {
+        if (inizio) inizio();
+        while (!aperte_.empty())
+            pompa_.AttendiEvento(perSempre);
+    } catch (const FineProgramma&) {
+        while (!aperte_.empty())
+            Congeda(*aperte_.back());
+    }
 }
 
 void Finestre::Consegna(const Evento& evento) {
+    if (evento.fatto == Fatto::Spostata) return PrendiPosto(evento);
     // A release must never be lost, whoever is in front: a key would seem held for ever.
     if (evento.fatto == Fatto::FuocoPerso) return tasti_.LasciaTutti();
     if (evento.fatto == Fatto::KeyUp) tasti_.Segna(evento.codice, false);
@@ -79,6 +109,13 @@ void Finestre::Consegna(const Evento& evento) {
     if (evento.fatto == Fatto::KeyDown) tasti_.Segna(evento.codice, true);
     controllo->Accogli(evento);
     Riferisci(form, *controllo, evento);
+}
+
+void Finestre::PrendiPosto(const Evento& evento) {
+    Controllo* controllo = Destinatario(aperte_, evento);
+    if (!controllo) return;
+    controllo->Left.PonDaUtente(evento.x);
+    controllo->Top.PonDaUtente(evento.y);
 }
 
 void Finestre::Riferisci(Form& form, Controllo& controllo, const Evento& evento) {
@@ -109,7 +146,8 @@ void Finestre::Smista(Form& form, Controllo& controllo, const Evento& evento) {
         case Fatto::KeyDown: return TastoGiu(form, evento);
         case Fatto::KeyUp: return form.Form_KeyUp(evento);
         case Fatto::Chiudi: Scarica(form); return;
-        case Fatto::FuocoPerso: return;
+        case Fatto::FuocoPerso:
+        case Fatto::Spostata: return;
     }
 }
 

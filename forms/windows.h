@@ -27,8 +27,12 @@ public:
     void MostraModale(Form& form);
     /// Asks the window to close; true when it has.
     bool Scarica(Form& form);
-    /// Delivers events until the last window is gone.
-    void Esegui();
+    /// Does `inizio`, which opens the first window, and delivers events until the last one is gone.
+    /// When the end of the program is asked for, all that runs is unwound, and the windows are
+    /// unloaded, from the one in front to the one at the back, whatever they answer.
+    void Esegui(const std::function<void()>& inizio = {});
+    /// The windows close because the program ends, and nobody is asked any more.
+    bool InChiusura() const { return inChiusura_; }
 
     /// `aiuto` opens the help for a window. Without it F1 is a key like any other.
     void PonAiuto(std::function<void(const Form&)> aiuto) { aiuto_ = std::move(aiuto); }
@@ -37,11 +41,18 @@ public:
 
     const TastiPremuti& Tasti() const { return tasti_; }
     Form* Davanti() const { return aperte_.empty() ? nullptr : aperte_.back(); }
+    /// The window that all others were opened over, or null.
+    Form* Principale() const { return aperte_.empty() ? nullptr : aperte_.front(); }
 
 private:
-    void Apri(Form& form, bool modale);
+    bool Apri(Form& form, bool modale);
+    /// Gone it is, whatever it does while it is unloaded.
+    void Congeda(Form& form);
+    void Togli(Form& form);
     bool Aperta(const Form& form) const;
     void Consegna(const Evento& evento);
+    /// Whoever is in front: a window beneath can be moved as well.
+    void PrendiPosto(const Evento& evento);
     /// Runs the handler; a fault that it lets escape is shown in a box.
     void Riferisci(Form& form, Controllo& controllo, const Evento& evento);
     void Smista(Form& form, Controllo& controllo, const Evento& evento);
@@ -54,6 +65,7 @@ private:
     TastiPremuti tasti_;
     std::vector<Form*> aperte_;
     std::uint32_t ultimaIdentita_ = 0;
+    bool inChiusura_ = false;
 };
 
 }  // namespace corvana

@@ -108,7 +108,12 @@ void PannelloMetronomo::cmdSSmetro_Click() {
     SpegniENascondi();
     const std::string sequenza = UnBytePerCarattere(Stato().MetroSequenza);
     MetroMostraLuci(sequenza);
-    MetroCiclo(sequenza);
+    try {
+        MetroCiclo(sequenza);
+    } catch (const FineProgramma&) {
+        MetroFerma();
+        throw;
+    }
 }
 
 void PannelloMetronomo::MetroAvvia() {

@@ -48,8 +48,10 @@ void frmStrum::Form_Load() {
     for (std::int32_t i = 0; i < strumenti; ++i)
         righe.push_back(std::to_string(i) + " - " + NomeStrumento(i));
     List1.List = std::move(righe);
-    Left = aDestra;
-    Top = inBasso;
+    if (const Form* principale = a_.finestre.Principale()) {
+        Left = principale->Left + aDestra;
+        Top = principale->Top + inBasso;
+    }
     // A stored state edited by hand may name an instrument that the list hasn't.
     List1.Seleziona(std::clamp(a_.globali.StrumentoGlobale, 0, strumenti - 1));
 }

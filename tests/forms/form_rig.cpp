@@ -41,6 +41,7 @@ void FinestraProva::Form_Activate() {
 void FinestraProva::Form_Unload(bool& Cancel) {
     diario.emplace_back("unload");
     Cancel = rifiuta;
+    Chiama(allaChiusura);
 }
 
 void FinestraProva::Form_KeyDown(const Evento& tasto) {

@@ -22,7 +22,7 @@ public:
 
     std::vector<std::string> diario;
     bool rifiuta = false;  ///< refuse to close
-    std::function<void()> alCaricamento, allAttivazione, alTasto;
+    std::function<void()> alCaricamento, allAttivazione, alTasto, allaChiusura;
 
     void Form_Load() override;
     void Form_Activate() override;
