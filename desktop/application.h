@@ -32,9 +32,11 @@ public:
     Scrivania& LaScrivania();
 
     /// Runs `logica` on a thread of its own and the windows on this one until `logica` returns.
-    /// SIGINT and SIGTERM ask the windows to close meanwhile, the one in front first. Returns the
-    /// exit code of the process: 1 when `logica` ended by an exception, whose text goes to the
-    /// error stream.
+    /// SIGINT, SIGTERM, SIGHUP, the end of the session and the loss of the screen's server tell the
+    /// logic meanwhile that the program ends (`CodaEventi::ChiediFine`); a logic that doesn't take
+    /// note of it, since it computes without an end, is given up after the better part of a second,
+    /// together with the process. Returns the exit code of the process: 1 when `logica` ended by an
+    /// exception, whose text goes to the error stream.
     int Esegui(std::function<void()> logica);
 
 private:

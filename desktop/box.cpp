@@ -49,11 +49,12 @@ QDialog* ApriDialogo(const ApriRiquadro& richiesta, QWidget* sopra,
     const bool immissione = richiesta.genere == GenereRiquadro::Immissione;
     QDialog* box = immissione ? CreaImmissione(richiesta, sopra) : CreaMessaggio(richiesta, sopra);
     box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowRole(QStringLiteral("riquadro"));
     box->setWindowTitle(richiesta.titolo.empty() ? QString::fromLatin1(nomeProgramma)
                                                  : InQt(richiesta.titolo));
     QObject::connect(box, &QDialog::finished, box,
                      [box, risposta](int esito) { risposta(RispostaDiDialogo(*box, esito)); });
-    box->setWindowModality(Qt::ApplicationModal);
+    // It blocks the window that it belongs to and what that belongs to, but not the help.
     box->open();
     return box;
 }

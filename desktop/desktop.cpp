@@ -41,6 +41,7 @@ void Scrivania::Avvia(std::function<void()> logica) {
         } catch (...) {
             errore_ = std::current_exception();
         }
+        fineLogica_.set_value();
         cassetta_.Metti(FineLogica{});
     });
 }
@@ -61,18 +62,27 @@ void Scrivania::Attendi() {
 
 void Scrivania::Termina() {
     if (!logica_.joinable()) return;
-    specchio_.Rilascia();
-    ChiediUscita();
+    ChiediFine();
     QEventLoop giro;
     while (!finita_)
         giro.processEvents(QEventLoop::WaitForMoreEvents);
     logica_.join();
 }
 
-void Scrivania::ChiediUscita() {
-    uscita_ = true;
+void Scrivania::ChiediFine() {
+    coda_.ChiediFine();
+    specchio_.Rilascia();
     if (riquadro_) riquadro_->reject();
-    if (VistaFinestra* davanti = Davanti()) davanti->ChiediChiusura();
+}
+
+bool Scrivania::TerminaAlBuio(std::chrono::milliseconds pazienza) {
+    coda_.ChiediFine();
+    specchio_.Rilascia();
+    const auto fine = fineLogica_.get_future();
+    const bool finita = fine.wait_for(pazienza) == std::future_status::ready;
+    if (!finita && !coda_.FineVista()) return false;
+    fine.wait();
+    return true;
 }
 
 VistaFinestra* Scrivania::Davanti() {
@@ -95,9 +105,7 @@ void Scrivania::Esegui(Comando& comando) {
 }
 
 void Scrivania::Fai(const MostraFinestra& comando) {
-    VistaFinestra* sotto = comando.modale ? Davanti() : nullptr;
-    finestre_.push_back(std::make_unique<VistaFinestra>(comando, coda_, tastiera_, sotto));
-    if (uscita_) finestre_.back()->ChiediChiusura();
+    finestre_.push_back(std::make_unique<VistaFinestra>(comando, coda_, tastiera_, Davanti()));
 }
 
 void Scrivania::Fai(const CambiaProprieta& comando) {
@@ -111,9 +119,7 @@ void Scrivania::Fai(const DaiFuoco& comando) {
 
 void Scrivania::Fai(const ChiudiFinestra& comando) {
     std::erase_if(finestre_, [&](const auto& f) { return f->Identita() == comando.finestra; });
-    if (finestre_.empty()) return;
-    finestre_.back()->Finestra().activateWindow();
-    if (uscita_) finestre_.back()->ChiediChiusura();
+    if (VistaFinestra* davanti = Davanti()) davanti->Finestra().activateWindow();
 }
 
 void Scrivania::Fai(const TrascinaFinestra& comando) {
@@ -122,20 +128,20 @@ void Scrivania::Fai(const TrascinaFinestra& comando) {
 }
 
 void Scrivania::Fai(const MostraAiuto& comando) {
-    if (uscita_) return;
     if (!aiuto_)
         aiuto_ = std::make_unique<FinestraAiuto>([this] {
             if (VistaFinestra* davanti = Davanti()) davanti->Finestra().activateWindow();
         });
-    aiuto_->Mostra(InQt(comando.file), comando.contesto);
+    const VistaFinestra* davanti = Davanti();
+    aiuto_->Mostra(InQt(comando.file), comando.contesto, davanti ? &davanti->Finestra() : nullptr);
 }
 
 void Scrivania::Fai(const ApriRiquadro& comando) {
+    if (coda_.FineChiesta()) return;
     QWidget* sopra = finestre_.empty() ? nullptr : &finestre_.back()->Finestra();
     riquadro_ = ApriDialogo(comando, sopra, [this, numero = comando.numero](Risposta risposta) {
         specchio_.Rispondi(numero, std::move(risposta));
     });
-    if (uscita_) riquadro_->reject();
 }
 
 void Scrivania::Fai(const FineLogica&) {

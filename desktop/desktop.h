@@ -5,8 +5,10 @@
 #include <QDialog>
 #include <QPointer>
 #include <QSocketNotifier>
+#include <chrono>
 #include <exception>
 #include <functional>
+#include <future>
 #include <memory>
 #include <thread>
 #include <vector>
@@ -37,11 +39,14 @@ public:
     /// Starts the logic and runs the Qt loop until it has returned. Returns 1 when the logic ended
     /// by an exception, else 0.
     int Esegui(std::function<void()> logica);
-    /// Asks every window to close, answers No to every box, and returns when the logic has ended.
+    /// Tells the logic that the program ends, and answers No to the box that is open and to all
+    /// that would follow. The logic unwinds, closes its windows and returns; nobody is asked.
+    void ChiediFine();
+    /// The same, and returns when the logic has ended.
     void Termina();
-
-    /// Asks the window in front to close, and then the ones beneath; an open box is answered No.
-    void ChiediUscita();
+    /// The same without touching any window, for a process whose screen has gone. False when the
+    /// logic takes no note of it within `pazienza`, and goes on.
+    bool TerminaAlBuio(std::chrono::milliseconds pazienza);
 
     /// The window in front, or null.
     VistaFinestra* Davanti();
@@ -74,8 +79,8 @@ private:
     QSocketNotifier notifica_;
     std::thread logica_;
     std::exception_ptr errore_;  ///< what ended the logic; to be read when its thread has ended
+    std::promise<void> fineLogica_;
     bool finita_ = false;
-    bool uscita_ = false;  ///< everything was asked to close
 };
 
 }  // namespace corvana

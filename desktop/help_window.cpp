@@ -6,8 +6,11 @@
 #include <QShortcut>
 #include <QTextBrowser>
 #include <QToolBar>
+#include <QScreen>
+#include <QWindow>
 
 #include "desktop/look.h"
+#include "desktop/placement.h"
 #include "desktop/theme.h"
 
 namespace corvana {
@@ -18,6 +21,8 @@ namespace {
 constexpr double puntiPerPixel = 2;
 constexpr int margine = 30;
 constexpr QSize misura(740, 680);
+/// Narrower the lines would be too short to read well.
+constexpr int larghezzaMinima = 420;
 constexpr QLatin1String primaPagina("index.html");
 
 struct Parole {
@@ -64,6 +69,7 @@ public:
 FinestraAiuto::FinestraAiuto(std::function<void()> chiusa)
     : chiusa_(std::move(chiusa)), testo_(new Pagine(this)) {
     setObjectName(QStringLiteral("FinestraAiuto"));
+    setWindowRole(objectName());
     DisponiFoglio();
     CreaSbarra();
     connect(testo_, &QTextBrowser::sourceChanged, this, [this] { MettiTitolo(); });
@@ -100,7 +106,7 @@ void FinestraAiuto::CreaSbarra() {
     avanti_->setEnabled(false);
 }
 
-void FinestraAiuto::Mostra(const QString& file, int contesto) {
+void FinestraAiuto::Mostra(const QString& file, int contesto, const QWidget* accanto) {
     const QFileInfo nome(file);
     inglese_ = nome.completeBaseName().endsWith(QLatin1String("en"));
     const Parole parole = NellaLingua(inglese_);
@@ -108,10 +114,23 @@ void FinestraAiuto::Mostra(const QString& file, int contesto) {
     avanti_->setText(parole.avanti);
     indice_->setText(parole.indice);
     Vai(nome.path() + QStringLiteral("/help/") + nome.completeBaseName(), contesto);
-    showNormal();
+    if (accanto && !isVisible()) Colloca(*accanto);
+    if (isMinimized()) showNormal();
+    show();
     raise();
     activateWindow();
     testo_->setFocus(Qt::OtherFocusReason);
+}
+
+void FinestraAiuto::Colloca(const QWidget& accanto) {
+    // Its own frame isn't there yet; that of the window in front is the window manager's, too.
+    const QMargins cornice = accanto.windowHandle()->frameMargins();
+    setScreen(accanto.screen());
+    const QRect posto =
+        Accanto(misura.grownBy(cornice), larghezzaMinima,
+                accanto.windowHandle()->frameGeometry(), accanto.screen()->availableGeometry());
+    resize(posto.size().shrunkBy(cornice));
+    move(posto.topLeft());
 }
 
 void FinestraAiuto::Vai(const QString& cartella, int contesto) {

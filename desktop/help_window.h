@@ -17,8 +17,8 @@ public:
     /// Shows the page of that context in front. `file` is the help's name, without need of a file
     /// there: "/x/corvana.chm" has its pages in "/x/help/corvana", "7.html" for the context 7. The
     /// first page, "index.html", stands for one that isn't there; without that the window tells
-    /// what is missing.
-    void Mostra(const QString& file, int contesto);
+    /// what is missing. It opens beside `accanto`, if that isn't null.
+    void Mostra(const QString& file, int contesto, const QWidget* accanto = nullptr);
 
     /// File name of the page that is shown; empty when none was found.
     QString Pagina() const;
@@ -30,6 +30,7 @@ protected:
 private:
     void CreaSbarra();
     void DisponiFoglio();
+    void Colloca(const QWidget& accanto);
     void Vai(const QString& cartella, int contesto);
     void DiMancanza(const QString& cartella);
     void MettiTitolo();

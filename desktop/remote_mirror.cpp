@@ -46,7 +46,7 @@ std::vector<CopiaControllo> Copia(const Form& form) {
 }
 
 void SpecchioRemoto::Mostra(const Form& form, bool modale) {
-    cassetta_.Metti(MostraFinestra{form.Identita(), modale, Copia(form)});
+    cassetta_.Metti(MostraFinestra{form.Identita(), modale, form.Collocata(), Copia(form)});
 }
 
 void SpecchioRemoto::Cambiato(const Controllo& controllo, Nome nome, const Valore& valore) {

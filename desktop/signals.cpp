@@ -12,7 +12,7 @@ namespace {
 std::atomic<int> presaDelGestore{-1};
 static_assert(std::atomic<int>::is_always_lock_free);
 
-constexpr std::array segnali{SIGINT, SIGTERM};
+constexpr std::array segnali{SIGINT, SIGTERM, SIGHUP};
 
 void Gestisci(int) {
     const int presa = presaDelGestore.load();

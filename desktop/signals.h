@@ -1,4 +1,4 @@
-// Turns SIGINT and SIGTERM into a ring of a bell. One at a time; constructed and destroyed on the
+// Turns SIGINT, SIGTERM and SIGHUP into a ring of a bell. One at a time; constructed and destroyed on the
 // same thread.
 #pragma once
 

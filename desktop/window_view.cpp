@@ -2,15 +2,19 @@
 
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QPainterPath>
 #include <QScreen>
 #include <QShortcut>
 #include <QWindow>
 #include <algorithm>
 #include <set>
+#include <utility>
 
 #include "desktop/combo_view.h"
+#include "desktop/compositing.h"
 #include "desktop/keyboard.h"
 #include "desktop/painted_view.h"
+#include "desktop/placement.h"
 #include "desktop/staff_view.h"
 #include "desktop/theme.h"
 
@@ -19,6 +23,37 @@ namespace corvana {
 namespace {
 /// Below this share of the designed size the letters couldn't be read.
 constexpr double scalaMinima = 0.8;
+/// Of a rounded window's corners, at the designed size.
+constexpr double raggioFinestra = 11;
+/// False on Wayland, where a window neither knows nor chooses where it stands.
+bool DiceIPosti() {
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
+/// What windows may cover of the screen that has the point, or else of the window's own.
+QRect LiberoPresso(QPoint punto, const QWidget& finestra) {
+    const QScreen* schermo = QGuiApplication::screenAt(punto);
+    return (schermo ? schermo : finestra.screen())->availableGeometry();
+}
+
+/// Moves the window, and makes it smaller, so that it lies on the screen with its whole frame.
+void Contieni(QWidget& finestra) {
+    const QRect cornice = finestra.windowHandle()->frameGeometry();
+    const QRect giusta = DentroSchermo(cornice, finestra.screen()->availableGeometry());
+    if (giusta == cornice || finestra.isMaximized() || finestra.isFullScreen()) return;
+    finestra.resize(finestra.size() + giusta.size() - cornice.size());
+    finestra.windowHandle()->setFramePosition(giusta.topLeft());
+}
+
+/// What is to be seen of a rounded window: its face without the corners.
+QRegion Sagoma(const QWidget& faccia, double scala) {
+    QPainterPath tondo;
+    const double raggio = raggioFinestra * scala;
+    tondo.addRoundedRect(QRectF(faccia.rect()), raggio, raggio);
+    const QRegion sagoma(tondo.toFillPolygon().toPolygon());
+    return sagoma.translated(faccia.mapTo(faccia.window(), QPoint()));
+}
+
 }  // namespace
 
 /// The window itself: what the system does to it goes to its view.
@@ -32,7 +67,18 @@ protected:
         evento->ignore();
     }
     bool eventFilter(QObject* oggetto, QEvent* evento) override {
-        if (evento->type() == QEvent::Resize) vista_.Disponi();
+        switch (evento->type()) {
+            case QEvent::Resize:
+                if (oggetto == centralWidget()) vista_.Disponi();
+                break;
+            // The frame may become known after the last move: looked at again at the next occasion.
+            case QEvent::Move:
+            case QEvent::Expose:
+            case QEvent::FocusIn:
+                if (oggetto == windowHandle()) vista_.PrendiPosto();
+                break;
+            default: break;
+        }
         return QMainWindow::eventFilter(oggetto, evento);
     }
 
@@ -76,6 +122,8 @@ VistaFinestra::VistaFinestra(const MostraFinestra& comando, CodaEventi& coda, Ta
     CreaTutti(comando.controlli, tastiera);
     OrdinaFuoco();
     Ridimensiona();
+    if (sotto) Lega(*sotto, comando.modale);
+    Colloca(comando.collocata, sotto);
     Apri(comando.modale, sotto);
     tastiera.Segui(*finestra_->windowHandle(), mittente_);
 }
@@ -95,13 +143,47 @@ void VistaFinestra::CreaTutti(const std::vector<CopiaControllo>& controlli, Tast
     if (viste_.front()->Stato().Ha("arrotondata")) Arrotonda();
     finestra_->setWindowTitle(viste_.front()->Stato().caption);
     finestra_->setObjectName(viste_.front()->Stato().nome);
+    // Where the platform has it, whoever looks from outside tells the windows apart by this.
+    finestra_->setWindowRole(viste_.front()->Stato().nome);
     PonPuntatore();
 }
 
 void VistaFinestra::Arrotonda() {
     finestra_->setWindowFlag(Qt::FramelessWindowHint);
+    sagomata_ = !SchermoComposto();
+    if (sagomata_) return;
     finestra_->setAttribute(Qt::WA_TranslucentBackground);
     finestra_->centralWidget()->setAutoFillBackground(false);
+}
+
+void VistaFinestra::Lega(const VistaFinestra& sotto, bool modale) {
+    const bool nuda = finestra_->windowFlags() & Qt::FramelessWindowHint;
+    // Of the dialog kind, since the toolkit tells the window manager of no other whom it belongs
+    // to. It can't be minimised alone: the one beneath, which it blocks, would seem frozen.
+    if (nuda)
+        finestra_->setWindowFlag(Qt::Dialog);
+    else
+        finestra_->setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                  Qt::WindowSystemMenuHint | Qt::WindowMaximizeButtonHint |
+                                  Qt::WindowCloseButtonHint);
+    finestra_->setScreen(sotto.finestra_->screen());
+    // The windows beneath are blocked, the help is not.
+    if (modale) finestra_->setWindowModality(Qt::WindowModal);
+}
+
+void VistaFinestra::Colloca(bool detto, const VistaFinestra* finestraSotto) {
+    const bool nuda = finestra_->windowFlags() & Qt::FramelessWindowHint;
+    // Its own frame isn't there yet; that of the window beneath is the window manager's, too.
+    const QWindow* vicina = finestraSotto ? finestraSotto->finestra_->windowHandle() : nullptr;
+    const QMargins cornice = vicina && !nuda ? vicina->frameMargins() : QMargins();
+    const QSize misura = finestra_->size().grownBy(cornice);
+    const QPoint posto = viste_.front()->Stato().Twips().topLeft() / twipsPerPixel;
+    const QRect sotto = vicina ? vicina->frameGeometry() : QRect();
+    const QRect libero = LiberoPresso(detto ? posto : sotto.center(), *finestra_);
+    if (detto)
+        finestra_->move(DentroSchermo({posto, misura}, libero).topLeft());
+    else if (vicina)
+        finestra_->move(AlCentro(misura, sotto, libero).topLeft());
 }
 
 void VistaFinestra::Crea(const CopiaControllo& copia, const Menu& menu, bool haVoci) {
@@ -160,19 +242,40 @@ void VistaFinestra::Disponi() {
     posto.moveCenter(QRect(QPoint(), spazio).center());
     viste_.front()->Disponi(scala_);
     viste_.front()->Widget()->setGeometry(posto);
+    if (sagomata_) finestra_->setMask(Sagoma(*viste_.front()->Widget(), scala_));
 }
 
-void VistaFinestra::Apri(bool modale, VistaFinestra* sotto) {
+void VistaFinestra::Apri(bool modale, const VistaFinestra* sotto) {
     Disponi();
-    // The windows beneath are blocked, the help is not.
-    if (modale) finestra_->setWindowModality(Qt::WindowModal);
     // Nothing of the main window is marked before the logic has said what to begin with.
     if (!modale) finestra_->centralWidget()->setFocus();
     finestra_->winId();
     if (sotto) finestra_->windowHandle()->setTransientParent(sotto->finestra_->windowHandle());
+    finestra_->windowHandle()->installEventFilter(finestra_.get());
     finestra_->show();
     finestra_->raise();
     finestra_->activateWindow();
+}
+
+void VistaFinestra::PrendiPosto() {
+    const QWindow& vera = *finestra_->windowHandle();
+    // Where the platform doesn't tell places, it finds good ones itself.
+    if (!vera.isExposed() || !DiceIPosti()) return;
+    if (!std::exchange(intera_, true)) Contieni(*finestra_);
+    const QPoint posto = vera.framePosition() * twipsPerPixel;
+    if (posto == std::exchange(posto_, posto)) return;
+    Evento evento;
+    evento.fatto = Fatto::Spostata;
+    evento.x = posto.x();
+    evento.y = posto.y();
+    mittente_.Manda(std::move(evento));
+}
+
+void VistaFinestra::Sposta(Nome nome, int twips) {
+    nome == Nome::Left ? posto_.setX(twips) : posto_.setY(twips);
+    const QRect cornice(posto_ / twipsPerPixel, finestra_->frameGeometry().size());
+    finestra_->windowHandle()->setFramePosition(
+        DentroSchermo(cornice, LiberoPresso(cornice.topLeft(), *finestra_)).topLeft());
 }
 
 void VistaFinestra::Cambia(int numero, Nome nome, const Valore& valore) {
@@ -183,6 +286,7 @@ void VistaFinestra::Cambia(int numero, Nome nome, const Valore& valore) {
     if (numero != 0) return;
     if (nome == Nome::Caption) finestra_->setWindowTitle(vista->Stato().caption);
     if (nome == Nome::MousePointer) PonPuntatore();
+    if (nome == Nome::Left || nome == Nome::Top) Sposta(nome, std::get<int>(valore));
     if (misura) Ridimensiona();
     Disponi();
 }

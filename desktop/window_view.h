@@ -1,5 +1,7 @@
 // One showing of a form as a real window: its menu bar, and its controls on a face that grows with
-// the window. GUI thread. Closing it only asks the logic, which closes it by destroying this.
+// the window. It belongs to the window beneath: the window manager keeps it in front of that one.
+// GUI thread. Closing it only asks the logic, which closes it by destroying this; moving it is told
+// to the logic.
 #pragma once
 
 #include <QMainWindow>
@@ -16,7 +18,7 @@ class Tastiera;
 
 class VistaFinestra {
 public:
-    /// `sotto` is the window beneath a modal one, or null.
+    /// `sotto` is the window beneath, or null.
     VistaFinestra(const MostraFinestra& comando, CodaEventi& coda, Tastiera& tastiera,
                   VistaFinestra* sotto);
     VistaFinestra(const VistaFinestra&) = delete;
@@ -40,11 +42,18 @@ private:
     void Arrotonda();
     void OrdinaFuoco();
     void PonPuntatore();
-    void Apri(bool modale, VistaFinestra* sotto);
+    void Lega(const VistaFinestra& sotto, bool modale);
+    /// Says where the window is to appear.
+    void Colloca(bool detto, const VistaFinestra* sotto);
+    void Apri(bool modale, const VistaFinestra* sotto);
     /// The face as large as the window lets it be, in its middle.
     void Disponi();
     void Ridimensiona();
     QSize Disegnata() const;
+    /// The platform has put the window somewhere.
+    void PrendiPosto();
+    /// The logic wants it elsewhere.
+    void Sposta(Nome nome, int twips);
 
     const std::uint32_t identita_;
     Mittente mittente_;
@@ -53,6 +62,9 @@ private:
     class VistaPentagramma* pentagramma_ = nullptr;
     std::unique_ptr<QMainWindow> finestra_;
     double scala_ = 1;
+    QPoint posto_;  ///< twips, as the logic knows it
+    bool intera_ = false;  ///< it was made sure that it lies on the screen as a whole
+    bool sagomata_ = false;  ///< its corners are cut off, since they can't be transparent
 };
 
 }  // namespace corvana

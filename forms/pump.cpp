@@ -49,6 +49,7 @@ void Pompa::AttendiEvento(double fino) {
     // Time never runs back, though the instant asked for may have passed.
     const double adesso = Adesso();
     orologio_.AspettaEvento(coda_, fino);
+    if (InChiusura()) return;
     Riprendi(std::max(adesso, coda_.Vuota() ? fino : std::min(fino, orologio_.Adesso())));
     PompaEventi();
 }

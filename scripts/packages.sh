@@ -1,12 +1,12 @@
 # Which Debian packages each job needs, and how they are installed. Sourced by ./run, ./test,
 # ./measure, scripts/package and .ci/run.
 
-build_packages=(g++ cmake ninja-build ccache mold pkg-config qt6-base-dev qt6-svg-dev libsdl2-dev
-    libsystemd-dev libfluidsynth-dev librtmidi-dev libasound2-dev libjack-jackd2-dev)
+build_packages=(g++ cmake ninja-build ccache mold pkg-config qt6-base-dev qt6-svg-dev libxcb1-dev
+    libsdl2-dev libsystemd-dev libfluidsynth-dev librtmidi-dev libasound2-dev libjack-jackd2-dev)
 run_packages=("${build_packages[@]}" timgm6mb-soundfont fonts-inter fonts-oflb-euterpe)
-screen_packages=(xvfb xdotool scrot)
+screen_packages=(xvfb openbox xdotool scrot)
 test_packages=("${run_packages[@]}" libgtest-dev librapidcheck-dev locales pulseaudio
-    pulseaudio-utils jackd2 dbus-daemon)
+    pulseaudio-utils jackd2 dbus-daemon xvfb openbox xdotool)
 lint_packages=(clang-format clang-tidy clang libclang-rt-14-dev cppcheck)
 package_packages=(dpkg-dev file man-db lintian appstream desktop-file-utils)
 

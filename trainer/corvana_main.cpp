@@ -110,6 +110,8 @@ void CorvanaMainF::Form_Unload(bool& Cancel) {
         return;
     }
     if (Corre()) Start_Click();
+    // What the program's end cut short has left its notes sounding.
+    if (a_.finestre.InChiusura()) a_.suono.Reset();
     if (a_.suono.HandleMidi) a_.suono.ChiudiMidi();
     a_.impostazioni.ScriviValore("CorvanaLastS",
                                  ComponiStato({LimiteBasso, LimiteAlto, a_.globali.StrumentoGlobale,

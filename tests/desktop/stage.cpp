@@ -20,6 +20,7 @@ void Palco::Logica(const std::function<void(FormDiProva&)>& prepara) {
         const std::lock_guard guardia(blocco_);
         diario_.push_back(std::move(riga));
     });
+    form.pompa = &pompa;
     form.servizio.Click = [this, &form] { Serve(form); };
     {
         const std::lock_guard guardia(blocco_);

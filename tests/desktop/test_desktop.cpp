@@ -122,22 +122,58 @@ TEST(Scrivania, AnExceptionOfTheLogicIsTheProcesssFailure) {
     EXPECT_EQ(altra.Esegui([] {}), 0);
 }
 
-TEST(Scrivania, ARequestToEndClosesEveryWindowFromTheFrontBack) {
-    Palco palco;
+TEST(Scrivania, TheEndOfTheProgramEndsTheLogicWhateverItsWindowsAnswer) {
+    Palco palco([](FormDiProva& form) { form.chiudibile = false; });
     palco.Ordina([](FormDiProva& form) { form.finestre.MostraModale(form.sopra); });
     AspettaFinestra(palco.scrivania, "FormSopra");
-    palco.scrivania.ChiediUscita();
+    palco.scrivania.ChiediFine();
+    EXPECT_TRUE(Aspetta([&] { return palco.scrivania.Finita(); }));
+    EXPECT_FALSE(palco.scrivania.Davanti());
+}
+
+TEST(Scrivania, TheEndOfTheProgramEndsALongWait) {
+    Palco palco;
+    palco.Ordina([](FormDiProva& form) {
+        form.scritta.Caption = "aspetta";
+        form.pompa->Attendi(1e6);
+    });
+    ASSERT_TRUE(
+        Aspetta([&] { return Trova(palco.scrivania, "scritta").accessibleName() == "aspetta"; }));
+    palco.scrivania.ChiediFine();
     EXPECT_TRUE(Aspetta([&] { return palco.scrivania.Finita(); }));
 }
 
-TEST(Scrivania, ABoxThatOpensAfterARequestToEndHoldsNothingUp) {
+TEST(Scrivania, TheEndOfTheProgramAnswersTheBoxThatIsUp) {
+    Palco palco;
+    palco.Ordina([](FormDiProva& form) { form.dialoghi.Domanda("Davvero?"); });
+    ASSERT_TRUE(Aspetta([&] { return palco.scrivania.Riquadro() != nullptr; }));
+    palco.scrivania.ChiediFine();
+    EXPECT_TRUE(Aspetta([&] { return palco.scrivania.Finita(); }));
+    EXPECT_TRUE(Aspetta([&] { return palco.scrivania.Riquadro() == nullptr; }));
+}
+
+TEST(Scrivania, WithoutAScreenTheLogicEndsAsWell) {
+    Palco palco;
+    palco.Ordina([](FormDiProva& form) { form.dialoghi.MsgBox("uno"); });
+    EXPECT_TRUE(palco.scrivania.TerminaAlBuio(std::chrono::minutes(1)));
+}
+
+TEST(Scrivania, ALogicThatTakesNoNoteOfTheEndIsGivenUp) {
+    std::promise<void> lascia;
+    Scrivania scrivania;
+    scrivania.Avvia([&] { lascia.get_future().wait(); });
+    EXPECT_FALSE(scrivania.TerminaAlBuio(std::chrono::milliseconds(1)));
+    lascia.set_value();
+}
+
+TEST(Scrivania, ABoxThatOpensAfterTheEndWasAskedForHoldsNothingUp) {
     Palco palco;
     std::promise<void> chiesta;
     palco.Ordina([chiesta = chiesta.get_future().share()](FormDiProva& form) {
         chiesta.wait();
         form.dialoghi.MsgBox("troppo tardi");
     });
-    palco.scrivania.ChiediUscita();
+    palco.scrivania.ChiediFine();
     chiesta.set_value();
     EXPECT_TRUE(Aspetta([&] { return palco.scrivania.Finita(); }));
 }

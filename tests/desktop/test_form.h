@@ -44,6 +44,7 @@ public:
     FormSopra sopra;
     Finestre& finestre;
     Dialoghi& dialoghi;
+    Pompa* pompa = nullptr;
     bool chiudibile = true;
 
     void Form_Unload(bool& Cancel) override;

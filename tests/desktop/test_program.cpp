@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QApplication>
 #include <algorithm>
 #include <csignal>
 
@@ -43,6 +44,22 @@ TEST(Programma, ClosingTheMainWindowEndsIt) {
     PalcoProgramma programma;
     programma.scrivania.Davanti()->Finestra().close();
     EXPECT_TRUE(Aspetta([&] { return programma.scrivania.Finita(); }));
+}
+
+TEST(Applicazione, ASystemThatWantsItToQuitIsObeyedWhateverTheWindowsAnswer) {
+    int argc = 0;
+    Applicazione applicazione(argc, nullptr);
+    const int esito = applicazione.Esegui([&] {
+        OrologioReale orologio;
+        Pompa pompa(orologio, applicazione.Coda());
+        Finestre finestre(pompa, applicazione.Riquadri(), &applicazione.Schermo());
+        FormDiProva form(finestre, applicazione.Riquadri(), [](std::string) {});
+        form.chiudibile = false;
+        finestre.Mostra(form);
+        QCoreApplication::postEvent(qApp, new QEvent(QEvent::Quit));
+        finestre.Esegui();
+    });
+    EXPECT_EQ(esito, 0);
 }
 
 TEST(Applicazione, ASignalToTerminateClosesTheWindows) {

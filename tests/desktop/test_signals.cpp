@@ -13,10 +13,10 @@ bool Suona(const Segnali& segnali) {
     return poll(&attesa, 1, 0) == 1;
 }
 
-TEST(Segnali, InterruptAndTerminateRingTheBell) {
+TEST(Segnali, InterruptTerminateAndHangUpRingTheBell) {
     const Segnali segnali;
     EXPECT_FALSE(Suona(segnali));
-    for (const int segnale : {SIGINT, SIGTERM}) {
+    for (const int segnale : {SIGINT, SIGTERM, SIGHUP}) {
         std::raise(segnale);
         EXPECT_TRUE(Suona(segnali));
         segnali.Campanello().Svuota();

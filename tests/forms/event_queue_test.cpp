@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <future>
 #include <limits>
 #include <thread>
@@ -116,6 +117,38 @@ TEST(CodaEventi, AnEventFromAnotherThreadEndsTheWait) {
     coda.Aggiungi(Di(Fatto::Click, 1, 7));
     EXPECT_TRUE(attesa.get());
     EXPECT_EQ(Svuota(coda), (std::vector{7}));
+}
+
+TEST(CodaEventi, TheEndOfTheProgramEndsEveryWaitFromThenOn) {
+    constexpr double sempre = std::numeric_limits<double>::infinity();
+    CodaEventi coda;
+    EXPECT_FALSE(coda.FineChiesta());
+    auto perEvento = std::async(std::launch::async, [&] { return coda.Aspetta(sempre); });
+    coda.ChiediFine();
+    EXPECT_FALSE(perEvento.get());
+    EXPECT_FALSE(coda.Aspetta(sempre));
+    coda.AspettaFine(sempre);
+    EXPECT_TRUE(coda.FineChiesta());
+}
+
+TEST(CodaEventi, WhoWaitsForTheEndAloneIsntWokenByEvents) {
+    CodaEventi coda;
+    std::atomic<bool> chiesta = false;
+    auto attesa = std::async(std::launch::async, [&] {
+        coda.AspettaFine(std::numeric_limits<double>::infinity());
+        return chiesta.load();
+    });
+    for (int i = 0; i < 100; ++i)
+        coda.Aggiungi(Di(Fatto::Click, 1, i));
+    chiesta = true;
+    coda.ChiediFine();
+    EXPECT_TRUE(attesa.get());
+}
+
+TEST(CodaEventi, AWaitForTheEndIsOverAtItsInstant) {
+    CodaEventi coda;
+    coda.AspettaFine(0);
+    EXPECT_FALSE(coda.FineChiesta());
 }
 
 TEST(CodaEventi, NothingIsLostWhenManyThreadsAdd) {

@@ -35,6 +35,18 @@ TEST(OrologioReale, AnInstantThatHasPassedIsntWaitedFor) {
     EXPECT_TRUE(coda.Vuota());
 }
 
+TEST(OrologioReale, TheEndOfTheProgramEndsALongWait) {
+    OrologioReale orologio;
+    CodaEventi coda;
+    auto attesa = std::async(std::launch::async, [&] {
+        orologio.AspettaFine(coda, std::numeric_limits<double>::infinity());
+        orologio.AspettaEvento(coda, std::numeric_limits<double>::infinity());
+    });
+    coda.ChiediFine();
+    attesa.get();
+    EXPECT_TRUE(coda.FineChiesta());
+}
+
 TEST(OrologioReale, AnEventOfAnotherThreadEndsTheWaitForIt) {
     OrologioReale orologio;
     CodaEventi coda;

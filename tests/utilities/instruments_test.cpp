@@ -49,6 +49,21 @@ TEST(Strumenti, ItStandsBesideTheMainWindowsCornerWithRoundedCorners) {
     b.Vai(5);
 }
 
+TEST(Strumenti, ItFollowsTheMainWindowAboutTheScreen) {
+    BancoStrumenti b;
+    Evento mossa;
+    mossa.fatto = Fatto::Spostata;
+    mossa.x = 3000;
+    mossa.y = -450;
+    b.Manda(2.5, mossa, "");
+    b.Quando(4, [&] {
+        EXPECT_EQ(b.Scelta().Left(), 3900);
+        EXPECT_EQ(b.Scelta().Top(), 2150);
+        EXPECT_TRUE(b.Scelta().Collocata());
+    });
+    b.Vai(5);
+}
+
 TEST(Strumenti, AClickOnARowChangesTheInstrumentOfTheMainWindow) {
     BancoStrumenti b;
     b.Clicca(4, "List1", 40);

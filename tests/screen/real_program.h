@@ -1,0 +1,60 @@
+// The program as it is installed, started by a new user on a screen of its own, and clicked by the
+// names of its controls. One thread.
+#pragma once
+
+#include "tests/screen/x_server.h"
+
+namespace corvana::prova {
+
+class ProgrammaVero {
+public:
+    struct Come {
+        int scala = 1;           ///< of the screen
+        bool conSuono = true;    ///< the machine has a sound device, which nobody hears
+    };
+
+    /// Returns when the main window is to be seen. `schermo` must outlive it.
+    explicit ProgrammaVero(Schermo& schermo) : ProgrammaVero(schermo, Come{}) {}
+    ProgrammaVero(Schermo& schermo, Come come);
+
+    Schermo& schermo;
+    Processo processo;
+
+    xcb_window_t principale = 0;
+
+    /// Waits for the window of that form, and for the keyboard to be given to it; 0 when it doesn't
+    /// come.
+    xcb_window_t AspettaFinestra(const std::string& forma);
+    bool AspettaChiusa(const std::string& forma);
+    /// Where the control lies on the screen; of `forma`, which is open, by the design.
+    Rettangolo Dove(const std::string& controllo, const std::string& forma = "CorvanaMainF");
+    /// Clicks it in its middle.
+    void Clicca(const std::string& controllo, const std::string& forma = "CorvanaMainF");
+    /// The same, and waits until the screen shows something else at `dove`.
+    bool CliccaFinoA(const std::string& controllo, const Rettangolo& dove);
+
+    bool ApriMetronomo();
+    bool AvviaMetronomo();
+    bool FermaMetronomo();
+    bool AvviaAutomatico();
+    /// Opens the window in which the metronome's pattern is chosen.
+    xcb_window_t ApriSequenza();
+    xcb_window_t ApriStrumenti();
+    /// Waits until the opening signal is over and the window takes what the user does.
+    bool AspettaPronta();
+
+    /// Sends the signal; the exit code, or nothing when it doesn't end.
+    std::optional<int> Esce(int segnale);
+    /// The same without a signal.
+    std::optional<int> Esce();
+    /// What is stored as the state of the last session; empty when nothing is.
+    std::string StatoSalvato() const;
+
+private:
+    Processo::Avvio Avvio(Come come) const;
+
+    CartellaPropria casa_;
+    int scala_;
+};
+
+}  // namespace corvana::prova
