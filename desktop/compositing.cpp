@@ -24,9 +24,9 @@ xcb_atom_t Atomo(xcb_connection_t* server, const std::string& nome) {
 
 /// By custom whatever composes a screen owns this selection.
 bool HaCompositore(xcb_connection_t* server) {
-    int schermo = 0;
+    int schermo = 0, numero = 0;
     char* nome = nullptr;
-    if (xcb_parse_display(nullptr, &nome, nullptr, &schermo) != 0) std::free(nome);
+    if (xcb_parse_display(nullptr, &nome, &numero, &schermo) != 0) std::free(nome);
     const xcb_atom_t selezione = Atomo(server, "_NET_WM_CM_S" + std::to_string(schermo));
     const auto domanda = xcb_get_selection_owner(server, selezione);
     const Risposta<xcb_get_selection_owner_reply_t> risposta(

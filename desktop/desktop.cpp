@@ -132,7 +132,7 @@ void Scrivania::Fai(const MostraAiuto& comando) {
         aiuto_ = std::make_unique<FinestraAiuto>([this] {
             if (VistaFinestra* davanti = Davanti()) davanti->Finestra().activateWindow();
         });
-    const VistaFinestra* davanti = Davanti();
+    VistaFinestra* davanti = Davanti();
     aiuto_->Mostra(InQt(comando.file), comando.contesto, davanti ? &davanti->Finestra() : nullptr);
 }
 

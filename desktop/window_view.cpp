@@ -1,6 +1,7 @@
 #include "desktop/window_view.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QMenuBar>
 #include <QPainterPath>
 #include <QScreen>

@@ -44,7 +44,7 @@ private:
     void PonPuntatore();
     void Lega(const VistaFinestra& sotto, bool modale);
     /// Says where the window is to appear.
-    void Colloca(bool detto, const VistaFinestra* sotto);
+    void Colloca(bool detto, const VistaFinestra* finestraSotto);
     void Apri(bool modale, const VistaFinestra* sotto);
     /// The face as large as the window lets it be, in its middle.
     void Disponi();

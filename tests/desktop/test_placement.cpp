@@ -4,10 +4,6 @@
 
 namespace corvana {
 
-static void PrintTo(const QRect& r, std::ostream* dove) {
-    *dove << r.x() << ',' << r.y() << ' ' << r.width() << 'x' << r.height();
-}
-
 namespace {
 
 const QRect schermo(0, 0, 1000, 800);

@@ -18,7 +18,6 @@ void FinisceCon(ProgrammaVero& p, int segnale) {
 
 TEST_F(Fine, TheCloseBoxOfAnIdleProgramEndsIt) {
     ProgrammaVero p(LoSchermo());
-    ASSERT_TRUE(p.AspettaPronta());
     EXPECT_TRUE(p.StatoSalvato().empty());
     p.schermo.Chiudi(p.principale);
     EXPECT_EQ(p.Esce(), 0);
@@ -45,13 +44,12 @@ TEST_F(Fine, ACloseBoxThatATickingMetronomeRefusesChangesNothing) {
 TEST_F(Fine, IdleItEndsByASignal) {
     for (const int segnale : {SIGTERM, SIGINT, SIGHUP}) {
         ProgrammaVero p(LoSchermo());
-        ASSERT_TRUE(p.AspettaPronta());
-        FinisceCon(p, segnale);
+            FinisceCon(p, segnale);
     }
 }
 
 TEST_F(Fine, InTheMiddleOfTheOpeningSignalItEndsByASignal) {
-    ProgrammaVero p(LoSchermo());
+    ProgrammaVero p(LoSchermo(), {.pronta = false});
     FinisceCon(p, SIGTERM);
 }
 
@@ -64,7 +62,6 @@ TEST_F(Fine, WhileTheMetronomeTicksItEndsByASignal) {
 
 TEST_F(Fine, InAnAutomaticRunItEndsByASignal) {
     ProgrammaVero p(LoSchermo());
-    ASSERT_TRUE(p.AspettaPronta());
     ASSERT_TRUE(p.AvviaAutomatico());
     FinisceCon(p, SIGTERM);
 }
@@ -78,7 +75,7 @@ TEST_F(Fine, WithAModalWindowAndTheHelpUpItEndsByASignal) {
 }
 
 TEST_F(Fine, WithABoxUpItEndsByASignal) {
-    ProgrammaVero p(LoSchermo(), {.conSuono = false});
+    ProgrammaVero p(LoSchermo(), {.pronta = false});
     ASSERT_NE(p.AspettaFinestra("riquadro"), 0U);
     FinisceCon(p, SIGTERM);
 }

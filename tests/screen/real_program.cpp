@@ -38,10 +38,16 @@ std::string Variabile(const char* nome, const std::filesystem::path& valore) {
 
 }  // namespace
 
+ProgrammaVero::ProgrammaVero(Schermo& dove) : ProgrammaVero(dove, Come{}) {}
+
 ProgrammaVero::ProgrammaVero(Schermo& dove, Come come)
-    : schermo(dove), processo(Avvio(come)), scala_(come.scala) {
+    : scala_(come.scala), schermo(dove), processo(Avvio(come)) {
     principale = AspettaFinestra("CorvanaMainF");
     if (principale == 0) throw std::runtime_error("the main window doesn't come");
+    if (!come.pronta) return;
+    if (AspettaFinestra("riquadro") == 0) throw std::runtime_error("the box doesn't come");
+    schermo.Batti("Return");
+    if (AspettaFinestra("CorvanaMainF") == 0) throw std::runtime_error("the box doesn't go");
 }
 
 Processo::Avvio ProgrammaVero::Avvio(Come come) const {
@@ -53,7 +59,7 @@ Processo::Avvio ProgrammaVero::Avvio(Come come) const {
              Variabile("XDG_CONFIG_HOME", casa / "config"),
              Variabile("XDG_CACHE_HOME", casa / "cache"),
              Variabile("XDG_RUNTIME_DIR", casa / "run"), "QT_QPA_PLATFORM=xcb",
-             "SDL_AUDIODRIVER=" + std::string(come.conSuono ? "dummy" : "none"),
+             "SDL_AUDIODRIVER=none",
              "QT_SCALE_FACTOR=" + std::to_string(come.scala)},
             casa / "uscita",
             casa / "errori"};
@@ -101,12 +107,6 @@ bool ProgrammaVero::CliccaFinoA(const std::string& controllo, const Rettangolo& 
     return schermo.Aspetta([&] { return schermo.Immagine(dove) != prima; });
 }
 
-bool ProgrammaVero::AspettaPronta() {
-    // The mode is switched by what is delivered after the signal, and back again.
-    const Rettangolo cursore = Dove("Slider1");
-    return CliccaFinoA("ToolButton6", cursore) && CliccaFinoA("ToolButton6", cursore);
-}
-
 bool ProgrammaVero::ApriMetronomo() {
     return CliccaFinoA("ToolButton3", Dove("lblTempo"));
 }
@@ -118,7 +118,7 @@ bool ProgrammaVero::AvviaMetronomo() {
 }
 
 bool ProgrammaVero::FermaMetronomo() {
-    return CliccaFinoA("cmdSSmetro", Dove("ToolButton4"));
+    return CliccaFinoA("cmdSSmetro", Dove("cmdSetup"));
 }
 
 bool ProgrammaVero::AvviaAutomatico() {

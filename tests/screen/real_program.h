@@ -2,6 +2,8 @@
 // names of its controls. One thread.
 #pragma once
 
+#include <optional>
+
 #include "tests/screen/x_server.h"
 
 namespace corvana::prova {
@@ -9,14 +11,21 @@ namespace corvana::prova {
 class ProgrammaVero {
 public:
     struct Come {
-        int scala = 1;           ///< of the screen
-        bool conSuono = true;    ///< the machine has a sound device, which nobody hears
+        int scala = 1;        ///< of the screen
+        bool pronta = true;   ///< the opening signal is over, and the box about the missing sound
+                              ///< device was answered
     };
 
-    /// Returns when the main window is to be seen. `schermo` must outlive it.
-    explicit ProgrammaVero(Schermo& schermo) : ProgrammaVero(schermo, Come{}) {}
-    ProgrammaVero(Schermo& schermo, Come come);
+    /// Returns when the main window is to be seen, on a machine without a sound device. The screen
+    /// must outlive it.
+    explicit ProgrammaVero(Schermo& dove);
+    ProgrammaVero(Schermo& dove, Come come);
 
+private:
+    CartellaPropria casa_;
+    int scala_;
+
+public:
     Schermo& schermo;
     Processo processo;
 
@@ -40,9 +49,6 @@ public:
     /// Opens the window in which the metronome's pattern is chosen.
     xcb_window_t ApriSequenza();
     xcb_window_t ApriStrumenti();
-    /// Waits until the opening signal is over and the window takes what the user does.
-    bool AspettaPronta();
-
     /// Sends the signal; the exit code, or nothing when it doesn't end.
     std::optional<int> Esce(int segnale);
     /// The same without a signal.
@@ -52,9 +58,6 @@ public:
 
 private:
     Processo::Avvio Avvio(Come come) const;
-
-    CartellaPropria casa_;
-    int scala_;
 };
 
 }  // namespace corvana::prova

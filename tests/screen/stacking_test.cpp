@@ -29,7 +29,6 @@ TEST_F(Pila, AClickOnTheMainWindowsTitleLeavesTheModalOneInFront) {
 
 TEST_F(Pila, TheKeyboardGoesBackToTheMainWindow) {
     ProgrammaVero p(LoSchermo());
-    ASSERT_TRUE(p.AspettaPronta());
     ASSERT_NE(p.ApriStrumenti(), 0U);
     p.schermo.Batti("Escape");
     ASSERT_TRUE(p.AspettaChiusa("frmStrum"));
@@ -56,7 +55,7 @@ TEST_F(Pila, MinimisedAndBroughtBackTheModalOneIsThereAgain) {
 }
 
 TEST_F(Pila, ABoxBelongsToItsWindowAndIsAnsweredOverIt) {
-    ProgrammaVero p(LoSchermo(), {.conSuono = false});
+    ProgrammaVero p(LoSchermo(), {.pronta = false});
     Schermo& s = p.schermo;
     const xcb_window_t riquadro = p.AspettaFinestra("riquadro");
     ASSERT_NE(riquadro, 0U);
