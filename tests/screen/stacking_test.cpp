@@ -50,6 +50,7 @@ TEST_F(Pila, MinimisedAndBroughtBackTheModalOneIsThereAgain) {
     s.Riapri(p.principale);
     ASSERT_TRUE(s.Aspetta([&] { return s.SiVede(p.principale) && s.SiVede(sequenza); }));
     EXPECT_TRUE(s.Sopra(sequenza, p.principale));
+    ASSERT_EQ(p.AspettaFinestra("frmConfMetro"), sequenza);
     p.Clicca("cmdOk", "frmConfMetro");
     EXPECT_TRUE(p.AspettaChiusa("frmConfMetro"));
 }
