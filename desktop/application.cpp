@@ -51,12 +51,13 @@ struct Applicazione::Interno {
 
     std::unique_ptr<QApplication> qt;
     Scrivania scrivania;
+    QObject attesa;  ///< what still waits goes with it
 };
 
 void Applicazione::Interno::Finisci() {
     scrivania.ChiediFine();
-    QTimer::singleShot(pazienza, [coda = &scrivania.Coda()] {
-        if (coda->FineVista()) return;
+    QTimer::singleShot(pazienza, &attesa, [this] {
+        if (scrivania.Coda().FineVista() || scrivania.Finita()) return;
         std::fputs("corvana: the program was busy and was ended as it stood\n", stderr);
         std::_Exit(EXIT_FAILURE);
     });

@@ -37,8 +37,9 @@ bool HaCompositore(xcb_connection_t* server) {
 }  // namespace
 
 bool SchermoComposto() {
+    // The offscreen platform claims an X server, too, but isn't connected to any.
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return !x11 || HaCompositore(x11->connection());
+    return !x11 || !x11->connection() || HaCompositore(x11->connection());
 }
 
 }  // namespace corvana
