@@ -32,7 +32,7 @@ struct CopiaControllo {
 struct MostraFinestra {
     std::uint32_t finestra;
     bool modale;
-    bool collocata;  ///< it is to stand where it says
+    bool collocata;                         ///< it is to stand where it says
     std::vector<CopiaControllo> controlli;  ///< by number, the window itself first
 };
 

@@ -12,13 +12,13 @@ namespace corvana {
 namespace {
 
 template <class T>
-using Risposta = std::unique_ptr<T, decltype(&std::free)>;
+using Presa = std::unique_ptr<T, decltype(&std::free)>;
 
 xcb_atom_t Atomo(xcb_connection_t* server, const std::string& nome) {
     const auto domanda =
         xcb_intern_atom(server, 0, static_cast<std::uint16_t>(nome.size()), nome.c_str());
-    const Risposta<xcb_intern_atom_reply_t> risposta(
-        xcb_intern_atom_reply(server, domanda, nullptr), &std::free);
+    const Presa<xcb_intern_atom_reply_t> risposta(xcb_intern_atom_reply(server, domanda, nullptr),
+                                                  &std::free);
     return risposta ? risposta->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
@@ -29,7 +29,7 @@ bool HaCompositore(xcb_connection_t* server) {
     if (xcb_parse_display(nullptr, &nome, &numero, &schermo) != 0) std::free(nome);
     const xcb_atom_t selezione = Atomo(server, "_NET_WM_CM_S" + std::to_string(schermo));
     const auto domanda = xcb_get_selection_owner(server, selezione);
-    const Risposta<xcb_get_selection_owner_reply_t> risposta(
+    const Presa<xcb_get_selection_owner_reply_t> risposta(
         xcb_get_selection_owner_reply(server, domanda, nullptr), &std::free);
     return risposta && risposta->owner != XCB_WINDOW_NONE;
 }

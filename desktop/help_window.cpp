@@ -3,10 +3,10 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QFileInfo>
+#include <QScreen>
 #include <QShortcut>
 #include <QTextBrowser>
 #include <QToolBar>
-#include <QScreen>
 #include <QWindow>
 
 #include "desktop/look.h"
@@ -127,8 +127,8 @@ void FinestraAiuto::Colloca(const QWidget& accanto) {
     const QMargins cornice = accanto.windowHandle()->frameMargins();
     setScreen(accanto.screen());
     const QRect posto =
-        Accanto(misura.grownBy(cornice), larghezzaMinima,
-                accanto.windowHandle()->frameGeometry(), accanto.screen()->availableGeometry());
+        Accanto(misura.grownBy(cornice), larghezzaMinima, accanto.windowHandle()->frameGeometry(),
+                accanto.screen()->availableGeometry());
     resize(posto.size().shrunkBy(cornice));
     move(posto.topLeft());
 }

@@ -1,5 +1,5 @@
-// Turns SIGINT, SIGTERM and SIGHUP into a ring of a bell. One at a time; constructed and destroyed on the
-// same thread.
+// Turns SIGINT, SIGTERM and SIGHUP into a ring of a bell. One at a time; constructed and destroyed
+// on the same thread.
 #pragma once
 
 #include "desktop/wake.h"

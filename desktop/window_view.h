@@ -62,8 +62,8 @@ private:
     class VistaPentagramma* pentagramma_ = nullptr;
     std::unique_ptr<QMainWindow> finestra_;
     double scala_ = 1;
-    QPoint posto_;  ///< twips, as the logic knows it
-    bool intera_ = false;  ///< it was made sure that it lies on the screen as a whole
+    QPoint posto_;           ///< twips, as the logic knows it
+    bool intera_ = false;    ///< it was made sure that it lies on the screen as a whole
     bool sagomata_ = false;  ///< its corners are cut off, since they can't be transparent
 };
 

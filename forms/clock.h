@@ -27,8 +27,8 @@ public:
     virtual void AspettaFine(CodaEventi& coda, double fino) {
         if (!coda.FineChiesta()) AspettaFino(fino);
     }
-    /// Returns when an event waits in `coda`, the end is asked for there, or the instant `fino` (may
-    /// be infinite) has come.
+    /// Returns when an event waits in `coda`, the end is asked for there, or the instant `fino`
+    /// (may be infinite) has come.
     virtual void AspettaEvento(CodaEventi& coda, double fino) = 0;
 };
 

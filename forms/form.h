@@ -33,9 +33,9 @@ public:
     /// The control of that name, compared with case, or null.
     Controllo* Trova(std::string_view nome) const;
 
-    /// `Left` and `Top`, in twips on the screen, were set for this showing: the window stands there.
-    /// Otherwise the face finds a place for it. While it is shown they follow the real window where
-    /// the platform tells, and setting them moves it.
+    /// `Left` and `Top`, in twips on the screen, were set for this showing: the window stands
+    /// there. Otherwise the face finds a place for it. While it is shown they follow the real
+    /// window where the platform tells, and setting them moves it.
     bool Collocata() const { return collocata_; }
 
     /// Identity of this showing; 0 while the form isn't loaded.

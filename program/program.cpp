@@ -34,8 +34,7 @@ Secondarie Programma::Apri() {
 }
 
 void Programma::Esegui(bool altraIstanza) {
-    a_.finestre.Esegui(
-        [&] { Main(a_, altraIstanza, [this] { a_.finestre.Mostra(principale); }); });
+    a_.finestre.Esegui([&] { Main(a_, altraIstanza, [this] { a_.finestre.Mostra(principale); }); });
     // The main window does it, unless it was made to go.
     a_.suono.ChiudiMidi();
 }

@@ -19,7 +19,9 @@ TEST(FineImprovvisa, WhatIsToBeDoneIsDoneByExit) {
 TEST(FineImprovvisa, AfterwardsExitDoesNothingMore) {
     EXPECT_EXIT(
         {
-            { const FineImprovvisa fine([] { std::_Exit(42); }); }
+            {
+                const FineImprovvisa fine([] { std::_Exit(42); });
+            }
             std::exit(7);
         },
         testing::ExitedWithCode(7), "");

@@ -118,7 +118,9 @@ TEST(Uscita, APatternThatIsBeingTriedEndsAtOnceAndIsKept) {
     BancoUscita b;
     b.Clicca(3, "mnuMetro");
     b.Clicca(3.5, "cmdSetup");
-    b.Quando(3.8, [&] { dynamic_cast<Casella&>(*b.finestre.Davanti()->Trova("txtPattern")).Text = "ccc"; });
+    b.Quando(3.8, [&] {
+        dynamic_cast<Casella&>(*b.finestre.Davanti()->Trova("txtPattern")).Text = "ccc";
+    });
     b.Clicca(4, "cmdTest");
     b.EsciA(5);
     EXPECT_EQ(b.stato.MetroSequenza, "ccc");

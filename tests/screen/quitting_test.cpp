@@ -44,7 +44,7 @@ TEST_F(Fine, ACloseBoxThatATickingMetronomeRefusesChangesNothing) {
 TEST_F(Fine, IdleItEndsByASignal) {
     for (const int segnale : {SIGTERM, SIGINT, SIGHUP}) {
         ProgrammaVero p(LoSchermo());
-            FinisceCon(p, segnale);
+        FinisceCon(p, segnale);
     }
 }
 

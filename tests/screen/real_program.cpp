@@ -4,10 +4,10 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "metronome/conf_metro.h"
 #include "tests/program/program_rig.h"
 #include "utilities/about.h"
 #include "utilities/instruments.h"
-#include "metronome/conf_metro.h"
 
 namespace corvana::prova {
 
@@ -23,10 +23,9 @@ struct Disegni {
     frmAbout versione{banco.Tutto()};
 
     const Form& Di(const std::string& forma) const {
-        for (const Form* form : {static_cast<const Form*>(&banco.finestra),
-                                 static_cast<const Form*>(&sequenza),
-                                 static_cast<const Form*>(&strumenti),
-                                 static_cast<const Form*>(&versione)})
+        for (const Form* form :
+             {static_cast<const Form*>(&banco.finestra), static_cast<const Form*>(&sequenza),
+              static_cast<const Form*>(&strumenti), static_cast<const Form*>(&versione)})
             if (form->Name == forma) return *form;
         throw std::logic_error("no design of " + forma);
     }
@@ -54,15 +53,14 @@ Processo::Avvio ProgrammaVero::Avvio(Come come) const {
     const auto& casa = casa_.Percorso();
     std::filesystem::create_directory(casa / "run");
     std::filesystem::permissions(casa / "run", std::filesystem::perms::owner_all);
-    return {{CORVANA_PROGRAM},
-            {Variabile("DISPLAY", schermo.Nome()), Variabile("HOME", casa),
-             Variabile("XDG_CONFIG_HOME", casa / "config"),
-             Variabile("XDG_CACHE_HOME", casa / "cache"),
-             Variabile("XDG_RUNTIME_DIR", casa / "run"), "QT_QPA_PLATFORM=xcb",
-             "SDL_AUDIODRIVER=none",
-             "QT_SCALE_FACTOR=" + std::to_string(come.scala)},
-            casa / "uscita",
-            casa / "errori"};
+    return {
+        {CORVANA_PROGRAM},
+        {Variabile("DISPLAY", schermo.Nome()), Variabile("HOME", casa),
+         Variabile("XDG_CONFIG_HOME", casa / "config"), Variabile("XDG_CACHE_HOME", casa / "cache"),
+         Variabile("XDG_RUNTIME_DIR", casa / "run"), "QT_QPA_PLATFORM=xcb", "SDL_AUDIODRIVER=none",
+         "QT_SCALE_FACTOR=" + std::to_string(come.scala)},
+        casa / "uscita",
+        casa / "errori"};
 }
 
 xcb_window_t ProgrammaVero::AspettaFinestra(const std::string& forma) {
@@ -122,8 +120,7 @@ bool ProgrammaVero::FermaMetronomo() {
 }
 
 bool ProgrammaVero::AvviaAutomatico() {
-    return CliccaFinoA("ToolButton6", Dove("Slider1")) &&
-           CliccaFinoA("Start", Dove("Regolo"));
+    return CliccaFinoA("ToolButton6", Dove("Slider1")) && CliccaFinoA("Start", Dove("Regolo"));
 }
 
 xcb_window_t ProgrammaVero::ApriSequenza() {

@@ -11,9 +11,9 @@ namespace corvana::prova {
 class ProgrammaVero {
 public:
     struct Come {
-        int scala = 1;        ///< of the screen
-        bool pronta = true;   ///< the opening signal is over, and the box about the missing sound
-                              ///< device was answered
+        int scala = 1;       ///< of the screen
+        bool pronta = true;  ///< the opening signal is over, and the box about the missing sound
+                             ///< device was answered
     };
 
     /// Returns when the main window is to be seen, on a machine without a sound device. The screen

@@ -59,11 +59,11 @@ Schermo::~Schermo() {
 
 void Schermo::AvviaServer() {
     const auto numero = cartella_.Percorso() / "numero";
-    server_ = std::make_unique<Processo>(Processo::Avvio{
-        {"Xvfb", "-displayfd", "1", "-nolisten", "tcp", "-screen", "0",
-         std::to_string(larghezza) + "x" + std::to_string(altezza) + "x24"},
-        {},
-        numero});
+    server_ = std::make_unique<Processo>(
+        Processo::Avvio{{"Xvfb", "-displayfd", "1", "-nolisten", "tcp", "-screen", "0",
+                         std::to_string(larghezza) + "x" + std::to_string(altezza) + "x24"},
+                        {},
+                        numero});
     const auto detto = [&] { return Contenuto(numero).ends_with('\n'); };
     if (!AspettaInCartella(cartella_.Percorso(), *server_, detto))
         throw std::runtime_error("Xvfb doesn't start");
@@ -81,10 +81,10 @@ void Schermo::Collega() {
 }
 
 void Schermo::AvviaGestore() {
-    gestore_ = std::make_unique<Processo>(Processo::Avvio{
-        {"openbox", "--sm-disable"},
-        {"DISPLAY=" + nome_, "HOME=" + cartella_.Percorso().string(),
-         "XDG_CONFIG_HOME=" + cartella_.Percorso().string()}});
+    gestore_ = std::make_unique<Processo>(
+        Processo::Avvio{{"openbox", "--sm-disable"},
+                        {"DISPLAY=" + nome_, "HOME=" + cartella_.Percorso().string(),
+                         "XDG_CONFIG_HOME=" + cartella_.Percorso().string()}});
     if (!Aspetta([this] { return !Valori(radice_, "_NET_SUPPORTING_WM_CHECK").empty(); }))
         throw std::runtime_error("openbox doesn't start");
 }
@@ -154,8 +154,8 @@ bool Schermo::HaStato(xcb_window_t finestra, const std::string& stato) {
 
 bool Schermo::SiVede(xcb_window_t finestra) {
     xcb_connection_t* x = server_x_.get();
-    const auto risposta = Presa(
-        xcb_get_window_attributes_reply(x, xcb_get_window_attributes(x, finestra), nullptr));
+    const auto risposta =
+        Presa(xcb_get_window_attributes_reply(x, xcb_get_window_attributes(x, finestra), nullptr));
     return risposta && risposta->map_state == XCB_MAP_STATE_VIEWABLE;
 }
 
@@ -166,8 +166,7 @@ bool Schermo::Sopra(xcb_window_t sopra, xcb_window_t sotto) {
 
 Rettangolo Schermo::Interno(xcb_window_t finestra) {
     xcb_connection_t* x = server_x_.get();
-    const auto misura =
-        Presa(xcb_get_geometry_reply(x, xcb_get_geometry(x, finestra), nullptr));
+    const auto misura = Presa(xcb_get_geometry_reply(x, xcb_get_geometry(x, finestra), nullptr));
     const auto posto = Presa(xcb_translate_coordinates_reply(
         x, xcb_translate_coordinates(x, finestra, radice_, 0, 0), nullptr));
     if (!misura || !posto) throw std::runtime_error("the window is gone");
@@ -185,10 +184,10 @@ Rettangolo Schermo::Cornice(xcb_window_t finestra) {
 
 std::vector<std::uint8_t> Schermo::Immagine(const Rettangolo& r) {
     xcb_connection_t* x = server_x_.get();
-    const auto domanda = xcb_get_image(
-        x, XCB_IMAGE_FORMAT_Z_PIXMAP, radice_, static_cast<std::int16_t>(r.x),
-        static_cast<std::int16_t>(r.y), static_cast<std::uint16_t>(r.larghezza),
-        static_cast<std::uint16_t>(r.altezza), ~0U);
+    const auto domanda =
+        xcb_get_image(x, XCB_IMAGE_FORMAT_Z_PIXMAP, radice_, static_cast<std::int16_t>(r.x),
+                      static_cast<std::int16_t>(r.y), static_cast<std::uint16_t>(r.larghezza),
+                      static_cast<std::uint16_t>(r.altezza), ~0U);
     const auto risposta = Presa(xcb_get_image_reply(x, domanda, nullptr));
     if (!risposta) throw std::runtime_error("no picture of that part of the screen");
     const std::uint8_t* inizio = xcb_get_image_data(risposta.get());
@@ -247,7 +246,9 @@ void Schermo::Chiudi(xcb_window_t finestra) {
     Chiedi(finestra, "_NET_CLOSE_WINDOW", {});
     // It answers requests in their order.
     Chiedi(finestra, "_NET_WM_STATE", {cambia, Atomo(segno)});
-    if (!Aspetta([&] { return HaStato(finestra, segno) != prima || !Valori(finestra, "WM_NAME").size(); }))
+    if (!Aspetta([&] {
+            return HaStato(finestra, segno) != prima || !Valori(finestra, "WM_NAME").size();
+        }))
         throw std::runtime_error("the window manager doesn't answer");
 }
 
