@@ -61,11 +61,14 @@ void Tastiera::Perdi() {
 bool Tastiera::eventFilter(QObject* oggetto, QEvent* evento) {
     const auto finestra = finestre_.find(oggetto);
     if (finestra == finestre_.end()) return false;
-    const auto& tasto = static_cast<const QKeyEvent&>(*evento);
+    // Of the other kinds it is no key event.
+    const auto tasto = [evento]() -> const QKeyEvent& {
+        return static_cast<const QKeyEvent&>(*evento);
+    };
     switch (evento->type()) {
-        case QEvent::ShortcutOverride: Annuncia(tasto); return false;
-        case QEvent::KeyPress: return Premi(finestra->second, tasto);
-        case QEvent::KeyRelease: Lascia(finestra->second, tasto); return false;
+        case QEvent::ShortcutOverride: Annuncia(tasto()); return false;
+        case QEvent::KeyPress: return Premi(finestra->second, tasto());
+        case QEvent::KeyRelease: Lascia(finestra->second, tasto()); return false;
         default: return false;
     }
 }

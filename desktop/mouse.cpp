@@ -37,15 +37,18 @@ Mouse::Mouse(QWidget& widget, const Vista& vista)
 }
 
 bool Mouse::eventFilter(QObject*, QEvent* evento) {
-    const auto& mouse = static_cast<const QMouseEvent&>(*evento);
+    // Of the other kinds it is no mouse event.
+    const auto mouse = [evento]() -> const QMouseEvent& {
+        return static_cast<const QMouseEvent&>(*evento);
+    };
     switch (evento->type()) {
-        case QEvent::MouseButtonPress: Manda(Fatto::MouseDown, mouse); return inerte_;
-        case QEvent::MouseButtonRelease: Manda(Fatto::MouseUp, mouse); return inerte_;
-        case QEvent::MouseButtonDblClick: return Raddoppia(mouse);
+        case QEvent::MouseButtonPress: Manda(Fatto::MouseDown, mouse()); return inerte_;
+        case QEvent::MouseButtonRelease: Manda(Fatto::MouseUp, mouse()); return inerte_;
+        case QEvent::MouseButtonDblClick: return Raddoppia(mouse());
         case QEvent::MouseMove:
-            Muovi(mouse);
+            Muovi(mouse());
             // A mere move must not climb to the parents, which would report it as their own.
-            return inerte_ || mouse.buttons() == Qt::NoButton;
+            return inerte_ || mouse().buttons() == Qt::NoButton;
         case QEvent::Leave: Esci(); return false;
         default: return false;
     }
