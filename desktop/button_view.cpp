@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "desktop/face_painter.h"
+#include "desktop/key_map.h"
 #include "desktop/theme.h"
 
 namespace corvana {
@@ -26,11 +27,8 @@ protected:
                        {underMouse(), isDown(), hasFocus(), isEnabled()});
     }
     void keyPressEvent(QKeyEvent* tasto) override {
-        const bool invio = tasto->key() == Qt::Key_Return || tasto->key() == Qt::Key_Enter;
-        if (invio && !tasto->isAutoRepeat())
-            click();
-        else
-            QPushButton::keyPressEvent(tasto);
+        if (!EInvio(tasto->key())) return QPushButton::keyPressEvent(tasto);
+        if (!tasto->isAutoRepeat()) click();
     }
 
 private:

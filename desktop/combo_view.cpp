@@ -28,7 +28,7 @@ public:
     explicit Tendina(QWidget& padre) : QListView(&padre) {
         setUniformItemSizes(true);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        setVerticalScrollMode(ScrollPerPixel);
+        setVerticalScrollMode(ScrollPerItem);
     }
     /// Letters are shortcuts of the program as long as the list is closed.
     void keyboardSearch(const QString& lettere) override {
@@ -154,7 +154,7 @@ void VistaCombo::Rinfresca(Nome nome) {
 
 void VistaCombo::Riscala() {
     combo_->setFont(Carattere(Stato().stile, Scala()));
-    combo_->view()->setFont(combo_->font());
+    RiscalaRighe(*combo_->view(), *this);
 }
 
 }  // namespace corvana

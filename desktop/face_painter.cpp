@@ -26,6 +26,7 @@ const Forma forme[] = {
     {"scelta", 6, true, true, &tinta::bottone},
     {"aiuto", 12, true, true, &tinta::bottone},
     {"chiudi", 9, true, true, &tinta::bottone},
+    {"lettera", 6, true, true, &tinta::carta},
     {"barra", 6, true, false, nullptr},
     {"tondo", 5, false, false, nullptr},
 };

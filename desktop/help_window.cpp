@@ -82,7 +82,8 @@ void FinestraAiuto::DisponiFoglio() {
     testo_->setObjectName(QStringLiteral("pagina"));
     testo_->setFrameShape(QFrame::NoFrame);
     testo_->document()->setDocumentMargin(margine);
-    QFont lettere(FamigliaDelTesto());
+    QFont lettere;
+    lettere.setFamilies(FamiglieDelTesto());
     lettere.setPixelSize(14);
     testo_->setFont(lettere);
     setCentralWidget(testo_);

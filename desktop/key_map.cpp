@@ -109,6 +109,10 @@ int CodiceTasto(std::uint32_t scansione, int tastoQt, bool tastierino) {
     return DaCarattere(tastoQt);
 }
 
+bool EInvio(int tastoQt) {
+    return tastoQt == Qt::Key_Return || tastoQt == Qt::Key_Enter;
+}
+
 int BitMaiuscole(Qt::KeyboardModifiers modificatori) {
     return (modificatori.testFlag(Qt::ShiftModifier) ? shiftMaiuscole : 0) |
            (modificatori.testFlag(Qt::ControlModifier) ? shiftControl : 0) |

@@ -12,6 +12,9 @@ namespace corvana {
 /// is none.
 int CodiceTasto(std::uint32_t scansione, int tastoQt, bool tastierino);
 
+/// One of the two keys that push what has the focus, as the space bar does.
+bool EInvio(int tastoQt);
+
 /// The bits of `Evento::shift`.
 int BitMaiuscole(Qt::KeyboardModifiers modificatori);
 

@@ -9,14 +9,15 @@ namespace corvana {
 
 namespace {
 
-QPainterPath Contorno(SagomaLuce sagoma, const QRectF& area, double scala) {
+// In designed pixels.
+constexpr double raggioPunto = 1.5, raggioSagoma = 11, raggioBagliore = 26;
+
+QPainterPath Contorno(SagomaLuce sagoma, const QPointF& c, double r) {
     QPainterPath contorno;
-    const QPointF c = area.center();
-    const double r = std::min(area.width(), area.height()) / 2;
     switch (sagoma) {
-        case SagomaLuce::Punto: contorno.addEllipse(c, 1.5 * scala, 1.5 * scala); break;
-        case SagomaLuce::Quadro: contorno.addRect(area); break;
+        case SagomaLuce::Punto:
         case SagomaLuce::Disco: contorno.addEllipse(c, r, r); break;
+        case SagomaLuce::Quadro: contorno.addRect(c.x() - r, c.y() - r, 2 * r, 2 * r); break;
         case SagomaLuce::Triangolo:
             contorno.addPolygon(
                 QPolygonF({{c.x(), c.y() - r}, {c.x() + r, c.y() + r}, {c.x() - r, c.y() + r}}));
@@ -24,6 +25,27 @@ QPainterPath Contorno(SagomaLuce sagoma, const QRectF& area, double scala) {
             break;
     }
     return contorno;
+}
+
+void DipingiSede(QPainter& p, const QRectF& area, Colore colore, double scala) {
+    p.setBrush(QColor(60, 40, 20, 70));
+    p.drawRoundedRect(area.adjusted(0.5 * scala, 0, -0.5 * scala, 0), 2 * scala, 2 * scala);
+    p.setBrush(InQt(colore, tinta::spento));
+    p.drawPath(Contorno(SagomaLuce::Punto, area.center(), raggioPunto * scala));
+}
+
+void DipingiAlone(QPainter& p, const QPointF& c, const QColor& colore, double raggio) {
+    QRadialGradient alone(c, raggio);
+    const auto passo = [&](double dove, QColor tinta, int opaca) {
+        tinta.setAlpha(opaca);
+        alone.setColorAt(dove, tinta);
+    };
+    passo(0, Qt::white, 255);
+    passo(0.45, Qt::white, 235);
+    passo(0.62, colore.lighter(135), 190);
+    passo(1, colore, 0);
+    p.setBrush(alone);
+    p.drawEllipse(c, raggio, raggio);
 }
 
 }  // namespace
@@ -37,16 +59,25 @@ SagomaLuce SagomaDi(Colore colore) {
     }
 }
 
+bool Accesa(Colore colore) {
+    return SagomaDi(colore) != SagomaLuce::Punto;
+}
+
+QRectF Bagliore(const QRectF& area, double scala) {
+    const double raggio = raggioBagliore * scala;
+    return QRectF(-raggio, -raggio, 2 * raggio, 2 * raggio).translated(area.center());
+}
+
 void DipingiLuce(QPainter& p, const QRectF& area, Colore colore, double scala) {
     p.setRenderHint(QPainter::Antialiasing);
-    const QRectF sede = area.adjusted(0.5 * scala, 0, -0.5 * scala, 0);
     p.setPen(Qt::NoPen);
-    p.setBrush(QColor(60, 40, 20, 70));
-    p.drawRoundedRect(sede, 2 * scala, 2 * scala);
-    const double margine = 0.75 * scala;
-    p.setBrush(InQt(colore, tinta::spento));
-    p.drawPath(
-        Contorno(SagomaDi(colore), sede.adjusted(margine, margine, -margine, -margine), scala));
+    if (!Accesa(colore)) return DipingiSede(p, area, colore, scala);
+    const QColor luce = InQt(colore, tinta::spento);
+    DipingiAlone(p, area.center(), luce, raggioBagliore * scala);
+    // Light around the shape parts it from its own glow.
+    p.setPen(QPen(Qt::white, 2 * scala, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    p.setBrush(luce);
+    p.drawPath(Contorno(SagomaDi(colore), area.center(), raggioSagoma * scala));
 }
 
 }  // namespace corvana

@@ -4,6 +4,7 @@
 #include <QListWidget>
 #include <QPainter>
 #include <QSignalBlocker>
+#include <algorithm>
 #include <functional>
 
 #include "desktop/face_painter.h"
@@ -23,18 +24,32 @@ public:
         setFrameShape(NoFrame);
         setUniformItemSizes(true);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        setVerticalScrollMode(ScrollPerPixel);
+        setVerticalScrollMode(ScrollPerItem);
         viewport()->setAutoFillBackground(false);
+        VestiRighe(*this, vista);
         connect(this, &QListWidget::currentRowChanged, this, [this](int riga) {
             if (!preme_ && riga >= 0) scelta_(riga);
         });
     }
     /// Letters are shortcuts of the program, and don't search the rows.
     void keyboardSearch(const QString&) override {}
-    void PonAria(int pixel) { setViewportMargins(pixel, pixel, pixel, pixel); }
+    /// As many whole rows as there is room for; what is left over lies above and below them.
+    void Adatta() {
+        const int margine = static_cast<int>(aria * vista_.Scala());
+        const int alto = height() - 2 * margine, voluta = AltezzaDellaRiga(vista_.Scala());
+        const int riga = std::max(voluta, alto / std::max(1, alto / voluta));
+        const int avanzo = std::max(0, alto % riga);
+        const QMargins margini(margine, margine + avanzo / 2, margine,
+                               margine + avanzo - avanzo / 2);
+        if (margini != viewportMargins()) setViewportMargins(margini);
+        if (std::exchange(riga_, riga) == riga) return;
+        static_cast<Riga*>(itemDelegate())->PonAltezza(riga);
+        scheduleDelayedItemsLayout();
+    }
 
 protected:
     bool event(QEvent* evento) override {
+        if (evento->type() == QEvent::Resize) Adatta();
         if (evento->type() == QEvent::Paint) DipingiCornice();
         return QListWidget::event(evento);
     }
@@ -75,6 +90,7 @@ private:
     const Vista& vista_;
     std::function<void(int)> scelta_;
     bool preme_ = false;
+    int riga_ = 0;  ///< pixels that a row is high
 };
 
 }  // namespace
@@ -89,7 +105,6 @@ VistaLista::VistaLista(const CopiaControllo& copia, Mittente mittente, QWidget& 
         },
         padre);
     lista_ = elenco;
-    VestiRighe(*lista_, *this);
     PonWidget(*lista_, lista_->viewport());
     PonRighe();
 }
@@ -119,8 +134,8 @@ void VistaLista::Rinfresca(Nome nome) {
 }
 
 void VistaLista::Riscala() {
-    lista_->setFont(Carattere(Stato().stile, Scala()));
-    static_cast<Elenco*>(lista_)->PonAria(static_cast<int>(aria * Scala()));
+    RiscalaRighe(*lista_, *this);
+    static_cast<Elenco*>(lista_)->Adatta();
 }
 
 }  // namespace corvana

@@ -30,6 +30,8 @@ void VistaVoce::Crea(QMenuBar& sbarra, VistaVoce* padre, bool haVoci) {
     QWidget* sopra = padre ? static_cast<QWidget*>(padre->menu_) : &sbarra;
     if (haVoci) {
         menu_ = new QMenu(sopra);
+        // Its letters grow with the bar's.
+        menu_->setAttribute(Qt::WA_WindowPropagation);
         azione_ = menu_->menuAction();
     } else {
         azione_ = new QAction(sopra);

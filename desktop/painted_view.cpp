@@ -3,9 +3,11 @@
 #include <QAbstractButton>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPaintEvent>
 
 #include "desktop/icon_painter.h"
-#include "desktop/light_painter.h"
+#include "desktop/key_map.h"
+#include "desktop/letter_painter.h"
 #include "desktop/ornament_painter.h"
 #include "desktop/theme.h"
 
@@ -22,8 +24,9 @@ public:
     }
 
 protected:
-    void paintEvent(QPaintEvent*) override {
+    void paintEvent(QPaintEvent* evento) override {
         QPainter p(this);
+        p.setClipRect(evento->rect());
         vista_.Dipingi(p, QRectF(this->rect()), Tatto());
     }
     virtual Tocco Tatto() const {
@@ -49,11 +52,8 @@ protected:
         return tocco;
     }
     void keyPressEvent(QKeyEvent* tasto) override {
-        const bool invio = tasto->key() == Qt::Key_Return || tasto->key() == Qt::Key_Enter;
-        if (invio)
-            click();
-        else
-            QAbstractButton::keyPressEvent(tasto);
+        if (!EInvio(tasto->key())) return QAbstractButton::keyPressEvent(tasto);
+        if (!tasto->isAutoRepeat()) click();
     }
 };
 
@@ -76,7 +76,8 @@ VistaDipinta::VistaDipinta(const CopiaControllo& copia, Mittente mittente, QWidg
 }
 
 bool VistaDipinta::Cliccabile() const {
-    return Origine().ascoltaClick && Origine().tipo != Genere::Casella;
+    // One that lies behind another has what is clicked before it.
+    return Origine().ascoltaClick && Origine().tipo != Genere::Casella && !Stato().Ha("dietro");
 }
 
 QWidget& VistaDipinta::CreaWidget(QWidget& padre) {
@@ -91,7 +92,7 @@ QWidget& VistaDipinta::CreaWidget(QWidget& padre) {
 }
 
 void VistaDipinta::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
-    if (Stato().Ha("luce")) return DipingiLuce(p, area, Stato().fondo, Scala());
+    if (Stato().Ha("lettera")) return DipingiLettera(p, area, Stato(), Scala(), tocco);
     if (Stato().Ha("pulsante")) return DipingiBottone(p, area, Stato(), Scala(), tocco);
     const Aspetto aspetto = Acceso(Stato());
     DipingiFondo(p, area, aspetto, Scala(), tocco);

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QPainter>
 #include <QScrollBar>
+#include <algorithm>
 
 #include "desktop/theme.h"
 #include "desktop/view.h"
@@ -11,18 +12,14 @@ namespace corvana {
 
 namespace {
 
-// A slim thumb without arrows, in the colours of the theme.
-constexpr const char* stileScorrimento =
-    "QScrollBar:vertical{background:transparent;width:10px;margin:1px;}"
-    "QScrollBar::handle:vertical{background:#dcd2c0;border-radius:4px;min-height:24px;}"
-    "QScrollBar::handle:vertical:hover{background:#b9ac96;}"
-    "QScrollBar::add-line,QScrollBar::sub-line{height:0;}"
-    "QScrollBar::add-page,QScrollBar::sub-page{background:transparent;}";
-
 constexpr double altezzaRiga = 20;  ///< designed pixels
 constexpr double rientroRiga = 8;   ///< designed pixels before the text
 
 }  // namespace
+
+int AltezzaDellaRiga(double scala) {
+    return std::max(1, static_cast<int>(altezzaRiga * scala));
+}
 
 int MargineDellaRiga(double scala) {
     const int rientro = static_cast<int>(rientroRiga * scala);
@@ -30,7 +27,7 @@ int MargineDellaRiga(double scala) {
 }
 
 QSize Riga::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
-    return {0, static_cast<int>(altezzaRiga * vista_.Scala())};
+    return {0, altezza_ > 0 ? altezza_ : AltezzaDellaRiga(vista_.Scala())};
 }
 
 void Riga::paint(QPainter* p, const QStyleOptionViewItem& o, const QModelIndex& indice) const {
@@ -73,8 +70,12 @@ void Riga::Scrivi(QPainter& p, const QStyleOptionViewItem& o, const QString& tes
 }
 
 void VestiRighe(QAbstractItemView& elenco, const Vista& vista) {
-    elenco.verticalScrollBar()->setStyleSheet(QString::fromLatin1(stileScorrimento));
     elenco.setItemDelegate(new Riga(vista, elenco));
+}
+
+void RiscalaRighe(QAbstractItemView& elenco, const Vista& vista) {
+    elenco.setFont(Carattere(vista.Stato().stile, vista.Scala()));
+    elenco.verticalScrollBar()->updateGeometry();
 }
 
 }  // namespace corvana

@@ -1,5 +1,5 @@
-// Paints the rows of a list, and its scroll bar, whether the list stands in its window or drops
-// down from a control. GUI thread.
+// Paints the rows of a list, whether it stands in its window or drops down from a control.
+// GUI thread.
 #pragma once
 
 #include <QStyledItemDelegate>
@@ -16,6 +16,8 @@ class Riga final : public QStyledItemDelegate {
 public:
     Riga(const Vista& vista, QObject& padre) : QStyledItemDelegate(&padre), vista_(vista) {}
 
+    /// For a list that fits its rows to its height.
+    void PonAltezza(int pixel) { altezza_ = pixel; }
     /// The width is the list's own to choose.
     QSize sizeHint(const QStyleOptionViewItem& o, const QModelIndex& indice) const override;
     void paint(QPainter* p, const QStyleOptionViewItem& o,
@@ -28,12 +30,17 @@ private:
                 bool scelta) const;
 
     const Vista& vista_;
+    int altezza_ = 0;  ///< pixels, 0 for what the scale makes of the designed height
 };
+
+int AltezzaDellaRiga(double scala);
 
 /// Pixels to each side of a row's text, taken together.
 int MargineDellaRiga(double scala);
 
-/// Gives the list such rows and a slim scroll bar.
+/// Gives the list such rows.
 void VestiRighe(QAbstractItemView& elenco, const Vista& vista);
+/// Their letters and the scroll bar, after the scale has changed.
+void RiscalaRighe(QAbstractItemView& elenco, const Vista& vista);
 
 }  // namespace corvana

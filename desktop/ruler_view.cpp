@@ -44,7 +44,9 @@ protected:
             case Qt::Key_PageDown: return Sposta(-7);
             case Qt::Key_Space:
             case Qt::Key_Return:
-            case Qt::Key_Enter: return Segna();
+            case Qt::Key_Enter:
+                if (!tasto->isAutoRepeat()) Segna();
+                return;
             default: QWidget::keyPressEvent(tasto);
         }
     }

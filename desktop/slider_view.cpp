@@ -1,13 +1,9 @@
 #include "desktop/slider_view.h"
 
-#include <QPainter>
+#include <QMouseEvent>
 #include <QSignalBlocker>
 #include <QSlider>
-#include <QStyleOptionSlider>
 #include <algorithm>
-
-#include "desktop/face_painter.h"
-#include "desktop/theme.h"
 
 namespace corvana {
 
@@ -15,54 +11,33 @@ namespace {
 
 class Cursore final : public QSlider {
 public:
-    Cursore(const Vista& vista, Qt::Orientation verso, QWidget& padre)
-        : QSlider(verso, &padre), vista_(vista) {
+    Cursore(Qt::Orientation verso, QWidget& padre) : QSlider(verso, &padre) {
         setAttribute(Qt::WA_Hover);
         setFocusPolicy(Qt::StrongFocus);
     }
 
 protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
-        p.setRenderHint(QPainter::Antialiasing);
-        QStyleOptionSlider opzioni;
-        initStyleOption(&opzioni);
-        const QRectF pollice =
-            style()->subControlRect(QStyle::CC_Slider, &opzioni, QStyle::SC_SliderHandle, this);
-        DipingiGuida(p, pollice.center());
-        DipingiPollice(p, pollice.center());
-        if (hasFocus()) DipingiAnello(p, QRectF(rect()), vista_.Scala());
+    void mousePressEvent(QMouseEvent* mouse) override {
+        ultimo_ = mouse->position();
+        QSlider::mousePressEvent(mouse);
+    }
+    void mouseMoveEvent(QMouseEvent* mouse) override {
+        ultimo_ = mouse->position();
+        QSlider::mouseMoveEvent(mouse);
+    }
+    void mouseReleaseEvent(QMouseEvent* mouse) override {
+        // The thumb stays where it is let go, which may be farther than the last move told.
+        if (isSliderDown() && mouse->position() != ultimo_) mouseMoveEvent(mouse);
+        QSlider::mouseReleaseEvent(mouse);
+    }
+    void hideEvent(QHideEvent* evento) override {
+        // The release goes elsewhere from now on.
+        setSliderDown(false);
+        QSlider::hideEvent(evento);
     }
 
 private:
-    QColor Tinta() const { return isEnabled() ? tinta::accento : tinta::spento; }
-
-    void DipingiGuida(QPainter& p, const QPointF& pollice) const {
-        const bool piana = orientation() == Qt::Horizontal;
-        const double mezza = 2 * vista_.Scala();
-        const QPointF c = QRectF(rect()).center();
-        const QRectF guida = piana ? QRectF(0, c.y() - mezza, width(), 2 * mezza)
-                                   : QRectF(c.x() - mezza, 0, 2 * mezza, height());
-        p.setPen(Qt::NoPen);
-        p.setBrush(tinta::filo);
-        p.drawRoundedRect(guida, mezza, mezza);
-        QRectF percorsa = guida;
-        if (piana)
-            percorsa.setRight(pollice.x());
-        else
-            percorsa.setBottom(pollice.y());
-        p.setBrush(Tinta());
-        p.drawRoundedRect(percorsa, mezza, mezza);
-    }
-    void DipingiPollice(QPainter& p, const QPointF& centro) const {
-        const double raggio =
-            std::min({7.5 * vista_.Scala(), width() / 2.0 - 1, height() / 2.0 - 1});
-        p.setPen(QPen(Tinta(), 2 * vista_.Scala()));
-        p.setBrush(isSliderDown() ? tinta::accentoTenue : tinta::carta);
-        p.drawEllipse(centro, raggio, raggio);
-    }
-
-    const Vista& vista_;
+    QPointF ultimo_;  ///< where the mouse was last told to be
 };
 
 }  // namespace
@@ -70,7 +45,7 @@ private:
 VistaBarra::VistaBarra(const CopiaControllo& copia, Mittente mittente, QWidget& padre)
     : Vista(copia, mittente) {
     const bool ritta = Stato().height > Stato().width;
-    barra_ = new Cursore(*this, ritta ? Qt::Vertical : Qt::Horizontal, padre);
+    barra_ = new Cursore(ritta ? Qt::Vertical : Qt::Horizontal, padre);
     barra_->setPageStep(std::max(1, copia.passoGrande));
     PonWidget(*barra_);
     PonValori();
@@ -85,7 +60,8 @@ void VistaBarra::PonValori() {
     const bool rovescia = (barra_->orientation() == Qt::Vertical) != (Stato().min > Stato().max);
     barra_->setInvertedAppearance(rovescia);
     barra_->setInvertedControls(rovescia);
-    barra_->setValue(Stato().value);
+    // Under the user's hand it stays where the user has it, who will tell where that was.
+    if (!mosso_) barra_->setValue(Stato().value);
 }
 
 void VistaBarra::Collega() {
@@ -95,7 +71,9 @@ void VistaBarra::Collega() {
         Manda(Fatto::Scroll, valore);
     });
     QObject::connect(barra_, &QSlider::sliderReleased, barra_, [this] {
-        if (std::exchange(mosso_, false)) Manda(Fatto::Change, barra_->value());
+        if (!std::exchange(mosso_, false)) return PonValori();
+        PonDaUtente(Nome::Value, barra_->value());
+        Manda(Fatto::Change, barra_->value());
     });
     QObject::connect(barra_, &QSlider::valueChanged, barra_, [this](int valore) {
         if (barra_->isSliderDown()) return;

@@ -13,6 +13,8 @@ namespace corvana {
 
 namespace {
 
+constexpr double margineTesto = 6;  ///< designed pixels beside the text
+
 class Scrittura final : public QLineEdit {
 public:
     Scrittura(const Vista& vista, QWidget& padre) : QLineEdit(&padre), vista_(vista) {
@@ -81,20 +83,17 @@ private:
 
 QString Filtrato(const QString& battuto, char32_t (*filtro)(char32_t)) {
     if (!filtro) return battuto;
-    QList<uint> presi;
-    for (const uint carattere : battuto.toUcs4())
-        if (const char32_t preso = filtro(static_cast<char32_t>(carattere))) presi.append(preso);
-    QString preso;
-    for (const uint carattere : presi)
-        preso += QString::fromUcs4(reinterpret_cast<const char32_t*>(&carattere), 1);
-    return preso;
+    std::u32string presi;
+    for (const char32_t carattere : battuto.toStdU32String())
+        if (const char32_t preso = filtro(carattere)) presi.push_back(preso);
+    return QString::fromStdU32String(presi);
 }
 
 VistaCasella::VistaCasella(const CopiaControllo& copia, Mittente mittente, QWidget& padre)
     : Vista(copia, mittente), casella_(new Scrittura(*this, padre)) {
     PonWidget(*casella_);
     if (copia.lunghezzaMassima > 0) casella_->setMaxLength(copia.lunghezzaMassima);
-    casella_->setReadOnly(Stato().locked);
+    PonBlocco();
     casella_->setAlignment(Allineamento(Stato().stile) & Qt::AlignHorizontal_Mask);
     PonColori();
     PonTesto();
@@ -112,6 +111,12 @@ void VistaCasella::PonTesto() {
     Riscala();
 }
 
+void VistaCasella::PonBlocco() {
+    casella_->setReadOnly(Stato().locked);
+    // What can only be read is no stop of the Tab key.
+    casella_->setFocusPolicy(Stato().locked ? Qt::NoFocus : Qt::StrongFocus);
+}
+
 void VistaCasella::PonColori() {
     QPalette colori = casella_->palette();
     colori.setColor(QPalette::Base, Qt::transparent);
@@ -121,7 +126,7 @@ void VistaCasella::PonColori() {
 
 void VistaCasella::Rinfresca(Nome nome) {
     if (nome == Nome::Text) PonTesto();
-    if (nome == Nome::Locked) casella_->setReadOnly(Stato().locked);
+    if (nome == Nome::Locked) PonBlocco();
     if (nome == Nome::ForeColor) PonColori();
     Vista::Rinfresca(nome);
 }
@@ -129,12 +134,12 @@ void VistaCasella::Rinfresca(Nome nome) {
 void VistaCasella::Riscala() {
     QFont font = Carattere(Stato().stile, Scala());
     // A box that is only read never scrolls: what is too long for it gets smaller letters.
-    const double spazio = casella_->width() - 16 * Scala();
+    const double spazio = casella_->width() - 2 * (margineTesto + 4) * Scala();
     while (Stato().locked && font.pixelSize() > 6 &&
            QFontMetricsF(font).horizontalAdvance(Stato().text) > spazio)
         font.setPixelSize(font.pixelSize() - 1);
     casella_->setFont(font);
-    const int margine = static_cast<int>(4 * Scala());
+    const int margine = static_cast<int>(margineTesto * Scala());
     casella_->setTextMargins(margine, 0, margine, 0);
 }
 

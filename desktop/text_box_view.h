@@ -20,6 +20,7 @@ protected:
 
 private:
     void PonTesto();
+    void PonBlocco();
     void PonColori();
 
     QLineEdit* casella_;

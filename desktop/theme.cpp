@@ -1,6 +1,5 @@
 #include "desktop/theme.h"
 
-#include <QFontDatabase>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -16,12 +15,12 @@ struct StileTesto {
 };
 
 constexpr StileTesto stili[] = {
-    {"titolo", 14, QFont::DemiBold},   {"cifra", 21, QFont::DemiBold},
+    {"titolo", 15, QFont::DemiBold},   {"cifra", 21, QFont::DemiBold},
     {"piccolo", 11, QFont::Normal},    {"nome", 22, QFont::Bold},
     {"risposta", 15, QFont::DemiBold}, {"principale", 15, QFont::DemiBold},
-    {"insegna", 24, QFont::Bold},      {"lettera", 15, QFont::Bold},
+    {"insegna", 24, QFont::Bold},      {"lettera", 20, QFont::Bold},
     {"aiuto", 15, QFont::DemiBold},    {"chiudi", 15, QFont::DemiBold},
-    {"percento", 14, QFont::DemiBold},
+    {"percento", 15, QFont::DemiBold},
 };
 constexpr StileTesto semplice{"", 13, QFont::Normal};
 
@@ -63,19 +62,15 @@ QPalette TavolozzaDelProgramma() {
     return p;
 }
 
-QString FamigliaDelTesto() {
-    static const QString scelta = [] {
-        const QStringList presenti = QFontDatabase::families();
-        for (const char* famiglia : {"Inter", "Open Sans", "Lato", "DejaVu Sans"})
-            if (presenti.contains(QLatin1String(famiglia))) return QString::fromLatin1(famiglia);
-        return QFont().family();
-    }();
-    return scelta;
+QStringList FamiglieDelTesto() {
+    return {QStringLiteral("Inter"), QStringLiteral("Open Sans"), QStringLiteral("Lato"),
+            QStringLiteral("DejaVu Sans")};
 }
 
 QFont Carattere(const QStringList& stile, double scala) {
     const StileTesto scelto = Scegli(stile);
-    QFont font(FamigliaDelTesto());
+    QFont font;
+    font.setFamilies(FamiglieDelTesto());
     font.setPixelSize(std::max(1, static_cast<int>(std::lround(scelto.pixel * scala))));
     font.setWeight(stile.contains(QLatin1String("forte")) ? QFont::DemiBold : scelto.peso);
     return font;

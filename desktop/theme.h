@@ -26,8 +26,8 @@ inline const QColor bottone{0xFF, 0xFD, 0xF8};
 
 QPalette TavolozzaDelProgramma();
 
-/// The typeface of everything but music, by the first family that the machine has.
-QString FamigliaDelTesto();
+/// The typeface of everything but music: the first of these that the machine has.
+QStringList FamiglieDelTesto();
 
 /// The letters for the style words, `scala` times the designed size; "forte" makes them heavier.
 QFont Carattere(const QStringList& stile, double scala);

@@ -1,6 +1,7 @@
 #include "desktop/button_view.h"
 #include "desktop/combo_view.h"
 #include "desktop/icon_painter.h"
+#include "desktop/light_view.h"
 #include "desktop/list_view.h"
 #include "desktop/painted_view.h"
 #include "desktop/ruler_view.h"
@@ -23,6 +24,8 @@ std::unique_ptr<Vista> CreaDipinta(const CopiaControllo& copia, Mittente mittent
         return std::make_unique<VistaRegolo>(copia, mittente, padre);
     if (stile.contains(QLatin1String("colonne")))
         return std::make_unique<VistaColonne>(copia, mittente, padre);
+    if (stile.contains(QLatin1String("luce")))
+        return std::make_unique<VistaLuce>(copia, mittente, padre);
     if (EIcona(stile)) return std::make_unique<VistaIcona>(copia, mittente, padre);
     return std::make_unique<VistaDipinta>(copia, mittente, padre);
 }

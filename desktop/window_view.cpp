@@ -14,8 +14,10 @@
 #include "desktop/combo_view.h"
 #include "desktop/compositing.h"
 #include "desktop/keyboard.h"
+#include "desktop/menu_painter.h"
 #include "desktop/painted_view.h"
 #include "desktop/placement.h"
+#include "desktop/scale.h"
 #include "desktop/staff_view.h"
 #include "desktop/theme.h"
 
@@ -141,6 +143,7 @@ void VistaFinestra::CreaTutti(const std::vector<CopiaControllo>& controlli, Tast
                      [&sbarra = menu.sbarra] { ApriPrimoMenu(sbarra); });
     for (const CopiaControllo& copia : controlli)
         Crea(copia, menu, padri.contains(copia.numero));
+    nomi_ = std::make_unique<Nominatore>(viste_);
     if (viste_.front()->Stato().Ha("arrotondata")) Arrotonda();
     finestra_->setWindowTitle(viste_.front()->Stato().caption);
     finestra_->setObjectName(viste_.front()->Stato().nome);
@@ -222,20 +225,33 @@ QSize VistaFinestra::Disegnata() const {
     return InPixel({0, 0, twips.width(), twips.height()}, 1).size();
 }
 
+int VistaFinestra::AltezzaSbarra() const {
+    return finestra_->menuBar()->isHidden() ? 0 : MisuraVoceSbarra({}, 1).height();
+}
+
 void VistaFinestra::Ridimensiona() {
-    const int sbarra =
-        finestra_->menuBar()->isHidden() ? 0 : finestra_->menuBar()->sizeHint().height();
     finestra_->centralWidget()->setMinimumSize(Disegnata() * scalaMinima);
     const QSize schermo = finestra_->screen()->availableSize();
-    finestra_->resize((Disegnata() + QSize(0, sbarra)).boundedTo(schermo));
+    finestra_->resize((Disegnata() + QSize(0, AltezzaSbarra())).boundedTo(schermo));
+}
+
+void VistaFinestra::PonScalaFaccia(double scala) {
+    if (std::exchange(scala_, scala) == scala) return;
+    PonScala(*finestra_, scala);
+    QMenuBar& sbarra = *finestra_->menuBar();
+    sbarra.setFont(Carattere({}, scala));
+    sbarra.setFixedHeight(MisuraVoceSbarra({}, scala).height());
 }
 
 void VistaFinestra::Disponi() {
     const QSize disegnata = Disegnata();
     if (disegnata.isEmpty()) return;
+    // Reckoned from the whole window: the bar grows with the face, and leaves it the rest.
+    const QSize intera = finestra_->size();
+    PonScalaFaccia(
+        std::min(static_cast<double>(intera.width()) / disegnata.width(),
+                 static_cast<double>(intera.height()) / (disegnata.height() + AltezzaSbarra())));
     const QSize spazio = finestra_->centralWidget()->size();
-    scala_ = std::min(static_cast<double>(spazio.width()) / disegnata.width(),
-                      static_cast<double>(spazio.height()) / disegnata.height());
     for (std::size_t i = 1; i < viste_.size(); ++i)
         viste_[i]->Disponi(scala_);
     QSize faccia(qRound(disegnata.width() * scala_), qRound(disegnata.height() * scala_));
@@ -284,6 +300,7 @@ void VistaFinestra::Cambia(int numero, Nome nome, const Valore& valore) {
     if (!vista) return;
     const bool misura = nome == Nome::Width || nome == Nome::Height;
     vista->Cambia(nome, valore);
+    if (nome == Nome::Caption || nome == Nome::ToolTipText) nomi_->Rinnova();
     if (numero != 0) return;
     if (nome == Nome::Caption) finestra_->setWindowTitle(vista->Stato().caption);
     if (nome == Nome::MousePointer) PonPuntatore();

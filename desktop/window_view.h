@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "desktop/menu_view.h"
+#include "desktop/naming.h"
 #include "desktop/view.h"
 
 namespace corvana {
@@ -54,14 +55,18 @@ private:
     void PrendiPosto();
     /// The logic wants it elsewhere.
     void Sposta(Nome nome, int twips);
+    /// Of the menu bar at the designed size; 0 without one.
+    int AltezzaSbarra() const;
+    void PonScalaFaccia(double scala);
 
     const std::uint32_t identita_;
     Mittente mittente_;
     // The widgets must go first: some still tell their views that they lose the focus.
     std::vector<std::unique_ptr<Vista>> viste_;
+    std::unique_ptr<Nominatore> nomi_;
     class VistaPentagramma* pentagramma_ = nullptr;
     std::unique_ptr<QMainWindow> finestra_;
-    double scala_ = 1;
+    double scala_ = 0;       ///< not laid out yet
     QPoint posto_;           ///< twips, as the logic knows it
     bool intera_ = false;    ///< it was made sure that it lies on the screen as a whole
     bool sagomata_ = false;  ///< its corners are cut off, since they can't be transparent

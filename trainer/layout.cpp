@@ -36,7 +36,7 @@ constexpr std::array menu = {
     Posto{"mnuLingua", 0, 0, 0, 0, "Lingua"},
     Posto{"mnuIt", 0, 0, 0, 0, "Italiano"},
     Posto{"mnuEn", 0, 0, 0, 0, "Inglese"},
-    Posto{"Help", 0, 0, 0, 0, "Help"},
+    Posto{"Help", 0, 0, 0, 0, "&Help"},
     Posto{"mnuAiuto", 0, 0, 0, 0, "Aiuto"},
     Posto{"mnuVersione", 0, 0, 0, 0, "Versione"},
 };
@@ -55,7 +55,7 @@ constexpr std::array posti = {
     Posto{"PercBg", 6960, 1890, 390, 1200, {}, {}, "barra"},
     Posto{"PercMet", 6960, 1890, 390, 1200, {}, {}, "barra"},
 
-    Posto{"ShToolbar", 7980, 210, 120, 540, {}, {}, "tondo"},
+    Posto{"ShToolbar", 7980, 210, 120, 540, {}, {}, "tondo nome:Risorse"},
     Posto{"frToolBar", 8190, 180, 3630, 600},
     Posto{"ToolButton1", 0, 60, 480, 480, {}, "Intonazione", "icona:orecchio"},
     Posto{"ToolButton2", 525, 60, 480, 480, {}, "Composizione Melodie/Armonie", "icona:composer"},
@@ -68,7 +68,7 @@ constexpr std::array posti = {
     Posto{"Intervallo", 7980, 930, 3840, 300, "Intervallo", {}, "titolo"},
     Posto{"difficolt", 7980, 1260, 3840, 3450, {}, "Scegli le note dell'esercizio"},
     Posto{"Start", 7980, 4920, 2490, 600, "Start", {}, "principale"},
-    Posto{"cmdEscibg", 10620, 4920, 1200, 600, {}, {}, "pulsante"},
+    Posto{"cmdEscibg", 10620, 4920, 1200, 600, {}, {}, "pulsante dietro"},
     Posto{"cmdEsci", 10620, 4920, 1200, 600, "Esci", {}, "pulsante forte"},
 
     Posto{"pdo", 180, 4920, 960, 600, "DO", {}, "risposta"},

@@ -21,9 +21,9 @@ constexpr int inBasso = 2600;
 
 constexpr std::array postiStrumenti = {
     Posto{"frmStrum", 0, 0, 4245, 3150, "Corvana"},
-    Posto{"List1", 225, 225, 2850, 2700},
+    Posto{"List1", 225, 225, 2850, 2700, {}, {}, "nome:frmStrum"},
     Posto{"cmdTest", 3300, 300, 720, 720, {}, "Test", "icona:prova"},
-    Posto{"cmdEscibg", 3195, 2475, 825, 420, {}, {}, "pulsante"},
+    Posto{"cmdEscibg", 3195, 2475, 825, 420, {}, {}, "pulsante dietro"},
     Posto{"cmdEsci", 3195, 2475, 825, 420, "O K", {}, "pulsante"},
 };
 

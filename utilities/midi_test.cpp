@@ -16,11 +16,11 @@ constexpr std::int16_t velocitaProva = 100;
 constexpr std::array postiMidiTest = {
     Posto{"frmMidiTest", 0, 0, 6000, 4200, "MIDI Test"},
     Posto{"Label2", 240, 180, 5520, 270, "Dispositivi MIDI", {}, "titolo"},
-    Posto{"LstMidiDev", 240, 510, 5520, 1560},
+    Posto{"LstMidiDev", 240, 510, 5520, 1560, {}, {}, "nome:Label2"},
     Posto{"lblDevID", 240, 2130, 5520, 270, {}, {}, "piccolo"},
     Posto{"Label1", 240, 2550, 3600, 270, "Strumento", {}, "titolo"},
     Posto{"lblInstr", 4560, 2490, 1200, 390, {}, {}, "cifra destra"},
-    Posto{"InstrS", 240, 2910, 5520, 300, {}, "0 - 127"},
+    Posto{"InstrS", 240, 2910, 5520, 300, {}, "0 - 127", "nome:Label1"},
     Posto{"cmdTest", 240, 3510, 1500, 450, "Test (La)"},
     Posto{"cmdOff", 1860, 3510, 1500, 450, "Off"},
     Posto{"cmdChiudi", 4260, 3510, 1500, 450, "O K", {}, "principale"},

@@ -19,6 +19,7 @@ public:
         : scrivania_(scrivania), cartella_(QString::fromLocal8Bit(cartella)) {}
 
     QWidget& Di(const char* nome) { return Trova(scrivania_, QString::fromUtf8(nome)); }
+    const Aspetto& Stato(const char* nome) { return StatoDi(scrivania_, QString::fromUtf8(nome)); }
     QString Testo(const char* bottone) {
         return dynamic_cast<QAbstractButton&>(Di(bottone)).text();
     }
@@ -108,10 +109,7 @@ void Metronomo(Fotografo& f) {
     f.Scegli("mnuMetro");
     Deve(Aspetta([&] { return f.Di("frmMetro").isVisible(); }));
     f.Premi("cmdSSmetro");
-    Deve(Aspetta([&] {
-        QWidget& luce = f.Di("lblPuls0");
-        return Fotografa(luce).pixelColor(luce.rect().center()) == Qt::red;
-    }));
+    Deve(Aspetta([&] { return f.Stato("lblPuls0").fondo == Rgb(255, 0, 0); }));
     f.Scatta("metronome", "frmMetro", "frmMetro");
     f.Premi("cmdSSmetro");
     Deve(Aspetta([&] { return f.Di("cmdSetup").isEnabled(); }));

@@ -1,9 +1,12 @@
 #include "tests/desktop/screen.h"
 
 #include <QAction>
+#include <QMenuBar>
 #include <QTest>
 #include <QWindow>
 #include <stdexcept>
+
+#include "desktop/menu_painter.h"
 
 namespace corvana::prova {
 
@@ -37,6 +40,24 @@ QAction& TrovaVoce(Scrivania& scrivania, const QString& nome) {
     auto* voce = Davanti(scrivania).Finestra().findChild<QAction*>(nome);
     if (!voce) throw Manca(nome);
     return *voce;
+}
+
+const Aspetto& StatoDi(Scrivania& scrivania, const QString& nome) {
+    VistaFinestra& davanti = Davanti(scrivania);
+    for (int numero = 0; const Vista* vista = davanti.Controllo(numero); ++numero)
+        if (vista->Stato().nome == nome) return vista->Stato();
+    throw Manca(nome);
+}
+
+void Ingrandisci(VistaFinestra& finestra, double volte) {
+    const QRect twips = finestra.Controllo(0)->Stato().Twips();
+    QMainWindow& vera = finestra.Finestra();
+    QSize disegnata = InPixel({0, 0, twips.width(), twips.height()}, 1).size();
+    if (!vera.menuBar()->isHidden()) disegnata.rheight() += MisuraVoceSbarra({}, 1).height();
+    const QSize voluta = (QSizeF(disegnata) * volte).toSize();
+    vera.resize(voluta);
+    Aspetta(
+        [&] { return vera.size() == voluta && vera.centralWidget()->width() == voluta.width(); });
 }
 
 VistaFinestra& AspettaFinestra(Scrivania& scrivania, const QString& nome) {

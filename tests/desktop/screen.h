@@ -19,6 +19,10 @@ bool Aspetta(const std::function<bool()>& condizione);
 QWidget& Trova(Scrivania& scrivania, const QString& nome);
 /// The same for a menu entry.
 QAction& TrovaVoce(Scrivania& scrivania, const QString& nome);
+/// What the face knows of a control of the window in front, one without a widget too.
+const Aspetto& StatoDi(Scrivania& scrivania, const QString& nome);
+/// Makes the window that many times as large as it was designed.
+void Ingrandisci(VistaFinestra& finestra, double volte);
 /// Waits for a window of that name in front that has become active; throws when none comes.
 VistaFinestra& AspettaFinestra(Scrivania& scrivania, const QString& nome);
 

@@ -1,8 +1,10 @@
 // Shows the real main window in its states and writes what it looks like: to be looked at by a
-// person. Usage: corvana_screenshots FOLDER DATA
+// person. Usage: corvana_screenshots FOLDER DATA [TIMES], TIMES for windows that the user has
+// enlarged.
 #include <QApplication>
 #include <QDir>
 #include <QMenu>
+#include <cstdlib>
 
 #include "tests/desktop/program_stage.h"
 
@@ -13,10 +15,23 @@ using namespace corvana::prova;
 
 class Servizio {
 public:
-    Servizio(Scrivania& scrivania, QString cartella)
-        : scrivania_(scrivania), cartella_(std::move(cartella)) {}
+    Servizio(Scrivania& scrivania, QString cartella, double volte)
+        : scrivania_(scrivania), cartella_(std::move(cartella)), volte_(volte) {}
 
-    void Scatta(const QString& nome) { Salva(Fotografa(scrivania_), nome); }
+    void Scatta(const QString& nome) {
+        Ingrandisci(*scrivania_.Davanti(), volte_);
+        Salva(Fotografa(scrivania_), nome);
+    }
+    /// A menu of the bar as it drops down.
+    void ScattaMenu(const char* voce) {
+        QMenu& menu = *TrovaVoce(scrivania_, QString::fromUtf8(voce)).menu();
+        menu.popup(QPoint());
+        Respira();
+        Salva(Fotografa(menu), QStringLiteral("menu"));
+        menu.close();
+        Respira();
+    }
+    const Aspetto& Stato(const char* nome) { return StatoDi(scrivania_, QString::fromUtf8(nome)); }
     void Salva(const QImage& foto, const QString& nome) const {
         foto.save(QDir(cartella_).filePath(lingua_ + nome + QStringLiteral(".png")));
     }
@@ -46,12 +61,14 @@ private:
     Scrivania& scrivania_;
     QString cartella_;
     QString lingua_;
+    double volte_;
 };
 
 void FotografaTutto(Servizio& s) {
     s.Pronto();
     s.Scegli("mnuNormale");
     s.Scatta("idle");
+    s.ScattaMenu("Opzioni");
     s.Premi("lblMn");
     s.Premi("Start");
     Aspetta([&] { return !s.Di("Regolo").isVisible(); });
@@ -72,17 +89,21 @@ void FotografaTutto(Servizio& s) {
 
 /// Ticking, in the meter of six pulses.
 void FotografaBattito(Servizio& s) {
-    while (s.Di("lblPuls5").isHidden()) {
+    while (!s.Stato("lblPuls5").visible) {
         s.Premi("lblTs");
         s.Respira();
     }
     s.Premi("cmdSSmetro");
-    QWidget& quarta = s.Di("lblPuls3");
-    Aspetta([&] {
-        const QImage luce = Fotografa(quarta);
-        return luce.pixelColor(luce.rect().center()) == Qt::blue;
-    });
-    s.Scatta("ticking");
+    for (const auto& [nome, colore] : {std::pair{"ticking", Rgb(0, 0, 255)},
+                                       {"ticking-b", Rgb(0, 255, 0)},
+                                       {"ticking-a", Rgb(255, 0, 0)}}) {
+        Aspetta([&, c = colore] {
+            for (int i = 0; i < 6; ++i)
+                if (s.Stato(qPrintable(QStringLiteral("lblPuls%1").arg(i))).fondo == c) return true;
+            return false;
+        });
+        s.Scatta(QString::fromLatin1(nome));
+    }
     s.Premi("cmdSSmetro");
     Aspetta([&] { return s.Di("cmdSetup").isEnabled(); });
 }
@@ -113,7 +134,8 @@ int main(int argc, char** argv) {
     Scrivania& scrivania = applicazione.LaScrivania();
     scrivania.Avvia([&] { EseguiProgramma(applicazione, macchina); });
     AspettaFinestra(scrivania, "CorvanaMainF");
-    Servizio servizio(scrivania, QString::fromLocal8Bit(argv[1]));
+    Servizio servizio(scrivania, QString::fromLocal8Bit(argv[1]),
+                      argc > 3 ? std::atof(argv[3]) : 1);
     for (const auto& [voce, lingua] : {std::pair{"mnuIt", "it-"}, {"mnuEn", "en-"}}) {
         servizio.PonLingua(QString::fromLatin1(lingua));
         servizio.Scegli(voce);

@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QCheckBox>
+#include <QKeyEvent>
 #include <QTest>
 #include <QWindow>
 
@@ -82,6 +83,27 @@ TEST(Etichetta, OneThatCanBeClickedIsAButtonToTheKeyboardAndToAScreenReader) {
     toccabile.setFocus();
     Batti(palco.scrivania, Qt::Key_Space);
     EXPECT_EQ(palco.Diario(), (Righe{"giu 32", "su 32", "toccabile click"}));
+}
+
+void TieniInvio(Scrivania& scrivania) {
+    Premi(scrivania, Qt::Key_Return);
+    QKeyEvent ripetuto(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
+    QCoreApplication::sendEvent(scrivania.Davanti()->Finestra().windowHandle(), &ripetuto);
+    Lascia(scrivania, Qt::Key_Return);
+}
+
+TEST(Etichetta, EnterHeldDownIsOneClick) {
+    Palco palco;
+    Trova(palco.scrivania, "toccabile").setFocus();
+    TieniInvio(palco.scrivania);
+    EXPECT_EQ(palco.Diario(), (Righe{"giu 13", "toccabile click", "giu 13 ripetuto", "su 13"}));
+}
+
+TEST(Bottone, EnterHeldDownIsOneClick) {
+    Palco palco;
+    Trova(palco.scrivania, "bottone").setFocus();
+    TieniInvio(palco.scrivania);
+    EXPECT_EQ(palco.Diario(), (Righe{"giu 13", "bottone click", "giu 13 ripetuto", "su 13"}));
 }
 
 TEST(Etichetta, APlainOneIsTextToAScreenReaderAndNoStopOfTheTabKey) {

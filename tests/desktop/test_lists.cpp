@@ -2,6 +2,7 @@
 
 #include <QListWidget>
 #include <QMainWindow>
+#include <QScrollBar>
 
 #include "tests/desktop/stage.h"
 
@@ -76,6 +77,39 @@ TEST(Lista, NewRowsKeepWhatTheUserChose) {
     CliccaRiga(ListaDi(palco), 3);
     palco.NellaLogica([](FormDiProva& form) { form.lista.AddItem("Sol"); });
     EXPECT_EQ(ListaDi(palco).currentRow(), 3);
+}
+
+/// Each row that is seen at all is seen whole.
+void ControllaRigheIntere(QListWidget& lista, const char* quando) {
+    const QRect vista = lista.viewport()->rect();
+    int viste = 0;
+    for (int i = 0; i < lista.count(); ++i) {
+        const QRect riga = lista.visualItemRect(lista.item(i));
+        if (!riga.intersects(vista)) continue;
+        ++viste;
+        EXPECT_TRUE(vista.contains(riga)) << quando << ", row " << i;
+    }
+    EXPECT_GE(viste, 6) << quando;
+}
+
+TEST(Lista, ShowsWholeRowsAtEveryScaleAndWhereverItIsScrolledTo) {
+    Palco palco([](FormDiProva& form) {
+        form.lista.Height = 2115;
+        for (int i = 0; i < 40; ++i)
+            form.lista.AddItem(std::to_string(i));
+    });
+    QListWidget& lista = ListaDi(palco);
+    for (const double volte : {1.0, 1.25, 1.5, 2.0, 2.3, 3.0}) {
+        Ingrandisci(*palco.scrivania.Davanti(), volte);
+        const std::string quando = std::to_string(volte) + " times";
+        lista.scrollToTop();
+        ControllaRigheIntere(lista, (quando + ", top").c_str());
+        QScrollBar& scorrimento = *lista.verticalScrollBar();
+        scorrimento.setValue(scorrimento.value() + scorrimento.singleStep());
+        ControllaRigheIntere(lista, (quando + ", a step further").c_str());
+        lista.scrollToBottom();
+        ControllaRigheIntere(lista, (quando + ", bottom").c_str());
+    }
 }
 
 TEST(Lista, ItsRowsGrowWithTheWindow) {

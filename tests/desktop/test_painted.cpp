@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QPainter>
 #include <QSvgRenderer>
 
 #include "desktop/theme.h"
@@ -56,6 +57,31 @@ TEST(Figura, EveryIconOfTheProgramIsADrawingOfItsOwn) {
         QSvgRenderer disegno(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(nome)));
         EXPECT_TRUE(disegno.isValid()) << nome;
         EXPECT_EQ(disegno.viewBox(), QRect(0, 0, 32, 32)) << nome;
+    }
+}
+
+TEST(Figura, AnIconIsSharpAtEverySizeOfTheWindow) {
+    Palco palco;
+    for (const double volte : {1.0, 2.0}) {
+        Ingrandisci(*palco.scrivania.Davanti(), volte);
+        QWidget& icona = Trova(palco.scrivania, "icona");
+        const QImage foto = Fotografa(icona);
+        const int lato = std::min(icona.width(), icona.height());
+        QImage attesa(lato, lato, QImage::Format_ARGB32_Premultiplied);
+        attesa.fill(Qt::transparent);
+        QPainter p(&attesa);
+        QSvgRenderer(QStringLiteral(":/icons/metronomo.svg")).render(&p);
+        p.end();
+        const QPoint inizio((icona.width() - lato) / 2, (icona.height() - lato) / 2);
+        int opachi = 0, uguali = 0;
+        for (int x = 0; x < lato; ++x)
+            for (int y = 0; y < lato; ++y) {
+                if (qAlpha(attesa.pixel(x, y)) != 255) continue;
+                ++opachi;
+                uguali += foto.pixelColor(inizio + QPoint(x, y)) == attesa.pixelColor(x, y);
+            }
+        ASSERT_GT(opachi, 50 * volte);
+        EXPECT_GT(uguali, opachi * 9 / 10) << volte;
     }
 }
 

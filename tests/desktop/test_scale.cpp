@@ -7,26 +7,21 @@
 namespace corvana::prova {
 namespace {
 
-void Ingrandisci(QMainWindow& finestra, QSize centro) {
-    const int sbarra = finestra.height() - finestra.centralWidget()->height();
-    finestra.resize(centro + QSize(0, sbarra));
-    Aspetta([&] { return finestra.centralWidget()->size() == centro; });
-}
-
 TEST(Scala, ControlsAndLettersGrowWithTheWindow) {
     Palco palco;
-    QMainWindow& finestra = palco.scrivania.Davanti()->Finestra();
     QWidget& casella = Trova(palco.scrivania, "casella");
     const int letteraPrima = casella.font().pixelSize();
     EXPECT_EQ(casella.geometry(), QRect(10, 150, 100, 25));
-    Ingrandisci(finestra, {1560, 640});
+    Ingrandisci(*palco.scrivania.Davanti(), 2);
     EXPECT_EQ(casella.geometry(), QRect(20, 300, 200, 50));
     EXPECT_EQ(casella.font().pixelSize(), 2 * letteraPrima);
 }
 
 TEST(Scala, TheFaceKeepsItsShapeInTheMiddleOfTheWindow) {
     Palco palco;
-    Ingrandisci(palco.scrivania.Davanti()->Finestra(), {1000, 320});
+    QMainWindow& finestra = palco.scrivania.Davanti()->Finestra();
+    finestra.resize(1000, finestra.height());
+    ASSERT_TRUE(Aspetta([&] { return finestra.centralWidget()->width() == 1000; }));
     const QRect faccia = Trova(palco.scrivania, "scritta").parentWidget()->geometry();
     EXPECT_EQ(faccia, QRect(110, 0, 780, 320));
 }
@@ -42,7 +37,7 @@ TEST(Scala, TheWindowDoesntShrinkBelowWhatCanBeRead) {
 
 TEST(Scala, AControlThatTheLogicMovesGoesToItsScaledPlace) {
     Palco palco;
-    Ingrandisci(palco.scrivania.Davanti()->Finestra(), {1560, 640});
+    Ingrandisci(*palco.scrivania.Davanti(), 2);
     palco.NellaLogica([](FormDiProva& form) { form.bottone.Left = 300; });
     EXPECT_EQ(Trova(palco.scrivania, "bottone").x(), 40);
 }

@@ -46,6 +46,56 @@ TEST(Barra, TouchingTheThumbWithoutMovingItChangesNothing) {
     EXPECT_EQ(palco.Diario(), Righe{});
 }
 
+TEST(Barra, WhereTheThumbIsLetGoIsWhatCountsThoughNoMoveToldOfIt) {
+    Palco palco;
+    QSlider& barra = BarraDi(palco);
+    const QPoint da = Pollice(barra);
+    QTest::mousePress(&barra, Qt::LeftButton, {}, da);
+    QTest::mouseRelease(&barra, Qt::LeftButton, {}, da + QPoint(40, 0));
+    EXPECT_EQ(palco.Diario(), (Righe{"barra scroll", "barra change"}));
+    palco.NellaLogica([](FormDiProva& form) { EXPECT_GT(form.barra.Value(), 60); });
+}
+
+TEST(Barra, WhatTheLogicSaysDuringADragDoesntMoveTheThumbOfTheUser) {
+    Palco palco;
+    QSlider& barra = BarraDi(palco);
+    const QPoint da = Pollice(barra);
+    QTest::mousePress(&barra, Qt::LeftButton, {}, da);
+    QTest::mouseMove(&barra, da + QPoint(40, 0));
+    const int posto = barra.value();
+    palco.NellaLogica([](FormDiProva& form) { form.barra.Value = 25; });
+    EXPECT_EQ(barra.value(), posto);
+    QTest::mouseRelease(&barra, Qt::LeftButton, {}, da + QPoint(40, 0));
+    palco.NellaLogica([&](FormDiProva& form) { EXPECT_EQ(form.barra.Value(), posto); });
+    EXPECT_EQ(barra.value(), posto);
+}
+
+TEST(Barra, AThumbThatWasOnlyTouchedShowsWhatTheLogicSaidMeanwhile) {
+    Palco palco;
+    QSlider& barra = BarraDi(palco);
+    const QPoint da = Pollice(barra);
+    QTest::mousePress(&barra, Qt::LeftButton, {}, da);
+    palco.NellaLogica([](FormDiProva& form) { form.barra.Value = 77; });
+    QTest::mouseRelease(&barra, Qt::LeftButton, {}, da);
+    EXPECT_EQ(barra.value(), 77);
+    EXPECT_EQ(palco.Diario(), Righe{});
+}
+
+TEST(Barra, OneThatGoesDuringADragIsntHeldWhenItComesBack) {
+    Palco palco;
+    QSlider& barra = BarraDi(palco);
+    const QPoint da = Pollice(barra);
+    QTest::mousePress(&barra, Qt::LeftButton, {}, da);
+    QTest::mouseMove(&barra, da + QPoint(40, 0));
+    palco.NellaLogica([](FormDiProva& form) { form.barra.Visible = false; });
+    EXPECT_FALSE(barra.isSliderDown());
+    palco.NellaLogica([](FormDiProva& form) { form.barra.Visible = true; });
+    palco.Diario();
+    barra.setFocus();
+    Batti(palco.scrivania, Qt::Key_Right);
+    EXPECT_EQ(palco.Diario(), (Righe{"giu 39", "barra change", "su 39"}));
+}
+
 TEST(Barra, KeysChangeItByOneAndByThePage) {
     Palco palco;
     BarraDi(palco).setFocus();

@@ -1,0 +1,161 @@
+#include "desktop/style.h"
+
+#include <QFrame>
+#include <QScrollBar>
+#include <QStyleFactory>
+#include <QStyleOption>
+#include <algorithm>
+#include <cmath>
+
+#include "desktop/bar_painter.h"
+#include "desktop/face_painter.h"
+#include "desktop/menu_painter.h"
+#include "desktop/scale.h"
+#include "desktop/theme.h"
+
+namespace corvana {
+
+namespace {
+
+constexpr double latoSpunta = 16;  ///< designed pixels
+
+Tocco ToccoDi(const QStyleOption& o) {
+    const auto e = [&o](QStyle::StateFlag stato) { return o.state.testFlag(stato); };
+    return {e(QStyle::State_MouseOver), e(QStyle::State_Sunken), e(QStyle::State_HasFocus),
+            e(QStyle::State_Enabled)};
+}
+
+/// Designed pixels, or a negative number for what the style beneath decides.
+double MisuraDisegnata(QStyle::PixelMetric quale) {
+    switch (quale) {
+        case QStyle::PM_SliderLength:
+        case QStyle::PM_SliderThickness:
+        case QStyle::PM_SliderControlThickness: return latoPollice;
+        case QStyle::PM_ScrollBarExtent: return largoScorrimento;
+        case QStyle::PM_IndicatorWidth:
+        case QStyle::PM_IndicatorHeight: return latoSpunta;
+        case QStyle::PM_CheckBoxLabelSpacing: return 7;
+        case QStyle::PM_MenuHMargin:
+        case QStyle::PM_MenuVMargin: return 4;
+        case QStyle::PM_MenuPanelWidth: return 1;
+        case QStyle::PM_MenuBarHMargin: return 4;
+        case QStyle::PM_MenuBarVMargin:
+        case QStyle::PM_MenuBarPanelWidth:
+        case QStyle::PM_MenuBarItemSpacing: return 0;
+        default: return -1;
+    }
+}
+
+void DipingiSpunta(QPainter& p, const QStyleOption& o, double scala) {
+    const Tocco tocco = ToccoDi(o);
+    const bool segnata = o.state.testFlag(QStyle::State_On);
+    const QColor forte = tocco.abilitato ? tinta::accento : tinta::spento;
+    const double mezzo = 0.75 * scala;
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(segnata || tocco.sopra ? forte : tinta::filoForte, 2 * mezzo));
+    p.setBrush(segnata ? forte : tocco.premuto ? tinta::accentoTenue : tinta::carta);
+    p.drawRoundedRect(QRectF(o.rect).adjusted(mezzo, mezzo, -mezzo, -mezzo), 4 * scala, 4 * scala);
+    if (segnata) DipingiSegnata(p, o.rect, Qt::white, scala);
+}
+
+void DipingiTavola(QPainter& p, const QRect& area) {
+    p.fillRect(area, tinta::filoForte);
+    p.fillRect(area.adjusted(1, 1, -1, -1), tinta::carta);
+}
+
+QRect ParteScorrimento(const QStyleOptionSlider& o, QStyle::SubControl parte, double scala) {
+    const bool piana = o.orientation == Qt::Horizontal;
+    const QRect pollice = PolliceScorrimento(o, scala);
+    QRect resto = CorsaScorrimento(o, scala);
+    switch (parte) {
+        case QStyle::SC_ScrollBarSlider: return pollice;
+        case QStyle::SC_ScrollBarGroove: return resto;
+        case QStyle::SC_ScrollBarSubPage:
+            piana ? resto.setRight(pollice.left() - 1) : resto.setBottom(pollice.top() - 1);
+            return resto;
+        case QStyle::SC_ScrollBarAddPage:
+            piana ? resto.setLeft(pollice.right() + 1) : resto.setTop(pollice.bottom() + 1);
+            return resto;
+        default: return {};
+    }
+}
+
+}  // namespace
+
+Stile::Stile() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+void Stile::polish(QWidget* widget) {
+    QProxyStyle::polish(widget);
+    // What lies beneath a scroll bar is seen beside its thumb.
+    if (qobject_cast<QScrollBar*>(widget)) widget->setAttribute(Qt::WA_OpaquePaintEvent, false);
+}
+
+int Stile::pixelMetric(PixelMetric quale, const QStyleOption* o, const QWidget* widget) const {
+    const double disegnata = MisuraDisegnata(quale);
+    if (disegnata < 0) return QProxyStyle::pixelMetric(quale, o, widget);
+    return static_cast<int>(std::lround(disegnata * ScalaDi(widget)));
+}
+
+int Stile::styleHint(StyleHint cosa, const QStyleOption* o, const QWidget* widget,
+                     QStyleHintReturn* altro) const {
+    if (cosa == SH_EtchDisabledText || cosa == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    // The rows drop down below the control, which goes on showing what is chosen.
+    if (cosa == SH_ComboBox_Popup) return 0;
+    if (cosa == SH_ComboBox_PopupFrameStyle) return QFrame::Box | QFrame::Plain;
+    return QProxyStyle::styleHint(cosa, o, widget, altro);
+}
+
+QSize Stile::sizeFromContents(ContentsType cosa, const QStyleOption* o, const QSize& dentro,
+                              const QWidget* widget) const {
+    const auto* voce = qstyleoption_cast<const QStyleOptionMenuItem*>(o);
+    if (cosa == CT_MenuItem && voce) return MisuraVoce(*voce, dentro, ScalaDi(widget));
+    if (cosa == CT_MenuBarItem && voce) return MisuraVoceSbarra(dentro, ScalaDi(widget));
+    return QProxyStyle::sizeFromContents(cosa, o, dentro, widget);
+}
+
+QRect Stile::subElementRect(SubElement parte, const QStyleOption* o, const QWidget* widget) const {
+    if (parte == SE_CheckBoxFocusRect) return o->rect;
+    return QProxyStyle::subElementRect(parte, o, widget);
+}
+
+QRect Stile::subControlRect(ComplexControl cosa, const QStyleOptionComplex* o, SubControl parte,
+                            const QWidget* widget) const {
+    const auto* barra = qstyleoption_cast<const QStyleOptionSlider*>(o);
+    if (!barra) return QProxyStyle::subControlRect(cosa, o, parte, widget);
+    if (cosa == CC_ScrollBar) return ParteScorrimento(*barra, parte, ScalaDi(widget));
+    if (cosa == CC_Slider && parte == SC_SliderHandle) return PolliceBarra(*barra, ScalaDi(widget));
+    if (cosa == CC_Slider && parte == SC_SliderGroove) return barra->rect;
+    return QProxyStyle::subControlRect(cosa, o, parte, widget);
+}
+
+void Stile::drawPrimitive(PrimitiveElement cosa, const QStyleOption* o, QPainter* p,
+                          const QWidget* widget) const {
+    switch (cosa) {
+        case PE_PanelButtonCommand:
+            return DipingiBottone(*p, o->rect, {}, ScalaDi(widget), ToccoDi(*o));
+        case PE_IndicatorCheckBox: return DipingiSpunta(*p, *o, ScalaDi(widget));
+        case PE_FrameFocusRect: return DipingiAnello(*p, o->rect, ScalaDi(widget));
+        case PE_PanelMenu: return DipingiTavola(*p, o->rect);
+        case PE_FrameMenu: return;
+        default: return QProxyStyle::drawPrimitive(cosa, o, p, widget);
+    }
+}
+
+void Stile::drawControl(ControlElement cosa, const QStyleOption* o, QPainter* p,
+                        const QWidget* widget) const {
+    const auto* voce = qstyleoption_cast<const QStyleOptionMenuItem*>(o);
+    if (cosa == CE_MenuItem && voce) return DipingiVoce(*p, *voce, ScalaDi(widget));
+    if (cosa == CE_MenuBarItem && voce) return DipingiVoceSbarra(*p, *voce, ScalaDi(widget));
+    if (cosa == CE_MenuBarEmptyArea) return p->fillRect(o->rect, tinta::finestra);
+    QProxyStyle::drawControl(cosa, o, p, widget);
+}
+
+void Stile::drawComplexControl(ComplexControl cosa, const QStyleOptionComplex* o, QPainter* p,
+                               const QWidget* widget) const {
+    const auto* barra = qstyleoption_cast<const QStyleOptionSlider*>(o);
+    if (cosa == CC_Slider && barra) return DipingiBarra(*p, *barra, ScalaDi(widget));
+    if (cosa == CC_ScrollBar && barra) return DipingiScorrimento(*p, *barra, ScalaDi(widget));
+    QProxyStyle::drawComplexControl(cosa, o, p, widget);
+}
+
+}  // namespace corvana

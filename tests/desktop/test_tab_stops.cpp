@@ -1,0 +1,143 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QMainWindow>
+
+#include "tests/desktop/program_stage.h"
+
+namespace corvana::prova {
+namespace {
+
+/// Nothing lies over the widget's middle.
+bool Scoperto(const QWidget& widget) {
+    QWidget& finestra = *widget.window();
+    const QWidget* sopra = finestra.childAt(widget.mapTo(&finestra, widget.rect().center()));
+    return sopra && (sopra == &widget || widget.isAncestorOf(sopra));
+}
+
+/// The focus goes to the window's ground and back; the picture must tell.
+bool MostraIlFuoco(QWidget& widget) {
+    QWidget& finestra = *widget.window();
+    const QImage con = Fotografa(finestra);
+    QWidget& fondo = *dynamic_cast<QMainWindow&>(finestra).centralWidget();
+    fondo.setFocus();
+    const QImage senza = Fotografa(finestra);
+    widget.setFocus(Qt::TabFocusReason);
+    const QRect posto(widget.mapTo(&finestra, QPoint()), widget.size());
+    int diversi = 0;
+    for (int x = posto.left(); x <= posto.right(); ++x)
+        for (int y = posto.top(); y <= posto.bottom(); ++y)
+            diversi += con.pixel(x, y) != senza.pixel(x, y);
+    return diversi >= 40;
+}
+
+void ControllaFermata(QWidget& fermata) {
+    const std::string nome = fermata.objectName().toStdString();
+    EXPECT_TRUE(fermata.isVisible()) << nome;
+    EXPECT_TRUE(Scoperto(fermata)) << nome << " lies behind something";
+    EXPECT_TRUE(MostraIlFuoco(fermata)) << nome << " doesn't show the focus";
+    const auto* accessibile = QAccessible::queryAccessibleInterface(&fermata);
+    ASSERT_TRUE(accessibile) << nome;
+    EXPECT_FALSE(accessibile->text(QAccessible::Name).trimmed().isEmpty()) << nome;
+}
+
+/// The names of all stops of the window in front, each of which is checked on the way.
+QStringList Percorri(Scrivania& scrivania) {
+    QStringList fermate;
+    QWidget* prima = nullptr;
+    for (int passi = 0; passi < 100; ++passi) {
+        Batti(scrivania, Qt::Key_Tab);
+        QWidget* qui = QApplication::focusWidget();
+        if (!qui || qui == prima) break;
+        if (!prima) prima = qui;
+        fermate.append(qui->objectName());
+        ControllaFermata(*qui);
+    }
+    return fermate;
+}
+
+void Apri(Scrivania& s, const char* voce, const char* finestra) {
+    TrovaVoce(s, QString::fromLatin1(voce)).trigger();
+    AspettaFinestra(s, QString::fromLatin1(finestra));
+}
+
+TEST(Fermate, InTheMainWindowAllAreSeenNamedAndShowTheFocus) {
+    PalcoProgramma programma(QStringLiteral(CORVANA_DATA));
+    Scrivania& s = programma.scrivania;
+    TrovaVoce(s, "mnuAutomatico").trigger();
+    TrovaVoce(s, "mnuMetro").trigger();
+    ASSERT_TRUE(Aspetta(
+        [&] { return Trova(s, "Slider1").isVisible() && Trova(s, "frmMetro").isVisible(); }));
+    const QStringList fermate = Percorri(s);
+    for (const char* nome : {"Start", "cmdEsci", "difficolt", "ToolButton3", "ToolButton7",
+                             "ShToolbar", "lblMn", "Slider1", "Regolo", "lblTs", "lblX12",
+                             "MetroTempoS", "MetroVol", "cmdSSmetro", "cmdSetup", "lblCloseMetro"})
+        EXPECT_TRUE(fermate.contains(QLatin1String(nome))) << nome;
+    for (const char* nome : {"cmdEscibg", "conta", "er", "PercEs", "luci", ""})
+        EXPECT_FALSE(fermate.contains(QLatin1String(nome))) << nome;
+}
+
+TEST(Fermate, InTheMainWindowDuringADrillToo) {
+    PalcoProgramma programma(QStringLiteral(CORVANA_DATA));
+    Scrivania& s = programma.scrivania;
+    Clicca(s, "Start");
+    ASSERT_TRUE(Aspetta([&] { return Trova(s, "pdo").isEnabled(); }));
+    const QStringList fermate = Percorri(s);
+    for (const char* nome : {"Start", "pdo", "pre", "pmi", "pfa", "psol", "pla", "psi"})
+        EXPECT_TRUE(fermate.contains(QLatin1String(nome))) << nome;
+    EXPECT_FALSE(fermate.contains("cmdEscibg"));
+    Clicca(s, "Start");
+    Aspetta([&] { return Trova(s, "frmRisultati").isVisible(); });
+}
+
+TEST(Fermate, InTheWindowsAboveAllAreSeenNamedAndShowTheFocus) {
+    PalcoProgramma programma(QStringLiteral(CORVANA_DATA));
+    Scrivania& s = programma.scrivania;
+    const auto percorri = [&](const QStringList& attese) {
+        const QStringList fermate = Percorri(s);
+        for (const QString& nome : attese)
+            EXPECT_TRUE(fermate.contains(nome)) << nome.toStdString();
+        EXPECT_FALSE(fermate.contains("cmdEscibg"));
+        s.Davanti()->Finestra().close();
+        AspettaFinestra(s, "CorvanaMainF");
+    };
+    Apri(s, "mnuVersione", "frmAbout");
+    percorri({"cmdOK"});
+    Apri(s, "mnuSs", "frmStrum");
+    percorri({"List1", "cmdTest", "cmdEsci"});
+    Apri(s, "mnuMidiTest", "frmMidiTest");
+    percorri({"LstMidiDev", "InstrS", "cmdTest", "cmdOff", "cmdChiudi"});
+    TrovaVoce(s, "mnuMetro").trigger();
+    ASSERT_TRUE(Aspetta([&] { return Trova(s, "cmdSetup").isVisible(); }));
+    Clicca(s, "cmdSetup");
+    AspettaFinestra(s, "frmConfMetro");
+    percorri({"lblA", "lblB1", "lblC", "InstrA", "InstrB1", "InstrC", "txtPattern", "txtTempo",
+              "seqPreset", "cmdTest", "cmdOk"});
+}
+
+TEST(Fermate, AControlIsNamedByItsLabelInTheLanguageOfTheMoment) {
+    PalcoProgramma programma(QStringLiteral(CORVANA_DATA));
+    Scrivania& s = programma.scrivania;
+    const QString italiano = Trova(s, "ShToolbar").accessibleName();
+    EXPECT_EQ(italiano, "Risorse");
+    TrovaVoce(s, "mnuEn").trigger();
+    ASSERT_TRUE(Aspetta([&] { return Trova(s, "ShToolbar").accessibleName() != italiano; }));
+    EXPECT_EQ(Trova(s, "ShToolbar").accessibleName(), "Resources");
+}
+
+TEST(Fermate, EveryMenuOfTheBarHasALetterOfItsOwn) {
+    PalcoProgramma programma(QStringLiteral(CORVANA_DATA));
+    Scrivania& s = programma.scrivania;
+    QStringList lettere;
+    for (const char* menu : {"f1", "es", "Risorse", "Opzioni", "Help"}) {
+        const QString testo = TrovaVoce(s, QString::fromLatin1(menu)).text();
+        const qsizetype segno = testo.indexOf(QLatin1Char('&'));
+        ASSERT_GE(segno, 0) << menu;
+        lettere.append(testo.mid(segno + 1, 1).toUpper());
+    }
+    EXPECT_EQ(QSet<QString>(lettere.begin(), lettere.end()).size(), lettere.size());
+}
+
+}  // namespace
+}  // namespace corvana::prova
