@@ -1,7 +1,10 @@
 #include "desktop/icon_painter.h"
 
+#include <QPixmap>
+#include <QPixmapCache>
 #include <QSvgRenderer>
 #include <algorithm>
+#include <cmath>
 
 namespace corvana {
 
@@ -19,9 +22,27 @@ QString Percorso(const QString& nome) {
     return QStringLiteral(":/icons/%1.svg").arg(nome);
 }
 
-QRectF Quadrato(const QRectF& area) {
-    const double lato = std::min(area.width(), area.height());
-    return {area.center().x() - lato / 2, area.center().y() - lato / 2, lato, lato};
+QRect Quadrato(const QRectF& area) {
+    const int lato = static_cast<int>(std::min(area.width(), area.height()));
+    const QSizeF resto = area.size() - QSizeF(lato, lato);
+    return {(area.topLeft() + QPointF(resto.width(), resto.height()) / 2).toPoint(),
+            QSize(lato, lato)};
+}
+
+/// The picture at that size, drawn once; Qt's cache keeps it as long as there is room.
+QPixmap Immagine(const QString& nome, int lato, double punti) {
+    const QString chiave = QStringLiteral("icona %1 %2 %3").arg(nome).arg(lato).arg(punti);
+    QPixmap immagine;
+    if (QPixmapCache::find(chiave, &immagine)) return immagine;
+    const int intero = static_cast<int>(std::lround(lato * punti));
+    immagine = QPixmap(intero, intero);
+    immagine.fill(Qt::transparent);
+    QPainter p(&immagine);
+    QSvgRenderer(Percorso(nome)).render(&p);
+    p.end();
+    immagine.setDevicePixelRatio(punti);
+    QPixmapCache::insert(chiave, immagine);
+    return immagine;
 }
 
 }  // namespace
@@ -31,24 +52,18 @@ bool EIcona(const QStringList& stile) {
 }
 
 QIcon IconaDelProgramma(const QString& nome) {
-    QSvgRenderer disegno(Percorso(nome));
     QIcon icona;
-    for (const int lato : {16, 24, 32, 48, 64, 96, 128, 256}) {
-        QPixmap immagine(lato, lato);
-        immagine.fill(Qt::transparent);
-        QPainter p(&immagine);
-        disegno.render(&p);
-        p.end();
-        icona.addPixmap(immagine);
-    }
+    for (const int lato : {16, 24, 32, 48, 64, 96})
+        icona.addPixmap(Immagine(nome, lato, 1));
     return icona;
 }
 
 void DipingiIcona(QPainter& p, const QRectF& area, const QStringList& stile, const Tocco& tocco) {
-    QSvgRenderer disegno(Percorso(NomeIcona(stile)));
-    p.setRenderHint(QPainter::Antialiasing);
+    const QRect posto = Quadrato(area);
+    if (posto.isEmpty()) return;
     if (!tocco.abilitato) p.setOpacity(0.35);
-    disegno.render(&p, Quadrato(area));
+    p.drawPixmap(posto.topLeft(),
+                 Immagine(NomeIcona(stile), posto.width(), p.device()->devicePixelRatioF()));
     p.setOpacity(1);
 }
 

@@ -41,6 +41,13 @@ QPainterPath DaFont(const FontMusicale& f, Segno segno) {
         .map(grezza);
 }
 
+/// From the first font that the machine has, else by hand.
+QPainterPath Cerca(Segno segno) {
+    for (const FontMusicale& font : fontMusicali)
+        if (QFontDatabase::hasFamily(QLatin1String(font.famiglia))) return DaFont(font, segno);
+    return TracciaSegnoAMano(segno);
+}
+
 /// One stroke of a pen as wide as `spessore`.
 QPainterPath Tratto(const QPainterPath& linea, double spessore) {
     QPainterPathStroker penna;
@@ -76,11 +83,10 @@ QPainterPath BassoAMano() {
 
 }  // namespace
 
-QPainterPath TracciaSegno(Segno segno) {
-    const QStringList presenti = QFontDatabase::families();
-    for (const FontMusicale& font : fontMusicali)
-        if (presenti.contains(QLatin1String(font.famiglia))) return DaFont(font, segno);
-    return TracciaSegnoAMano(segno);
+const QPainterPath& TracciaSegno(Segno segno) {
+    static const QPainterPath violino = Cerca(Segno::ChiaveViolino);
+    static const QPainterPath basso = Cerca(Segno::ChiaveBasso);
+    return segno == Segno::ChiaveViolino ? violino : basso;
 }
 
 QPainterPath TracciaSegnoAMano(Segno segno) {

@@ -10,7 +10,7 @@ enum class Segno { ChiaveViolino, ChiaveBasso };
 
 /// The sign for a staff whose lines are 1 apart: 0, 0 is the left end of its lowest line, y grows
 /// downwards. The sign begins at x = 0.
-QPainterPath TracciaSegno(Segno segno);
+const QPainterPath& TracciaSegno(Segno segno);
 /// The same without any font.
 QPainterPath TracciaSegnoAMano(Segno segno);
 

@@ -25,10 +25,16 @@ void Linea(QPainter& p, double da, double a, double y, double spessore, double p
 }
 
 void Chiave(QPainter& p, Segno segno, double x, int primaLinea) {
+    const QPainterPath& traccia = TracciaSegno(segno);
+    const QRectF area(
+        QPointF(x, AltezzaDi(primaLinea)) + traccia.boundingRect().topLeft() * spazioPentagramma,
+        traccia.boundingRect().size() * spazioPentagramma);
+    // A clef takes as long as all else of the staff: it isn't painted for a note beside it.
+    if (p.hasClipping() && !p.clipBoundingRect().intersects(area)) return;
     p.save();
     p.translate(x, AltezzaDi(primaLinea));
     p.scale(spazioPentagramma, spazioPentagramma);
-    p.fillPath(TracciaSegno(segno), tinta::inchiostro);
+    p.fillPath(traccia, tinta::inchiostro);
     p.restore();
 }
 
