@@ -25,9 +25,9 @@ constexpr std::array pannelloMetronomo = {
 constexpr std::array conf = {
     Posto{"frmConfMetro", 0, 0, 6600, 5145, "Metronomo"},
     Posto{"Label1", 240, 150, 3000, 270, "Suoni", {}, "titolo"},
-    Posto{"lblA", 240, 450, 900, 330, "a", {}, "lettera"},
-    Posto{"lblB1", 1260, 450, 900, 330, "b", {}, "lettera"},
-    Posto{"lblC", 2280, 450, 900, 330, "c", {}, "lettera"},
+    Posto{"lblA", 240, 435, 900, 360, "a", {}, "lettera"},
+    Posto{"lblB1", 1260, 435, 900, 360, "b", {}, "lettera"},
+    Posto{"lblC", 2280, 435, 900, 360, "c", {}, "lettera"},
     Posto{"InstrA", 240, 810, 900, 2340, {}, {}, "nome:Label1 nome:lblA"},
     Posto{"InstrB1", 1260, 810, 900, 2340, {}, {}, "nome:Label1 nome:lblB1"},
     Posto{"InstrC", 2280, 810, 900, 2340, {}, {}, "nome:Label1 nome:lblC"},

@@ -54,7 +54,7 @@ constexpr std::array<Voce, 41> albero = {{
     {"mnuLingua", "Opzioni", "Lingua"},
     {"mnuIt", "mnuLingua", "Italiano"},
     {"mnuEn", "mnuLingua", "Inglese"},
-    {"Help", "", "Help"},
+    {"Help", "", "&Help"},
     {"mnuAiuto", "Help", "Aiuto"},
     {"mnuVersione", "Help", "Versione"},
 }};
