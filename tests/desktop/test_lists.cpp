@@ -105,7 +105,7 @@ TEST(Lista, ShowsWholeRowsAtEveryScaleAndWhereverItIsScrolledTo) {
         lista.scrollToTop();
         ControllaRigheIntere(lista, (quando + ", top").c_str());
         QScrollBar& scorrimento = *lista.verticalScrollBar();
-        scorrimento.setValue(scorrimento.value() + scorrimento.singleStep());
+        scorrimento.setValue(scorrimento.value() + 1);
         ControllaRigheIntere(lista, (quando + ", a step further").c_str());
         lista.scrollToBottom();
         ControllaRigheIntere(lista, (quando + ", bottom").c_str());
