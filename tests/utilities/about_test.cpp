@@ -37,4 +37,13 @@ TEST(Informazioni, TheButtonAndEscCloseIt) {
     }
 }
 
+TEST(Informazioni, NoOtherKeyClosesIt) {
+    BancoProgramma b;
+    b.Clicca(3, "mnuVersione");
+    for (int codice = 1; codice < 256; ++codice)
+        if (codice != 27) b.Tasto(4, codice);
+    b.Quando(5, [&] { EXPECT_EQ(b.finestre.Davanti()->Name, "frmAbout"); });
+    b.Vai(6);
+}
+
 }  // namespace corvana::prova

@@ -82,14 +82,55 @@ TEST(Strumenti, EscClosesTheWindow) {
     EXPECT_EQ(b.finestre.Davanti(), &b.finestra);
 }
 
+TEST(Strumenti, NoOtherKeyClosesTheWindow) {
+    BancoStrumenti b;
+    for (int codice = 1; codice < 256; ++codice)
+        if (codice != 27) b.Tasto(4, codice);
+    b.Quando(5, [&] { EXPECT_EQ(b.finestre.Davanti()->Name, "frmStrum"); });
+    b.Vai(6);
+}
+
+TEST(Strumenti, ItTellsThatItIsOpenFromItsLoadToItsEnd) {
+    BancoStrumenti b;
+    b.Quando(2.9, [&] { EXPECT_FALSE(b.globali.PickerAperto); });
+    b.Quando(4, [&] { EXPECT_TRUE(b.globali.PickerAperto); });
+    b.Tasto(5, 27);
+    b.Vai(6);
+    EXPECT_FALSE(b.globali.PickerAperto);
+}
+
+TEST(Strumenti, WhatWasHighlightedBeforeIsForgottenAtLoad) {
+    BancoStrumenti b;
+    b.Fa(2.9, Fatto::MouseMove, "ToolButton1");
+    b.Quando(4, [&] {
+        EXPECT_EQ(b.globali.hover.HoverNome, "");
+        EXPECT_FALSE(b.globali.hover.HoverAttivo);
+    });
+    b.Vai(5);
+}
+
+TEST(Strumenti, WhatIsHighlightedInItIsForgottenWhenItCloses) {
+    for (const char* controllo : {"cmdEsci", "cmdTest"}) {
+        BancoStrumenti b;
+        b.Fa(4, Fatto::MouseMove, controllo);
+        b.Quando(4.5, [&] { EXPECT_TRUE(b.globali.hover.HoverAttivo); });
+        b.Tasto(5, 27);
+        b.Vai(6);
+        EXPECT_EQ(b.globali.hover.HoverNome, "");
+        EXPECT_FALSE(b.globali.hover.HoverAttivo);
+    }
+}
+
 TEST(Strumenti, TheTestSoundsThePhraseOnChannelOne) {
     BancoStrumenti b;
     b.Clicca(4, "cmdTest");
     b.Vai(6);
     const auto note = b.uscita.ConStato(0x90);
     ASSERT_EQ(note.size(), 20U) << "the opening signal and the test, each note on and off";
-    EXPECT_EQ(note[10], (std::pair{71, 127}));
-    EXPECT_EQ(note[18], (std::pair{69, 127}));
+    const std::vector<std::pair<int, int>> frase = {{71, 127}, {71, 0}, {72, 127}, {72, 0},
+                                                    {69, 127}, {69, 0}, {64, 127}, {64, 0},
+                                                    {69, 127}, {69, 0}};
+    EXPECT_EQ(std::vector(note.begin() + 10, note.end()), frase);
 }
 
 TEST(Strumenti, AnInstrumentThatTheListHasNotBecomesTheNearest) {
@@ -112,6 +153,23 @@ TEST(Strumenti, TheButtonSinksUnderThePointerAndTurnsRed) {
         EXPECT_EQ(b.Scelta().cmdEscibg.Top(), b.Scelta().cmdEsci.Top());
     });
     b.Vai(6);
+}
+
+TEST(Strumenti, ThePointerLeavesOneButtonAsItComesToTheOther) {
+    BancoStrumenti b;
+    b.Fa(4, Fatto::MouseMove, "cmdEscibg");
+    b.Fa(5, Fatto::MouseMove, "cmdTest");
+    b.Quando(5.5, [&] {
+        EXPECT_EQ(b.Scelta().cmdEscibg.Top(), b.Scelta().cmdEsci.Top());
+        EXPECT_EQ(b.Scelta().cmdEsci.ForeColor(), 0xFF0000);
+        EXPECT_EQ(b.Scelta().cmdTest.Top(), 310);
+    });
+    b.Fa(6, Fatto::MouseMove, "cmdEsci");
+    b.Quando(6.5, [&] {
+        EXPECT_EQ(b.Scelta().cmdTest.Top(), 300);
+        EXPECT_EQ(b.Scelta().cmdEsci.ForeColor(), 255);
+    });
+    b.Vai(7);
 }
 
 TEST(Strumenti, PressingTheLeftButtonOnItsFaceDragsTheWindow) {

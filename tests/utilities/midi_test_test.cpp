@@ -38,6 +38,49 @@ TEST(ProvaMidi, AtActivationItOpensTheFirstDeviceAndPassesItsIdAsTheChannelIndex
     EXPECT_EQ(b.Ultimo(), 16U << 8 | 191U) << "which is no program change at all";
 }
 
+TEST(ProvaMidi, ItShowsAndSendsTheInstrumentInForce) {
+    BancoMidi b;
+    b.Quando(2.5, [&] { b.globali.StrumentoGlobale = 40; });
+    b.Quando(4, [&] {
+        EXPECT_EQ(b.Prova().lblInstr.Caption(), "40");
+        EXPECT_EQ(b.Prova().InstrS.Value(), 40);
+    });
+    b.Vai(5);
+    EXPECT_EQ(b.Ultimo(), 40U << 8 | 191U);
+}
+
+TEST(ProvaMidi, WithoutADefaultOutputTheFirstPortIsTheOneThatItOpens) {
+    BancoMidi b;
+    b.uscita.senzaPredefinito = true;
+    b.Quando(4, [&] { EXPECT_EQ(b.Prova().lblDevID.Caption(), "Dev. ID: 0"); });
+    b.Vai(5);
+    EXPECT_EQ(b.uscita.aperture.back(), 0);
+    EXPECT_EQ(b.Ultimo(), 16U << 8 | 192U);
+}
+
+TEST(ProvaMidi, TheProgramGoesToTheDeviceThatWasOpenedAndNeverToTheOneBefore) {
+    BancoMidi b;
+    b.Quando(2.9, [&] { b.uscita.esitoOpen = 4; });
+    b.Quando(3.5, [&] {
+        EXPECT_TRUE(b.uscita.ConStato(191).empty());
+        b.uscita.esitoOpen = 0;
+        b.suono.ApriMidi(-1);
+        b.uscita.esitoOpen = 4;
+    });
+    b.Clicca(4, "LstMidiDev", 2);
+    b.Vai(5);
+    EXPECT_EQ(b.uscita.ConStato(193).size(), 1U) << "the one of the program's start";
+    EXPECT_EQ(b.suono.HandleMidi, 0);
+}
+
+TEST(ProvaMidi, APickedDeviceGetsTheProgramThatTheSliderShows) {
+    BancoMidi b;
+    b.Slitta(4, "InstrS", 73);
+    b.Clicca(5, "LstMidiDev", 2);
+    b.Vai(6);
+    EXPECT_EQ(b.Ultimo(), 73U << 8 | 193U);
+}
+
 TEST(ProvaMidi, APickedDeviceIsOpenedAfterTheOldOneIsClosedAndGetsTheProgram) {
     BancoMidi b;
     b.Clicca(4, "LstMidiDev", 2);
@@ -100,6 +143,18 @@ TEST(ProvaMidi, TheSliderChoosesTheInstrumentOfTheProgram) {
     b.Vai(6);
     EXPECT_EQ(b.globali.StrumentoGlobale, 73);
     EXPECT_EQ(b.Ultimo(), 73U << 8 | 192U);
+}
+
+TEST(ProvaMidi, TheSliderHoldsAll128InstrumentsAndSendsThemOnItsWayToo) {
+    BancoMidi b;
+    b.Quando(4, [&] {
+        EXPECT_EQ(b.Prova().InstrS.Min(), 0);
+        EXPECT_EQ(b.Prova().InstrS.Max(), 127);
+    });
+    b.Fa(5, Fatto::Scroll, "InstrS", 127);
+    b.Vai(6);
+    EXPECT_EQ(b.globali.StrumentoGlobale, 127);
+    EXPECT_EQ(b.Ultimo(), 127U << 8 | 192U);
 }
 
 TEST(ProvaMidi, WithNoDeviceAtAllTheListIsOffAndTheTestRaisesTheBox) {
