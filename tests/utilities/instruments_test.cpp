@@ -101,7 +101,8 @@ TEST(Strumenti, ItTellsThatItIsOpenFromItsLoadToItsEnd) {
 
 TEST(Strumenti, WhatWasHighlightedBeforeIsForgottenAtLoad) {
     BancoStrumenti b;
-    b.Fa(2.9, Fatto::MouseMove, "ToolButton1");
+    b.Fa(2.8, Fatto::MouseMove, "ToolButton3");
+    b.Quando(2.9, [&] { EXPECT_TRUE(b.globali.hover.HoverAttivo); });
     b.Quando(4, [&] {
         EXPECT_EQ(b.globali.hover.HoverNome, "");
         EXPECT_FALSE(b.globali.hover.HoverAttivo);

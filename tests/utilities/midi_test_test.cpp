@@ -49,6 +49,14 @@ TEST(ProvaMidi, ItShowsAndSendsTheInstrumentInForce) {
     EXPECT_EQ(b.Ultimo(), 40U << 8 | 191U);
 }
 
+TEST(ProvaMidi, ItShowsTheFirstInstrumentThoughTheSliderDoesntMoveForIt) {
+    BancoMidi b;
+    b.Quando(2.5, [&] { b.globali.StrumentoGlobale = 0; });
+    b.Quando(4, [&] { EXPECT_EQ(b.Prova().lblInstr.Caption(), "0"); });
+    b.Vai(5);
+    EXPECT_EQ(b.Ultimo(), 191U);
+}
+
 TEST(ProvaMidi, WithoutADefaultOutputTheFirstPortIsTheOneThatItOpens) {
     BancoMidi b;
     b.uscita.senzaPredefinito = true;
