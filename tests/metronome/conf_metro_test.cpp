@@ -126,6 +126,40 @@ TEST(ConfMetro, TheBoxesHaveTheirLimits) {
     EXPECT_EQ(conf.txtTempo.MaxLength, 5);
 }
 
+TEST(ConfMetro, TheListsHoldTheirNotesAndTheirLettersTheirColours) {
+    BancoProgramma b;
+    const frmConfMetro conf(b.Tutto());
+    EXPECT_EQ(conf.InstrA.List(),
+              (Righe{"38", "40", "46", "49", "53", "61", "65", "66", "76", "77", "81"}));
+    EXPECT_EQ(conf.InstrB1.List(),
+              (Righe{"27", "35", "36", "45", "48", "54", "69", "75", "82", "85"}));
+    EXPECT_EQ(conf.InstrC.List(), (Righe{"31", "33", "34", "37", "42", "43", "44", "51"}));
+    EXPECT_EQ(conf.lblA.ForeColor(), Rgb(255, 0, 0));
+    EXPECT_EQ(conf.lblB1.ForeColor(), Rgb(0, 255, 0));
+    EXPECT_EQ(conf.lblC.ForeColor(), Rgb(0, 0, 255));
+}
+
+TEST(ConfMetro, IsPaintedAsThePanel) {
+    BancoConf b;
+    b.Quando(5, [&] {
+        EXPECT_EQ(b.Conf().Sfondo(),
+                  (Sfumatura{Rgb(202, 143, 85), Rgb(234, 213, 165), true, false}));
+    });
+    b.Vai(6);
+}
+
+TEST(ConfMetro, ItOpensOnTheRowsAndTextsInForce) {
+    BancoConf b;
+    b.Quando(5, [&] {
+        EXPECT_EQ(b.Conf().InstrA.Scelta(), "76");
+        EXPECT_EQ(b.Conf().InstrB1.Scelta(), "85");
+        EXPECT_EQ(b.Conf().InstrC.Scelta(), "33");
+        EXPECT_EQ(b.Conf().txtPattern.Text(), "ab");
+        EXPECT_EQ(b.Conf().txtTempo.Text(), "2/4");
+    });
+    b.Vai(6);
+}
+
 TEST(ConfMetro, AClickOnAListTakesTheNoteAndSoundsIt) {
     BancoConf b;
     b.Clicca(5, "InstrA", 0);
@@ -157,13 +191,19 @@ TEST(ConfMetro, AClickOnALetterSoundsItsNoteAndChangesNothing) {
 }
 
 TEST(ConfMetro, APresetFillsBothBoxes) {
-    BancoConf b;
-    b.Clicca(5, "seqPreset", 1);
-    b.Quando(6, [&] {
-        EXPECT_EQ(b.Conf().txtPattern.Text(), "abcbcb");
-        EXPECT_EQ(b.Conf().txtTempo.Text(), "3/4");
-    });
-    b.Vai(7);
+    const std::vector<std::pair<std::string, std::string>> righe = {
+        {"abcb", "2/4"}, {"abcbcb", "3/4"}, {"abcbcbcb", "4/4"}};
+    for (std::size_t i = 0; i < righe.size(); ++i) {
+        const auto& [sequenza, tempo] = righe[i];
+        BancoConf b;
+        b.Clicca(5, "seqPreset", static_cast<int>(i));
+        b.Quando(6, [&] {
+            EXPECT_EQ(b.Conf().seqPreset.Scelta(), sequenza + "  " + tempo);
+            EXPECT_EQ(b.Conf().txtPattern.Text(), sequenza);
+            EXPECT_EQ(b.Conf().txtTempo.Text(), tempo);
+        });
+        b.Vai(7);
+    }
 }
 
 TEST(ConfMetro, TheTestPlaysThePatternAtFullVolumeEightTenthsApart) {

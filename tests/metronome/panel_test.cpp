@@ -29,7 +29,30 @@ TEST(Pannello, AtLoadItHasTheDefaultsAndTwoGreyLights) {
     EXPECT_EQ(b.metronomo.lblTempo.Caption(), "60");
     EXPECT_EQ(LuciVisibili(b.metronomo), 2);
     for (const Etichetta& luce : b.metronomo.lblPuls)
-        EXPECT_EQ(luce.BackColor(), coloreLuceSpenta);
+        EXPECT_EQ(luce.BackColor(), 0xAAAAAA);
+}
+
+TEST(Pannello, IsPaintedFromBrownToSandAcross) {
+    BancoProgramma b;
+    b.Vai(2.5);
+    EXPECT_EQ(b.metronomo.BgMetro.Sfondo(),
+              (Sfumatura{Rgb(202, 143, 85), Rgb(234, 213, 165), true, false}));
+}
+
+TEST(Pannello, TheTempoSliderGoesFrom20To200AndStandsAt60) {
+    BancoProgramma b;
+    EXPECT_EQ(b.metronomo.MetroTempoS.Min(), 20);
+    EXPECT_EQ(b.metronomo.MetroTempoS.Max(), 200);
+    EXPECT_EQ(b.metronomo.MetroTempoS.Value(), 60);
+}
+
+TEST(Pannello, TheTempoSliderOnItsWayChangesTheTempoToo) {
+    BancoProgramma b;
+    b.Clicca(3, "mnuMetro");
+    b.Fa(4, Fatto::Scroll, "MetroTempoS", 150);
+    b.Vai(5);
+    EXPECT_EQ(b.metronomo.lblTempo.Caption(), "150");
+    EXPECT_DOUBLE_EQ(b.stato.MetroBattito, 0.4);
 }
 
 TEST(Pannello, TheTwentyLightsStandInARow) {
@@ -105,6 +128,8 @@ TEST(Pannello, TheVolumeBarIsLoudAtItsTopAndSetsTheVelocity) {
     BancoProgramma b;
     EXPECT_EQ(b.metronomo.MetroVol.Min(), 127);
     EXPECT_EQ(b.metronomo.MetroVol.Max(), 0);
+    EXPECT_EQ(b.metronomo.MetroVol.Value(), 127);
+    EXPECT_EQ(b.metronomo.MetroVol.LargeChange, 10);
     b.Clicca(3, "mnuMetro");
     b.Slitta(4, "MetroVol", 40);
     b.Clicca(5, "cmdSSmetro");

@@ -96,6 +96,20 @@ TEST(Pulsi, ACustomPatternOfTwentyLettersLightsAllTwentyLamps) {
         EXPECT_TRUE(luce.Visible());
 }
 
+TEST(Pulsi, TheLampsOfALongerPatternGoOutWhenAShorterOneStarts) {
+    BancoPulsi b;
+    b.Quando(3.5, [&] { b.stato.MetroSequenza = "abcabcabcabcabcabcab"; });
+    b.Clicca(4, "cmdSSmetro");
+    b.Clicca(4.5, "cmdSSmetro");
+    b.Quando(6, [&] { b.stato.MetroSequenza = "abc"; });
+    b.Clicca(7, "cmdSSmetro");
+    b.Vai(7.5);
+    for (std::size_t i = 0; i < 20; ++i) {
+        EXPECT_EQ(b.metronomo.lblPuls[i].Visible(), i < 3) << i;
+        EXPECT_EQ(b.Luce(i), 0xAAAAAA) << i;
+    }
+}
+
 TEST(Pulsi, TheTimeSignatureDoesNothingDuringARun) {
     BancoPulsi b;
     b.Clicca(4, "cmdSSmetro");

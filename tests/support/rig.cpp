@@ -58,6 +58,17 @@ void Banco::Tasto(double t, int codice) {
     Lascia(t, codice);
 }
 
+void Banco::Insieme(double t, const std::vector<Mossa>& mosse) {
+    Quando(t, [this, mosse] {
+        for (const auto& [fatto, controllo, valore] : mosse) {
+            Evento e;
+            e.fatto = fatto;
+            e.valore = valore;
+            coda.Aggiungi(Fatta(e, controllo));
+        }
+    });
+}
+
 void Banco::Fine(double t) {
     Quando(t, [] { throw FineCopione{}; });
 }

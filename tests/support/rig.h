@@ -25,6 +25,13 @@ public:
     }
 };
 
+/// What the user does to a control of the window in front ("" is the window itself).
+struct Mossa {
+    Fatto fatto;
+    std::string controllo;
+    int valore = 0;
+};
+
 struct Banco {
     Banco();
 
@@ -57,6 +64,8 @@ struct Banco {
     void Tasto(double t, int codice);  ///< pressed and let go
     void Fa(double t, Fatto fatto, const std::string& controllo, int valore = 0);
     void Manda(double t, Evento evento, const std::string& controllo);
+    /// Several events that wait in the queue together: one pump delivers them all.
+    void Insieme(double t, const std::vector<Mossa>& mosse);
     /// The end of the script: the run unwinds there.
     void Fine(double t);
 

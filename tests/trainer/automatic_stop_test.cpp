@@ -136,8 +136,7 @@ TEST(FermataAutomatica, TheNextRunStartsAfresh) {
 
 TEST(FermataAutomatica, AStopAndAStartDeliveredTogetherLeaveOneRun) {
     BancoFermata b;
-    b.Clicca(4, "Start");
-    b.Clicca(4, "Start");
+    b.Insieme(4, {{Fatto::Click, "Start"}, {Fatto::Click, "Start"}});
     b.Quando(7, [&] {
         EXPECT_TRUE(b.finestra.InCorso);
         EXPECT_EQ(b.finestra.Mostrate, 2);
@@ -150,9 +149,8 @@ TEST(FermataAutomatica, AStopAndAStartDeliveredTogetherLeaveOneRun) {
 
 TEST(FermataAutomatica, AStopANewModeAndAStartDeliveredTogetherLeaveANormalRun) {
     BancoFermata b;
-    b.Clicca(4, "Start");
-    b.Clicca(4, "mnuNormale");
-    b.Clicca(4, "Start");
+    b.Insieme(
+        4, {{Fatto::Click, "Start"}, {Fatto::Click, "mnuNormale"}, {Fatto::Click, "Start"}});
     b.Tasto(10, 'H');
     b.Vai(30);
     EXPECT_TRUE(b.finestra.InCorso);

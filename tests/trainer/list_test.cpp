@@ -135,6 +135,33 @@ TEST(ListaEsercizi, TheFirstSelectionAfterARulerRangeWasRestoredGivesNoFocus) {
     EXPECT_EQ(b.finestra.LimiteAlto, 62);
 }
 
+TEST(ListaEsercizi, ASeparatorGivesStartTheFocusForTheFirstRowAndOnceMoreForItself) {
+    for (const int riga : {4, 9}) {
+        BancoPrincipale b;
+        b.Quando(2.9, [&] { b.specchio.fuochi.clear(); });
+        b.Clicca(3, "difficolt", riga);
+        b.Fine(4);
+        b.Avvia();
+        EXPECT_EQ(b.specchio.fuochi, (std::vector<std::string>{"Start", "Start"})) << riga;
+    }
+}
+
+TEST(ListaEsercizi, ASeparatorAsTheFirstSelectionAfterARulerRangeGivesTheFocusAllTheSame) {
+    BancoPrincipale b;
+    b.PonStato("20;44;16;30;n");
+    b.Righello(2.5, 3700);
+    b.Quando(2.9, [&] {
+        EXPECT_FALSE(b.finestra.Start.Enabled());
+        b.specchio.fuochi.clear();
+    });
+    b.Clicca(3, "difficolt", 9);
+    b.Fine(4);
+    b.Avvia();
+    EXPECT_EQ(b.specchio.fuochi, std::vector<std::string>{"Start"});
+    EXPECT_TRUE(b.finestra.Start.Enabled());
+    EXPECT_FALSE(b.finestra.CaricamentoLista);
+}
+
 TEST(ListaEsercizi, DuringARunARowReplacesTheLimitsForTheNextNote) {
     BancoPrincipale b;
     b.Clicca(3, "Start");

@@ -18,6 +18,15 @@ struct FinestraFinta final : Form {
     }
 };
 
+/// The event waits in the queue when the window appears, before the program does anything more.
+void AllaComparsa(BancoPrincipale& b, Fatto fatto, const std::string& controllo) {
+    Evento e;
+    e.fatto = fatto;
+    e.finestra = 1;  // the first showing of all
+    e.controllo = b.finestra.Trova(controllo)->Numero();
+    b.coda.Aggiungi(e);
+}
+
 std::vector<std::string> Disabilitati(const CorvanaMainF& f) {
     std::vector<std::string> nomi;
     for (const Controllo* c :
@@ -233,12 +242,59 @@ TEST(Chiusura, WhereNothingCanBeStoredItCloses) {
     EXPECT_TRUE(b.dialoghi.messaggi.empty());
 }
 
+TEST(PrimaAttivazione, WhatWasDoneToTheWindowBeforeItIsServedWhileTheControlsAreStillOn) {
+    BancoPrincipale b;
+    AllaComparsa(b, Fatto::Click, "Start");
+    b.Quando(1, [&] {
+        EXPECT_TRUE(b.finestra.InCorso);
+        EXPECT_EQ(b.finestra.Start.Caption(), "Stop");
+    });
+    b.Fine(3);
+    EXPECT_TRUE(b.Avvia());
+    EXPECT_TRUE(b.finestra.InCorso);
+}
+
+TEST(PrimaAttivazione, AModeChosenBeforeItIsServedGivesStartTheFocusAsLaterOnesDo) {
+    for (const char* modo : {"mnuNormale", "mnuAutomatico"}) {
+        BancoPrincipale b;
+        AllaComparsa(b, Fatto::Click, modo);
+        b.Quando(1, [&] { EXPECT_EQ(b.specchio.fuochi, Boxes{"Start"}) << modo; });
+        b.Fine(3);
+        b.Avvia();
+        EXPECT_EQ(b.specchio.fuochi, (Boxes{"Start", "Start"})) << modo;
+    }
+}
+
+TEST(PrimaAttivazione, WithNothingDoneBeforeItStartHasTheFocusWhenTheSignalIsOver) {
+    BancoPrincipale b;
+    b.PonStato("43;53;16;60;a");
+    b.Quando(2, [&] { EXPECT_TRUE(b.specchio.fuochi.empty()); });
+    b.Fine(3);
+    b.Avvia();
+    EXPECT_EQ(b.specchio.fuochi, Boxes{"Start"});
+}
+
+TEST(PrimaAttivazione, TheModesAndTheSliderGiveNoFocusBeforeIt) {
+    BancoPrincipale b;
+    b.finestre.Mostra(b.finestra);  // from here on the focus is seen
+    b.specchio.fuochi.clear();
+    b.finestra.Form_Load();
+    b.finestra.mnuAutomatico_Click();
+    b.finestra.mnuNormale_Click();
+    b.finestra.Slider1_Change();
+    EXPECT_TRUE(b.specchio.fuochi.empty());
+    b.finestra.Form_Activate();
+    b.specchio.fuochi.clear();
+    b.finestra.Slider1_Change();
+    b.finestra.Slider1_Scroll();
+    b.finestra.mnuNormale_Click();
+    b.finestra.mnuAutomatico_Click();
+    EXPECT_EQ(b.specchio.fuochi, (Boxes{"Start", "Start", "Start"}));
+}
+
 TEST(Chiusura, BeforeTheFirstActivationIsOverOpensNoDevice) {
     BancoPrincipale b;
-    Evento e;
-    e.fatto = Fatto::Chiudi;
-    e.finestra = 1;  // the first showing of all
-    b.coda.Aggiungi(e);
+    AllaComparsa(b, Fatto::Chiudi, "CorvanaMainF");
     EXPECT_FALSE(b.Avvia());
     EXPECT_TRUE(b.uscita.aperture.empty());
 }

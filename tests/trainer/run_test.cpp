@@ -142,6 +142,18 @@ TEST(Risultati, ARunAcrossMidnightHasItsTime) {
     EXPECT_EQ(b.finestra.Tempoimp.Caption(), "1:30 mm:ss");
 }
 
+TEST(Risultati, ASecondRunHasATimeOfItsOwn) {
+    BancoCorsa b;
+    b.Tasto(4, 'H');
+    b.Clicca(3 + 100, "Start");
+    b.Quando(110, [&] { EXPECT_EQ(b.finestra.Tempoimp.Caption(), "1:40 mm:ss"); });
+    b.Clicca(200, "Start");
+    b.Tasto(201, 'H');
+    b.Clicca(207, "Start");
+    b.Vai(210);
+    EXPECT_EQ(b.finestra.Tempoimp.Caption(), "0:7 mm:ss");
+}
+
 TEST(Risultati, StandUntilTheNextRunBegins) {
     BancoCorsa b;
     b.Tasto(4, 'H');
