@@ -119,6 +119,13 @@ TEST(Carica, ANegativeInstrumentIsSentForTheSopranoAlone) {
     EXPECT_EQ(b.finestra.lblInstr[basso].Caption(), "-1-");
 }
 
+TEST(Carica, TheFirstInstrumentOfAllIsSentForALowerVoiceToo) {
+    BancoCarica b;
+    b.CaricaCon({{7, "basso;0"}});
+    EXPECT_EQ(b.Programmi(), (Programmi{{1, 16}, {2, 16}, {3, 16}, {4, 0}}));
+    EXPECT_EQ(b.finestra.lblInstr[basso].Caption(), "0-Acoustic Grand Piano");
+}
+
 TEST(Carica, Instrument127WithoutTheMetronomeIsTheShortForm) {
     BancoCarica b;
     b.CaricaCon({{5, " 127 "}});

@@ -121,6 +121,17 @@ TEST(SalvaConNome, ACancelledBoxSavesNothingAndLeavesTheMelodyWithoutAName) {
     }
 }
 
+TEST(SalvaConNome, ACancelledBoxIsNoYesToTheNameThatItProposed) {
+    BancoConNome b;
+    b.finestra.Fr2.Visible = true;
+    b.PonFile("a song", "another");
+    b.dialoghi.risposte = {true};
+    b.Rispondi(std::nullopt);
+    EXPECT_EQ(b.dialoghi.proposte, Boxes{"a song"});
+    EXPECT_EQ(b.melodia.nomeMelodia, "");
+    EXPECT_EQ(b.ContenutoFile("a song"), "another");
+}
+
 TEST(SalvaConNome, ANoToReplacingAMelodyWritesNothingAndTheNewNameStaysInForce) {
     BancoConNome b;
     b.PonFile("new", "another");

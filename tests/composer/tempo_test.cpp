@@ -5,6 +5,13 @@
 
 namespace corvana::prova {
 
+TEST(TempoComposer, TheSliderHas250AtItsTopAnd20AtItsBottom) {
+    BancoComposer b;
+    EXPECT_EQ(b.finestra.Slider1.Min(), 250);
+    EXPECT_EQ(b.finestra.Slider1.Max(), 20);
+    EXPECT_EQ(b.finestra.Slider1.Value(), 60);
+}
+
 TEST(TempoComposer, MovingTheSliderWithAnEmptySopranoChangesTheTempoButRaisesNoFlag) {
     BancoComposer b;
     b.Voce(soprano + 1, "60;", "1");

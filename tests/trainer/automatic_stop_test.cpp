@@ -149,8 +149,7 @@ TEST(FermataAutomatica, AStopAndAStartDeliveredTogetherLeaveOneRun) {
 
 TEST(FermataAutomatica, AStopANewModeAndAStartDeliveredTogetherLeaveANormalRun) {
     BancoFermata b;
-    b.Insieme(
-        4, {{Fatto::Click, "Start"}, {Fatto::Click, "mnuNormale"}, {Fatto::Click, "Start"}});
+    b.Insieme(4, {{Fatto::Click, "Start"}, {Fatto::Click, "mnuNormale"}, {Fatto::Click, "Start"}});
     b.Tasto(10, 'H');
     b.Vai(30);
     EXPECT_TRUE(b.finestra.InCorso);
