@@ -39,8 +39,13 @@ endfunction()
 #   servers   starts sound servers, whose clocks are their own: runs alone
 #   threads   has more than one thread
 function(corvana_add_test name)
-    add_test(NAME ${name} COMMAND test_${name} --gtest_brief=1)
-    set_tests_properties(${name} PROPERTIES TIMEOUT 300 LABELS "${ARGN}")
+    set(runs ${name})
+    if("servers" IN_LIST ARGN)
+        corvana_runs(runs ${name})
+    else()
+        add_test(NAME ${name} COMMAND test_${name} --gtest_brief=1)
+    endif()
+    set_tests_properties(${runs} PROPERTIES TIMEOUT 300 LABELS "${ARGN}")
     foreach(label IN LISTS ARGN)
         if(NOT TARGET tests_${label})
             add_custom_target(tests_${label})
@@ -48,8 +53,30 @@ function(corvana_add_test name)
         add_dependencies(tests_${label} test_${name})
     endforeach()
     if("servers" IN_LIST ARGN)
-        set_tests_properties(${name} PROPERTIES RUN_SERIAL TRUE)
+        set_tests_properties(${runs} PROPERTIES RUN_SERIAL TRUE)
     endif()
+endfunction()
+
+# corvana_runs(OUT NAME): each test of the program NAME runs in a process of its own, as the program
+# does. Audio libraries keep what they have for the whole process, and a thread that hangs in one of
+# them with a dead server, left behind by one test, would meddle with the next.
+function(corvana_runs out name)
+    get_target_property(sources test_${name} SOURCES)
+    set(runs "")
+    foreach(source IN LISTS sources)
+        cmake_path(ABSOLUTE_PATH source BASE_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR})
+        set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source})
+        file(STRINGS ${source} tests REGEX "^TEST(_F)?\\(")
+        foreach(test IN LISTS tests)
+            if(NOT test MATCHES "\\((.+), (.+)\\)")
+                message(FATAL_ERROR "${source}: one line for a test's name: ${test}")
+            endif()
+            add_test(NAME ${name}.${CMAKE_MATCH_2} COMMAND test_${name} --gtest_brief=1
+                     --gtest_filter=${CMAKE_MATCH_1}.${CMAKE_MATCH_2})
+            list(APPEND runs ${name}.${CMAKE_MATCH_2})
+        endforeach()
+    endforeach()
+    set(${out} "${runs}" PARENT_SCOPE)
 endfunction()
 
 # corvana_tests(NAME SOURCES... DEPENDS targets... [LABELS ...]): one test program.

@@ -31,7 +31,7 @@ protected:
     /// The device of the port that is called `nome`.
     static int Dispositivo(UsciteReali& uscite, const std::string& nome) {
         // A search that a busy machine holds up, the next one goes on with.
-        for (int ricerche = 0; ricerche < 40; ++ricerche) {
+        for (int ricerche = 0; ricerche < 120; ++ricerche) {
             const int quanti = uscite.midiOutGetNumDevs();
             for (int id = 0; id < quanti; ++id)
                 if (SiChiama(uscite, id, nome)) return id;
@@ -160,7 +160,6 @@ TEST_F(PorteVere, AServerThatDiesHoldsNothingUpAndOneThatComesBackIsFound) {
     EXPECT_EQ(ricevente.Arrivati().size(), 1U);
 }
 
-// The last of all: what it leaves behind hangs on until the process ends.
 TEST_F(PorteVere, AServerThatStopsHoldsUpNeitherTheLogicNorTheEnd) {
     AvviaServer();
     Ricevente("sintetizzatore");
