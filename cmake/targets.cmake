@@ -12,8 +12,8 @@ target_compile_options(corvana_strict INTERFACE -Wall -Wextra -Wpedantic -Wshado
 target_compile_options(corvana_strict INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 target_link_libraries(corvana_strict INTERFACE Threads::Threads)
 if(CMAKE_UNITY_BUILD)
-    # A file's private helpers meet the locals and the tests of its neighbours here; each file alone
-    # is held to both warnings by `scripts/lint alone`.
+    # A file's private helpers meet the locals and the tests of its neighbours here; `scripts/lint
+    # alone` holds each file to both warnings.
     target_compile_options(corvana_strict INTERFACE -Wno-shadow
                            $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
 endif()
