@@ -27,6 +27,11 @@ void Pompa::Riprendi(double istante) {
     istante_ = risveglio_ - istante > ritardoRecuperato ? risveglio_ : istante;
 }
 
+double Pompa::Raggiunto(double fino) const {
+    const bool interrotto = !coda_.Vuota() || coda_.FineChiesta();
+    return interrotto ? std::min(fino, orologio_.Adesso()) : fino;
+}
+
 bool Pompa::InChiusura() {
     if (!coda_.FineChiesta()) return false;
     coda_.SegnaFineVista();
@@ -49,8 +54,7 @@ void Pompa::AttendiEvento(double fino) {
     // Time never runs back, though the instant asked for may have passed.
     const double adesso = Adesso();
     orologio_.AspettaEvento(coda_, fino);
-    if (InChiusura()) return;
-    Riprendi(std::max(adesso, coda_.Vuota() ? fino : std::min(fino, orologio_.Adesso())));
+    Riprendi(std::max(adesso, Raggiunto(fino)));
     PompaEventi();
 }
 
@@ -58,8 +62,8 @@ void Pompa::Attendi(double secondi) {
     if (!(secondi > 0) || InChiusura()) return;
     const double fino = Adesso() + secondi;
     orologio_.AspettaFine(coda_, fino);
-    if (InChiusura()) return;
-    Riprendi(fino);
+    Riprendi(coda_.FineChiesta() ? Raggiunto(fino) : fino);
+    InChiusura();
 }
 
 void Pompa::Sleep(int ms) {

@@ -56,6 +56,8 @@ public:
 private:
     /// A wait has ended, on the logic's timeline at `istante`.
     void Riprendi(double istante);
+    /// How far a wait for an event, which was to last until `fino`, has come.
+    double Raggiunto(double fino) const;
 
     Orologio& orologio_;
     CodaEventi& coda_;

@@ -26,13 +26,18 @@ bool OrologioVirtuale::EseguiPasso(double fino) {
     return true;
 }
 
+double OrologioVirtuale::Risveglio(double fino) const {
+    return fino > adesso_ && ritardo_ ? fino + ritardo_() : fino;
+}
+
 void OrologioVirtuale::AspettaFino(double fino) {
-    if (fino > adesso_ && ritardo_) fino += ritardo_();
+    fino = Risveglio(fino);
     while (EseguiPasso(fino)) {}
     adesso_ = std::max(adesso_, fino);
 }
 
 void OrologioVirtuale::AspettaFine(CodaEventi& coda, double fino) {
+    fino = Risveglio(fino);
     while (!coda.FineChiesta() && EseguiPasso(fino)) {}
     if (!coda.FineChiesta()) adesso_ = std::max(adesso_, fino);
 }

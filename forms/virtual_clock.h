@@ -31,6 +31,8 @@ public:
     void AspettaEvento(CodaEventi& coda, double fino) override;
 
 private:
+    /// When a wait for the instant ends on this machine.
+    double Risveglio(double fino) const;
     /// Runs the next step when it is due by `fino`.
     bool EseguiPasso(double fino);
 

@@ -19,16 +19,13 @@ namespace corvana::prova {
 
 namespace {
 
-const Luoghi comuni = {"&File",     "MIDI Test ...",
-                       "MIDI Test", "Do,Re,Mi...",
-                       "C,D,E...",  "Help",
-                       "Start",     " Start / Stop ",
-                       "Stop",      "BPM",
-                       "Volume",    "Test",
-                       "Corvana",   "O K",
-                       "Off",       "x1",
-                       "a b c ...", "a",
-                       "b",         "c"};
+const Luoghi comuni = {"&File",     "&Help",       "MIDI Test ...",
+                       "MIDI Test", "Do,Re,Mi...", "C,D,E...",
+                       "Help",      "Start",       " Start / Stop ",
+                       "Stop",      "BPM",         "Volume",
+                       "Test",      "Corvana",     "O K",
+                       "Off",       "x1",          "a b c ...",
+                       "a",         "b",           "c"};
 /// The face doesn't show these as they stand: their names and keys are chosen apart.
 const Luoghi scelti = {"pdo", "pre", "pmi", "pfa", "psol", "pla", "psi", "lblAuto2"};
 
