@@ -15,11 +15,11 @@ struct BancoUscita : BancoComposer {
     }
     /// Runs until the window is gone; the end is asked for `dopo` seconds from now.
     void Esci(double dopo) {
-        const double t = pompa.Adesso() + dopo;
+        const double t = orologio.Adesso() + dopo;
         Quando(t, [this] { coda.ChiediFine(); });
         Fine(t + 1000);
         EXPECT_FALSE(Esegui([this] { finestre.Esegui(); }));
-        EXPECT_NEAR(pompa.Adesso(), t, 1e-9);
+        EXPECT_DOUBLE_EQ(orologio.Adesso(), t);
         EXPECT_TRUE(dialoghi.messaggi.empty());
         EXPECT_EQ(uscita.NoteAccese(), (std::vector<std::pair<int, int>>{}));
         EXPECT_FALSE(globali.ComposerAperto);

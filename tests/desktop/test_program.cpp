@@ -56,7 +56,8 @@ TEST(Applicazione, ASystemThatWantsItToQuitIsObeyedWhateverTheWindowsAnswer) {
         FormDiProva form(finestre, applicazione.Riquadri(), [](std::string) {});
         form.chiudibile = false;
         finestre.Mostra(form);
-        QCoreApplication::postEvent(qApp, new QEvent(QEvent::Quit));
+        // Qt forgets what was asked of it before its loop ran.
+        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
         finestre.Esegui();
     });
     EXPECT_EQ(esito, 0);
