@@ -1,4 +1,6 @@
 // What lies in front of what, and which window has the keyboard.
+#include <utility>
+
 #include "tests/screen/shared_screen.h"
 
 namespace corvana::prova {
@@ -45,12 +47,17 @@ TEST_F(Pila, MinimisedAndBroughtBackTheModalOneIsThereAgain) {
     Schermo& s = p.schermo;
     const xcb_window_t sequenza = p.ApriSequenza();
     ASSERT_NE(sequenza, 0U);
+    const Rettangolo ok = p.Dove("cmdOk", "frmConfMetro");
+    std::vector<std::uint8_t> visto;
+    ASSERT_TRUE(s.Aspetta([&] { return std::exchange(visto, s.Immagine(ok)) == s.Immagine(ok); }));
     s.Riduci(p.principale);
     ASSERT_TRUE(s.Aspetta([&] { return !s.SiVede(p.principale) && !s.SiVede(sequenza); }));
     s.Riapri(p.principale);
     ASSERT_TRUE(s.Aspetta([&] { return s.SiVede(p.principale) && s.SiVede(sequenza); }));
     EXPECT_TRUE(s.Sopra(sequenza, p.principale));
     ASSERT_EQ(p.AspettaFinestra("frmConfMetro"), sequenza);
+    // The window manager lays them upon each other a moment after it said so.
+    ASSERT_TRUE(s.Aspetta([&] { return s.Immagine(ok) == visto; }));
     p.Clicca("cmdOk", "frmConfMetro");
     EXPECT_TRUE(p.AspettaChiusa("frmConfMetro"));
 }
