@@ -88,7 +88,7 @@ TEST(Fermate, InTheMainWindowDuringADrillToo) {
         EXPECT_TRUE(fermate.contains(QLatin1String(nome))) << nome;
     EXPECT_FALSE(fermate.contains("cmdEscibg"));
     Clicca(s, "Start");
-    Aspetta([&] { return Trova(s, "frmRisultati").isVisible(); });
+    EXPECT_TRUE(Aspetta([&] { return !Trova(s, "pdo").isEnabled(); }));
 }
 
 TEST(Fermate, InTheWindowsAboveAllAreSeenNamedAndShowTheFocus) {
