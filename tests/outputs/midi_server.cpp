@@ -49,9 +49,11 @@ ServerMidi::~ServerMidi() {
 
 bool ServerMidi::Avvia() {
     ucciso_ = false;
+    // In step with its clients: otherwise what one of them is too late for, on a busy machine, is
+    // lost with its cycle.
     processo_ = std::make_unique<Processo>(
-        Processo::Avvio{{"jackd", "--no-realtime", "--no-mlock", "--name", nome_, "-d", "dummy",
-                         "-r", "48000", "-p", "1024"}});
+        Processo::Avvio{{"jackd", "--no-realtime", "--no-mlock", "--sync", "--timeout", "5000",
+                         "--name", nome_, "-d", "dummy", "-r", "48000", "-p", "1024"}});
     // Before its files are there it can't be asked.
     return AspettaInCartella(memoriaComune, *processo_,
                              [this] { return !Resti(nome_).empty() && Risponde(); });
