@@ -124,6 +124,36 @@ TEST(Pannello, X2WithSlider60Shows120AndBeatsEveryHalfSecond) {
         EXPECT_NEAR(pulsi[i].first, 6 + 0.5 * static_cast<double>(i + 1), 1e-9);
 }
 
+TEST(Pannello, ASecondClickOnTheMultiplierGoesBackToOne) {
+    BancoProgramma b;
+    b.globali.testi.TipX1 = "raddoppia";
+    b.Clicca(3, "mnuMetro");
+    b.Clicca(4, "lblX12");
+    b.Clicca(5, "lblX12");
+    b.Vai(6);
+    EXPECT_EQ(b.metronomo.lblX12.Caption(), "x1");
+    EXPECT_EQ(b.metronomo.lblX12.ToolTipText(), "raddoppia");
+    EXPECT_EQ(b.stato.MetroMolt, 1);
+    EXPECT_DOUBLE_EQ(b.stato.MetroBattito, 1);
+    EXPECT_EQ(b.metronomo.lblTempo.Caption(), "60");
+}
+
+TEST(Pannello, OpenedItGivesItsButtonTheFocus) {
+    BancoProgramma b;
+    b.Quando(2.9, [&] { b.specchio.fuochi.clear(); });
+    b.Clicca(3, "mnuMetro");
+    b.Vai(4);
+    EXPECT_EQ(b.specchio.fuochi, std::vector<std::string>{"cmdSSmetro"});
+}
+
+TEST(Pannello, TheVolumeBarOnItsWaySetsTheVelocityToo) {
+    BancoProgramma b;
+    b.Clicca(3, "mnuMetro");
+    b.Fa(4, Fatto::Scroll, "MetroVol", 70);
+    b.Vai(5);
+    EXPECT_EQ(b.stato.MetroVolume, 70);
+}
+
 TEST(Pannello, TheVolumeBarIsLoudAtItsTopAndSetsTheVelocity) {
     BancoProgramma b;
     EXPECT_EQ(b.metronomo.MetroVol.Min(), 127);

@@ -143,6 +143,18 @@ TEST(Pulsi, WhileItRunsTheMenusTheSetUpAndTheExitAreOff) {
     tutti(true);
 }
 
+TEST(Pulsi, ItsButtonHasTheColourOfAnAnswerWhileItRunsAndOfTheExitAtRest) {
+    BancoPulsi b;
+    const auto colore = [&] { return b.metronomo.cmdSSmetro.BackColor(); };
+    b.Quando(3.5, [&] { EXPECT_EQ(colore(), b.finestra.cmdEsci.BackColor()); });
+    b.Clicca(4, "cmdSSmetro");
+    b.Quando(4.5, [&] { EXPECT_EQ(colore(), b.finestra.pdo.BackColor()); });
+    b.Clicca(5.5, "cmdSSmetro");
+    b.Vai(7);
+    EXPECT_EQ(colore(), b.finestra.cmdEsci.BackColor());
+    EXPECT_NE(b.finestra.pdo.BackColor(), b.finestra.cmdEsci.BackColor());
+}
+
 TEST(Pulsi, WithNoDeviceItIsSilentAndDarkWithoutAWord) {
     BancoPulsi b;
     b.uscita.esitoOpen = 2;

@@ -15,6 +15,7 @@ TEST(Informazioni, TheMenuOpensARoundedPanelWithTitleYearAndVersion) {
         EXPECT_EQ(about.lblTitle.Caption(), "Corvana\r\n2026");
         EXPECT_EQ(about.lblVersion.Caption(), "Vers. 1.0.0 - edizione");
         EXPECT_EQ(about.Text2.Text(), "Chi siamo");
+        EXPECT_TRUE(about.Text2.Locked());
         EXPECT_EQ(about.Width(), 345 * 15);
         EXPECT_EQ(about.Height(), 240 * 15);
         EXPECT_EQ(about.stile, "arrotondata");

@@ -143,6 +143,7 @@ TEST(Strumenti, AnInstrumentThatTheListHasNotBecomesTheNearest) {
 
 TEST(Strumenti, TheButtonSinksUnderThePointerAndTurnsRed) {
     BancoStrumenti b;
+    b.Quando(3.9, [&] { EXPECT_EQ(b.Scelta().cmdEsci.ForeColor(), 0xFF0000); });
     b.Fa(4, Fatto::MouseMove, "cmdEsci");
     b.Quando(4.5, [&] {
         EXPECT_EQ(b.Scelta().cmdEsci.ForeColor(), 255);
