@@ -36,7 +36,7 @@ void Colonna(QImage& righe, int x, double alto, double basso, const QColor& colo
     const int fine = std::min(righe.height(), static_cast<int>(std::ceil(basso)));
     for (int y = std::max(0, static_cast<int>(std::floor(alto))); y < fine; ++y) {
         const double coperto = std::min(y + 1.0, basso) - std::max<double>(y, alto);
-        const int opaco = static_cast<int>(255 * coperto + 0.5);
+        const int opaco = static_cast<int>(std::lround(255 * coperto));
         reinterpret_cast<QRgb*>(righe.scanLine(y))[x] =
             qPremultiply(qRgba(colore.red(), colore.green(), colore.blue(), opaco));
     }

@@ -57,7 +57,7 @@ TEST(Applicazione, ASystemThatWantsItToQuitIsObeyedWhateverTheWindowsAnswer) {
         form.chiudibile = false;
         finestre.Mostra(form);
         // Qt forgets what was asked of it before its loop ran.
-        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);
         finestre.Esegui();
     });
     EXPECT_EQ(esito, 0);
