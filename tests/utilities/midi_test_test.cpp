@@ -100,6 +100,7 @@ TEST(ProvaMidi, APickedDeviceIsOpenedAfterTheOldOneIsClosedAndGetsTheProgram) {
     });
     b.Clicca(6, "cmdChiudi");
     b.Vai(7);
+    EXPECT_EQ(b.finestre.Davanti(), &b.finestra);
     EXPECT_NE(b.suono.HandleMidi, 0) << "it stays in use";
     EXPECT_EQ(b.uscita.aperture.back(), 1);
 }
