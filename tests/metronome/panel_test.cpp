@@ -32,6 +32,20 @@ TEST(Pannello, AtLoadItHasTheDefaultsAndTwoGreyLights) {
         EXPECT_EQ(luce.BackColor(), 0xAAAAAA);
 }
 
+TEST(Pannello, AtLoadWhatWasInForceBeforeGivesWayToTheDefaults) {
+    BancoProgramma b;
+    b.stato.MetroSequenza = "abcabc";
+    b.stato.MetroTempo = "9/8";
+    b.stato.MetroMolt = 2;
+    b.stato.MetroNotaC = 51;
+    b.Vai(2.5);
+    EXPECT_EQ(b.stato.MetroSequenza, "ab");
+    EXPECT_EQ(b.metronomo.lblTs.Caption(), "2/4");
+    EXPECT_DOUBLE_EQ(b.stato.MetroBattito, 1);
+    EXPECT_EQ(b.stato.MetroNotaC, 33);
+    EXPECT_EQ(LuciVisibili(b.metronomo), 2);
+}
+
 TEST(Pannello, IsPaintedFromBrownToSandAcross) {
     BancoProgramma b;
     b.Vai(2.5);
