@@ -6,12 +6,11 @@
 #include <limits>
 
 #include "forms/clock.h"
+#include "forms/granularity.h"
 
 namespace corvana {
 
 constexpr double perSempre = std::numeric_limits<double>::infinity();
-/// What a `Sleep` lasts beyond its milliseconds: the granularity that playback counts on.
-constexpr int granularitaSleep = 2;
 
 /// Thrown by every way to wait once the end of the program was asked for: it ends whatever loop
 /// waits. Nobody but `Finestre` catches it.

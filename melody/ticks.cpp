@@ -4,7 +4,7 @@
 #include <array>
 #include <cmath>
 
-#include "forms/pump.h"
+#include "forms/granularity.h"
 #include "melody/numbers.h"
 #include "melody/tokens.h"
 
