@@ -10,7 +10,7 @@
 
 #include "bench/figures.h"
 #include "desktop/application.h"
-#include "desktop/program.h"
+#include "desktop/logic.h"
 #include "forms/real_clock.h"
 #include "sound/recorder.h"
 #include "trainer/corvana_main.h"
@@ -126,7 +126,8 @@ int main(int argc, char** argv) {
     macchina.uscite = [&](const auto&) { return std::make_unique<UscitaCronometrata>(tavolo); };
     macchina.pronta = [&](CorvanaMainF& finestra) { tavolo.finestra = &finestra; };
     const Allievo allievo(tavolo);
-    const int esito = applicazione.Esegui([&] { EseguiProgramma(applicazione, macchina); });
+    const int esito =
+        applicazione.OspitaLogica([&] { LogicaDelProgramma(applicazione, macchina); });
     std::filesystem::remove_all(cartella);
     return esito;
 }

@@ -36,7 +36,7 @@ struct Banco {
     /// False when the window had to tell something.
     bool Salva() {
         palco.finestra.SalvaMelodia(nome);
-        return palco.dialoghi.messaggi.empty();
+        return palco.riquadri.messaggi.empty();
     }
 
     OrologioVirtuale orologio;

@@ -117,7 +117,7 @@ int main() {
     MisuraSalvataggio(banco);
     for (const long note : {1000L, noteMassime})
         MisuraInserimento(banco.palco, note);
-    for (const std::string& messaggio : banco.palco.dialoghi.messaggi)
+    for (const std::string& messaggio : banco.palco.riquadri.messaggi)
         std::printf("a message box: %s\n", messaggio.c_str());
-    return banco.palco.dialoghi.messaggi.empty() && !banco.byte.empty() ? 0 : 1;
+    return banco.palco.riquadri.messaggi.empty() && !banco.byte.empty() ? 0 : 1;
 }

@@ -4,8 +4,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "bench/evenness.h"
 #include "bench/figures.h"
-#include "bench/pulses.h"
 #include "bench/row.h"
 #include "forms/real_clock.h"
 #include "program/program.h"
@@ -13,7 +13,7 @@
 #include "sound/outputs/real_outputs.h"
 #include "tests/outputs/sound_server.h"
 #include "tests/support/memory_files.h"
-#include "tests/support/scripted_dialogs.h"
+#include "tests/support/scripted_boxes.h"
 
 namespace {
 
@@ -62,15 +62,15 @@ struct Banco {
     OrologioReale orologio;
     CodaEventi coda;
     Pompa pompa{orologio, coda};
-    prova::DialoghiDaCopione dialoghi;
-    Finestre finestre{pompa, dialoghi, nullptr};
+    prova::RiquadriDaCopione riquadri;
+    Finestre finestre{pompa, riquadri, nullptr};
     Spia uscita{[this] { return pompa.Adesso(); }};
-    Suono suono{uscita, pompa, dialoghi};
+    Suono suono{uscita, pompa, riquadri};
     prova::FileInMemoria file;
-    Impostazioni impostazioni{file, dialoghi, "/settings"};
+    Impostazioni impostazioni{file, riquadri, "/settings"};
     CasualeFisso casuale;
     Globali globali;
-    Programma programma{{globali, pompa, finestre, dialoghi, suono, impostazioni, file, casuale}};
+    Programma programma{{globali, pompa, finestre, riquadri, suono, impostazioni, file, casuale}};
 
     void Fai(const char* controllo, Fatto fatto, int valore = 0) {
         Evento evento;
@@ -93,7 +93,7 @@ void Misura(const prova::ServerSonoro& server, int tempo, double secondi, Intorn
     std::thread logica([&] {
         PreferisciPuntualita();
         puntuale = misura::Puntuale();
-        banco.programma.Esegui(false);
+        banco.programma.DaMainAllaFine(false);
     });
     constexpr double siglaFinita = 3;
     Dormi(siglaFinita);

@@ -105,7 +105,7 @@ void Suona(prova::PalcoMelodia& palco, OrologioMisurato& orologio, long tick,
     palco.finestra.cmdPlay_Click();
     misura::Stampa(titolo + ", by the clock", orologio.passati, "us");
     misura::Stampa(titolo + ", processor", orologio.lavorati, "us");
-    for (const std::string& messaggio : palco.dialoghi.messaggi)
+    for (const std::string& messaggio : palco.riquadri.messaggi)
         std::printf("a message box: %s\n", messaggio.c_str());
 }
 

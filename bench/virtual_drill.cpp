@@ -21,16 +21,16 @@ int main() {
     constexpr double ore = 100;
     prova::Banco banco;
     CasualeFisso casuale;
-    Ambiente ambiente{banco.globali, banco.pompa,        banco.finestre, banco.dialoghi,
+    Ambiente ambiente{banco.globali, banco.pompa,        banco.finestre, banco.riquadri,
                       banco.suono,   banco.impostazioni, banco.file,     casuale};
     CorvanaMainF finestra(ambiente, {});
     banco.Clicca(3, "mnuAutomatico");
     banco.Clicca(4, "Start");
     banco.Fine(ore * 3600);
     const double inizio = Secondi();
-    banco.Esegui([&] {
+    banco.SvolgiCopione([&] {
         Main(ambiente, false, [&] { banco.finestre.Mostra(finestra); });
-        banco.finestre.Esegui();
+        banco.finestre.FinoAllUltima();
     });
     const double durata = Secondi() - inizio;
     std::printf("%-52s %.0f hours a second (%d notes in %.2f s)\n",

@@ -103,7 +103,7 @@ void frmComposer::AzzeraEditing() {
 
 void frmComposer::Form_Unload(bool& Cancel) {
     const bool chiede = lblModificato.Visible() && !a_.finestre.InChiusura();
-    if (chiede && !a_.dialoghi.Domanda(a_.globali.testi.msgUscireSenzaSalvare)) {
+    if (chiede && !a_.riquadri.Domanda(a_.globali.testi.msgUscireSenzaSalvare)) {
         Cancel = true;
         return;
     }

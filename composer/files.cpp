@@ -40,7 +40,7 @@ void frmComposer::SalvaMelodia(const std::string& nome) {
         lblNome.Caption = "Salvato: " + nome;
         ListaFD();
     } catch (const Guasto& guasto) {
-        a_.dialoghi.MsgBox(TestoGuasto(guasto));
+        a_.riquadri.MsgBox(TestoGuasto(guasto));
     }
 }
 
@@ -59,12 +59,12 @@ void frmComposer::mnuSaveAs_Click() {
     melodia.nomeMelodia = ChiediNome(List1.Scelta());
     if (NomeRifiutato(melodia.nomeMelodia, rifiutatiMelodia)) {
         melodia.nomeMelodia = SenzaBlanchi(lblNome.Caption()).empty() ? "" : vecchio;
-        a_.dialoghi.MsgBox(a_.globali.testi.msgNomeMelodiaErrato);
+        a_.riquadri.MsgBox(a_.globali.testi.msgNomeMelodiaErrato);
         return;
     }
     const TestiLingua& testi = a_.globali.testi;
     if (a_.file.Esiste(Percorso(melodia.nomeMelodia)) &&
-        !a_.dialoghi.Domanda(testi.msgMelodiaEsiste + melodia.nomeMelodia + "\r\n" +
+        !a_.riquadri.Domanda(testi.msgMelodiaEsiste + melodia.nomeMelodia + "\r\n" +
                              testi.msgSostituirla))
         return;
     SalvaMelodia(melodia.nomeMelodia);
@@ -74,7 +74,7 @@ void frmComposer::mnuSaveAs_Click() {
 std::string frmComposer::ChiediNome(const std::string& proposta) {
     const TestiLingua& testi = a_.globali.testi;
     const auto risposta =
-        a_.dialoghi.InputBox(testi.prmNomeMelodia, testi.titSalvaConNome, proposta);
+        a_.riquadri.InputBox(testi.prmNomeMelodia, testi.titSalvaConNome, proposta);
     return std::string(SenzaBlanchi(risposta.value_or("")));
 }
 
@@ -84,7 +84,7 @@ void frmComposer::mnuSalvaA_Click() {
     if (melodia.nomeMelodia.empty()) return;
     if (NomeRifiutato(melodia.nomeMelodia, rifiutatiMelodia)) {
         melodia.nomeMelodia.clear();
-        a_.dialoghi.MsgBox(a_.globali.testi.msgNomeMelodiaErrato);
+        a_.riquadri.MsgBox(a_.globali.testi.msgNomeMelodiaErrato);
         return;
     }
     const std::string nomeFile = NomeFile(melodia.nomeMelodia);
@@ -98,7 +98,7 @@ void frmComposer::mnuSalvaA_Click() {
     }
     lblModificato.Visible = false;
     MousePointer = puntatoreNormale;
-    a_.dialoghi.MsgBox(nomeFile + "\r\n" + a_.globali.testi.msgSalvataSuA);
+    a_.riquadri.MsgBox(nomeFile + "\r\n" + a_.globali.testi.msgSalvataSuA);
 }
 
 void frmComposer::ScriviSulSupporto(const std::string& nomeFile) {
@@ -111,7 +111,7 @@ void frmComposer::MostraErroreSupporto(const Guasto& guasto) {
     std::string motivo = guasto.what();
     if (guasto.Numero() == guastoDiscoPieno) motivo = a_.globali.testi.msgDiscoPieno;
     if (guasto.Numero() == guastoDiscoNonPronto) motivo = a_.globali.testi.msgDiscoNonPronto;
-    a_.dialoghi.MsgBox("Errore: " + std::to_string(guasto.Numero()) + "\r\n\r\n" + motivo);
+    a_.riquadri.MsgBox("Errore: " + std::to_string(guasto.Numero()) + "\r\n\r\n" + motivo);
 }
 
 }  // namespace corvana

@@ -51,7 +51,7 @@ void frmComposer::CaricaMelodia(const std::string& nome) {
         PrendiAltreVoci();
         cmdPlay_Click();
     } catch (const Guasto& guasto) {
-        a_.dialoghi.MsgBox(TestoGuasto(guasto));
+        a_.riquadri.MsgBox(TestoGuasto(guasto));
     }
 }
 
@@ -93,7 +93,7 @@ bool frmComposer::PrendiSoprano(const std::string& tempo) {
     AggiornaVoce();
     const std::size_t elementi = voce.noteVoce.size();
     if (voce.durateVoce.size() != elementi || voce.attributiVoce.size() != elementi) {
-        a_.dialoghi.MsgBox(a_.globali.testi.msgFileDanneggiato);
+        a_.riquadri.MsgBox(a_.globali.testi.msgFileDanneggiato);
         return false;
     }
     LblNoteString.Caption = NomiFino(voce, voce.numeroNote);

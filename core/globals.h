@@ -93,7 +93,7 @@ struct Ambiente {
     Globali& globali;
     Pompa& pompa;
     Finestre& finestre;
-    Dialoghi& dialoghi;
+    Riquadri& riquadri;
     Suono& suono;
     Impostazioni& impostazioni;
     ArchivioFile& file;

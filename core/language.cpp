@@ -47,7 +47,7 @@ void UpdateString(const Ambiente& ambiente, Form& form) {
             ApplicaLinea(ambiente, linea, form);
         }
     } catch (const std::exception&) {
-        ambiente.dialoghi.MsgBox("Error Reading file!!!");
+        ambiente.riquadri.MsgBox("Error Reading file!!!");
     }
 }
 

@@ -97,7 +97,7 @@ void Impostazioni::Prepara() {
 
 /// What can't be put aside stays as it is, and will be told again.
 void Impostazioni::Ripara(const Voci& voci, const std::string& difetto) {
-    dialoghi_.MsgBox(difetto);
+    riquadri_.MsgBox(difetto);
     if (file_.Rinomina(percorso_, percorso_ + ".damaged") == 0) Salva(Intera(voci));
 }
 
@@ -106,7 +106,7 @@ std::string Impostazioni::LeggiValore(const std::string& nome) {
     const int errore = Apri(voci);
     const Letto letto =
         errore ? Letto{{}, TestoErrore("Error1 Opening key: ", errore)} : Estrai(voci, nome);
-    if (!letto.difetto.empty()) dialoghi_.MsgBox(letto.difetto);
+    if (!letto.difetto.empty()) riquadri_.MsgBox(letto.difetto);
     return letto.valore;
 }
 

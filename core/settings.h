@@ -7,15 +7,15 @@
 #include <vector>
 
 #include "core/files.h"
-#include "forms/dialogs.h"
+#include "forms/boxes.h"
 
 namespace corvana {
 
 class Impostazioni {
 public:
     /// `percorso` is the store's file.
-    Impostazioni(ArchivioFile& file, Dialoghi& dialoghi, std::string percorso)
-        : file_(file), dialoghi_(dialoghi), percorso_(std::move(percorso)) {}
+    Impostazioni(ArchivioFile& file, Riquadri& riquadri, std::string percorso)
+        : file_(file), riquadri_(riquadri), percorso_(std::move(percorso)) {}
 
     /// Makes the store with its four values, empty, when there is none: the program's start calls
     /// it before anything is read, so that a newcomer meets no error box. A store that is damaged,
@@ -38,7 +38,7 @@ private:
     void Ripara(const Voci& voci, const std::string& difetto);
 
     ArchivioFile& file_;
-    Dialoghi& dialoghi_;
+    Riquadri& riquadri_;
     std::string percorso_;
 };
 

@@ -5,7 +5,7 @@ namespace corvana {
 bool Main(const Ambiente& ambiente, bool altraIstanza,
           const std::function<void()>& mostraPrincipale) {
     if (altraIstanza) {
-        ambiente.dialoghi.MsgBox("The program is already running !!!");
+        ambiente.riquadri.MsgBox("The program is already running !!!");
         return false;
     }
     const bool inglese = ambiente.impostazioni.LeggiValore("Language") == "en";

@@ -80,7 +80,7 @@ Specchio& Applicazione::Schermo() {
     return interno_->scrivania.Schermo();
 }
 
-Dialoghi& Applicazione::Riquadri() {
+corvana::Riquadri& Applicazione::Riquadri() {
     return interno_->scrivania.Riquadri();
 }
 
@@ -88,7 +88,7 @@ Scrivania& Applicazione::LaScrivania() {
     return interno_->scrivania;
 }
 
-int Applicazione::Esegui(std::function<void()> logica) {
+int Applicazione::OspitaLogica(std::function<void()> logica) {
     const Segnali segnali;
     QSocketNotifier campanello(segnali.Campanello().Presa(), QSocketNotifier::Read);
     QObject::connect(&campanello, &QSocketNotifier::activated, &campanello, [&] {
@@ -97,7 +97,7 @@ int Applicazione::Esegui(std::function<void()> logica) {
     });
     const Congedo congedo([this] { interno_->Finisci(); });
     const FineImprovvisa fine([this] { interno_->FinisciAlBuio(); });
-    return interno_->scrivania.Esegui(std::move(logica));
+    return interno_->scrivania.OspitaLogica(std::move(logica));
 }
 
 }  // namespace corvana

@@ -5,7 +5,7 @@
 #include <functional>
 #include <memory>
 
-#include "forms/dialogs.h"
+#include "forms/boxes.h"
 #include "forms/event_queue.h"
 #include "forms/mirror.h"
 
@@ -26,7 +26,7 @@ public:
     /// What shows the logic's forms; for the logic thread.
     Specchio& Schermo();
     /// The boxes that the logic waits for; for the logic thread.
-    Dialoghi& Riquadri();
+    corvana::Riquadri& Riquadri();
 
     /// The real windows.
     Scrivania& LaScrivania();
@@ -37,7 +37,7 @@ public:
     /// note of it, since it computes without an end, is given up after the better part of a second,
     /// together with the process. Returns the exit code of the process: 1 when `logica` ended by an
     /// exception, whose text goes to the error stream.
-    int Esegui(std::function<void()> logica);
+    int OspitaLogica(std::function<void()> logica);
 
 private:
     struct Interno;

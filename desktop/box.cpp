@@ -16,47 +16,48 @@ namespace {
 
 QDialog* CreaMessaggio(const ApriRiquadro& richiesta, QWidget* sopra) {
     const bool domanda = richiesta.genere == GenereRiquadro::Domanda;
-    auto* box = new QMessageBox(sopra);
-    box->setTextFormat(Qt::PlainText);
-    box->setText(InQt(richiesta.testo));
+    auto* riquadro = new QMessageBox(sopra);
+    riquadro->setTextFormat(Qt::PlainText);
+    riquadro->setText(InQt(richiesta.testo));
     const QString segno = domanda ? QStringLiteral("domanda") : QStringLiteral("messaggio");
     constexpr int lato = 48;
-    box->setIconPixmap(
-        IconaDelProgramma(segno).pixmap(QSize(lato, lato), box->devicePixelRatioF()));
-    box->setStandardButtons(domanda ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
-    if (domanda) box->setEscapeButton(QMessageBox::No);
-    return box;
+    riquadro->setIconPixmap(
+        IconaDelProgramma(segno).pixmap(QSize(lato, lato), riquadro->devicePixelRatioF()));
+    riquadro->setStandardButtons(domanda ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+    if (domanda) riquadro->setEscapeButton(QMessageBox::No);
+    return riquadro;
 }
 
 QDialog* CreaImmissione(const ApriRiquadro& richiesta, QWidget* sopra) {
-    auto* box = new QInputDialog(sopra);
-    box->setInputMode(QInputDialog::TextInput);
-    box->setLabelText(InQt(richiesta.testo));
-    box->setTextValue(InQt(richiesta.proposta));
-    return box;
+    auto* riquadro = new QInputDialog(sopra);
+    riquadro->setInputMode(QInputDialog::TextInput);
+    riquadro->setLabelText(InQt(richiesta.testo));
+    riquadro->setTextValue(InQt(richiesta.proposta));
+    return riquadro;
 }
 
-Risposta RispostaDiDialogo(const QDialog& box, int esito) {
-    if (const auto* immissione = qobject_cast<const QInputDialog*>(&box))
+Risposta RispostaDi(const QDialog& riquadro, int esito) {
+    if (const auto* immissione = qobject_cast<const QInputDialog*>(&riquadro))
         return {esito == QDialog::Accepted, immissione->textValue().toStdString()};
     return {esito == QMessageBox::Yes || esito == QMessageBox::Ok, {}};
 }
 
 }  // namespace
 
-QDialog* ApriDialogo(const ApriRiquadro& richiesta, QWidget* sopra,
-                     const std::function<void(Risposta)>& risposta) {
+QDialog* MostraRiquadro(const ApriRiquadro& richiesta, QWidget* sopra,
+                        const std::function<void(Risposta)>& risposta) {
     const bool immissione = richiesta.genere == GenereRiquadro::Immissione;
-    QDialog* box = immissione ? CreaImmissione(richiesta, sopra) : CreaMessaggio(richiesta, sopra);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowRole(QStringLiteral("riquadro"));
-    box->setWindowTitle(richiesta.titolo.empty() ? QString::fromLatin1(nomeProgramma)
-                                                 : InQt(richiesta.titolo));
-    QObject::connect(box, &QDialog::finished, box,
-                     [box, risposta](int esito) { risposta(RispostaDiDialogo(*box, esito)); });
+    QDialog* riquadro =
+        immissione ? CreaImmissione(richiesta, sopra) : CreaMessaggio(richiesta, sopra);
+    riquadro->setAttribute(Qt::WA_DeleteOnClose);
+    riquadro->setWindowRole(QStringLiteral("riquadro"));
+    riquadro->setWindowTitle(richiesta.titolo.empty() ? QString::fromLatin1(nomeProgramma)
+                                                      : InQt(richiesta.titolo));
+    QObject::connect(riquadro, &QDialog::finished, riquadro,
+                     [riquadro, risposta](int esito) { risposta(RispostaDi(*riquadro, esito)); });
     // It blocks the window that it belongs to and what that belongs to, but not the help.
-    box->open();
-    return box;
+    riquadro->open();
+    return riquadro;
 }
 
 }  // namespace corvana

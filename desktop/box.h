@@ -11,7 +11,7 @@ namespace corvana {
 
 /// Opens the box over `sopra`, or alone when that is null. It deletes itself when it has been
 /// answered, after it told the answer.
-QDialog* ApriDialogo(const ApriRiquadro& richiesta, QWidget* sopra,
-                     const std::function<void(Risposta)>& risposta);
+QDialog* MostraRiquadro(const ApriRiquadro& richiesta, QWidget* sopra,
+                        const std::function<void(Risposta)>& risposta);
 
 }  // namespace corvana

@@ -46,7 +46,7 @@ void Scrivania::Avvia(std::function<void()> logica) {
     });
 }
 
-int Scrivania::Esegui(std::function<void()> logica) {
+int Scrivania::OspitaLogica(std::function<void()> logica) {
     Avvia(std::move(logica));
     Attendi();
     finestre_.clear();
@@ -97,10 +97,10 @@ VistaFinestra* Scrivania::Cerca(std::uint32_t identita) {
 
 void Scrivania::Ritira() {
     for (Comando& comando : cassetta_.Prendi())
-        Esegui(comando);
+        Smista(comando);
 }
 
-void Scrivania::Esegui(Comando& comando) {
+void Scrivania::Smista(Comando& comando) {
     std::visit([this](const auto& scelto) { Fai(scelto); }, comando);
 }
 
@@ -139,7 +139,7 @@ void Scrivania::Fai(const MostraAiuto& comando) {
 void Scrivania::Fai(const ApriRiquadro& comando) {
     if (coda_.FineChiesta()) return;
     QWidget* sopra = finestre_.empty() ? nullptr : &finestre_.back()->Finestra();
-    riquadro_ = ApriDialogo(comando, sopra, [this, numero = comando.numero](Risposta risposta) {
+    riquadro_ = MostraRiquadro(comando, sopra, [this, numero = comando.numero](Risposta risposta) {
         specchio_.Rispondi(numero, std::move(risposta));
     });
 }

@@ -30,7 +30,7 @@ public:
 
     CodaEventi& Coda() { return coda_; }
     Specchio& Schermo() { return specchio_; }
-    Dialoghi& Riquadri() { return specchio_; }
+    corvana::Riquadri& Riquadri() { return specchio_; }
 
     /// Starts the logic; its windows appear as the Qt loop runs. Once only.
     void Avvia(std::function<void()> logica);
@@ -38,7 +38,7 @@ public:
     bool Finita() const { return finita_; }
     /// Starts the logic and runs the Qt loop until it has returned. Returns 1 when the logic ended
     /// by an exception, else 0.
-    int Esegui(std::function<void()> logica);
+    int OspitaLogica(std::function<void()> logica);
     /// Tells the logic that the program ends, and answers No to the box that is open and to all
     /// that would follow. The logic unwinds, closes its windows and returns; nobody is asked.
     void ChiediFine();
@@ -57,7 +57,7 @@ public:
 
 private:
     void Ritira();
-    void Esegui(Comando& comando);
+    void Smista(Comando& comando);
     void Fai(const MostraFinestra& comando);
     void Fai(const CambiaProprieta& comando);
     void Fai(const DaiFuoco& comando);

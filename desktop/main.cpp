@@ -6,7 +6,7 @@
 #include "core/folders.h"
 #include "core/real_files.h"
 #include "desktop/application.h"
-#include "desktop/program.h"
+#include "desktop/logic.h"
 #include "realtime/punctuality.h"
 #include "sound/outputs/real_outputs.h"
 
@@ -43,5 +43,5 @@ Macchina QuestaMacchina() {
 int main(int argc, char** argv) {
     Applicazione applicazione(argc, argv);
     const Macchina macchina = QuestaMacchina();
-    return applicazione.Esegui([&] { EseguiProgramma(applicazione, macchina); });
+    return applicazione.OspitaLogica([&] { LogicaDelProgramma(applicazione, macchina); });
 }

@@ -1,5 +1,5 @@
 // The logic's side of the desktop: what it is told becomes commands in the mailbox. The calls of
-// `Specchio` and `Dialoghi` are for the logic thread, the answers for the GUI thread. No Qt.
+// `Specchio` and `Riquadri` are for the logic thread, the answers for the GUI thread. No Qt.
 #pragma once
 
 #include <condition_variable>
@@ -8,7 +8,7 @@
 #include <string>
 
 #include "desktop/mailbox.h"
-#include "forms/dialogs.h"
+#include "forms/boxes.h"
 #include "forms/mirror.h"
 
 namespace corvana {
@@ -19,7 +19,7 @@ struct Risposta {
     std::string testo = {};
 };
 
-class SpecchioRemoto final : public Specchio, public Dialoghi {
+class SpecchioRemoto final : public Specchio, public Riquadri {
 public:
     explicit SpecchioRemoto(Cassetta& cassetta) : cassetta_(cassetta) {}
 

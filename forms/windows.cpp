@@ -22,8 +22,8 @@ Controllo* Destinatario(const std::vector<Form*>& aperte, const Evento& evento) 
 
 }  // namespace
 
-Finestre::Finestre(Pompa& pompa, Dialoghi& dialoghi, Specchio* specchio)
-    : pompa_(pompa), dialoghi_(dialoghi), specchio_(specchio) {
+Finestre::Finestre(Pompa& pompa, Riquadri& riquadri, Specchio* specchio)
+    : pompa_(pompa), riquadri_(riquadri), specchio_(specchio) {
     pompa_.PonConsegna([this](const Evento& evento) { Consegna(evento); });
 }
 
@@ -86,7 +86,7 @@ void Finestre::Congeda(Form& form) {
     pompa_.PonCongedo(false);
 }
 
-void Finestre::Esegui(const std::function<void()>& inizio) {
+void Finestre::FinoAllUltima(const std::function<void()>& inizio) {
     try {
         if (inizio) inizio();
         while (!aperte_.empty())
@@ -122,9 +122,9 @@ void Finestre::Riferisci(Form& form, Controllo& controllo, const Evento& evento)
     try {
         Smista(form, controllo, evento);
     } catch (const Guasto& guasto) {
-        dialoghi_.MsgBox(TestoGuasto(guasto));
+        riquadri_.MsgBox(TestoGuasto(guasto));
     } catch (const std::exception& errore) {
-        dialoghi_.MsgBox(TestoGuasto(Guasto(guastoInterno, errore.what())));
+        riquadri_.MsgBox(TestoGuasto(Guasto(guastoInterno, errore.what())));
     }
 }
 

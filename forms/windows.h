@@ -6,7 +6,7 @@
 #include <functional>
 #include <vector>
 
-#include "forms/dialogs.h"
+#include "forms/boxes.h"
 #include "forms/form.h"
 #include "forms/keys.h"
 #include "forms/pump.h"
@@ -16,7 +16,7 @@ namespace corvana {
 class Finestre {
 public:
     /// `specchio` may be null: then nobody sees the windows.
-    Finestre(Pompa& pompa, Dialoghi& dialoghi, Specchio* specchio);
+    Finestre(Pompa& pompa, Riquadri& riquadri, Specchio* specchio);
     Finestre(const Finestre&) = delete;
     Finestre& operator=(const Finestre&) = delete;
 
@@ -30,7 +30,7 @@ public:
     /// Does `inizio`, which opens the first window, and delivers events until the last one is gone.
     /// When the end of the program is asked for, all that runs is unwound, and the windows are
     /// unloaded, from the one in front to the one at the back, whatever they answer.
-    void Esegui(const std::function<void()>& inizio = {});
+    void FinoAllUltima(const std::function<void()>& inizio = {});
     /// The windows close because the program ends, and nobody is asked any more.
     bool InChiusura() const { return inChiusura_; }
 
@@ -59,7 +59,7 @@ private:
     void TastoGiu(Form& form, const Evento& tasto) const;
 
     Pompa& pompa_;
-    Dialoghi& dialoghi_;
+    Riquadri& riquadri_;
     Specchio* specchio_;
     std::function<void(const Form&)> aiuto_;
     TastiPremuti tasti_;

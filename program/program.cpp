@@ -33,8 +33,9 @@ Secondarie Programma::Apri() {
     return s;
 }
 
-void Programma::Esegui(bool altraIstanza) {
-    a_.finestre.Esegui([&] { Main(a_, altraIstanza, [this] { a_.finestre.Mostra(principale); }); });
+void Programma::DaMainAllaFine(bool altraIstanza) {
+    a_.finestre.FinoAllUltima(
+        [&] { Main(a_, altraIstanza, [this] { a_.finestre.Mostra(principale); }); });
     // The main window does it, unless it was made to go.
     a_.suono.ChiudiMidi();
 }

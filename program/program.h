@@ -15,7 +15,7 @@ public:
 
     /// The process from its start to the closing of the last window. `altraIstanza`: another copy
     /// of the program runs.
-    void Esegui(bool altraIstanza);
+    void DaMainAllaFine(bool altraIstanza);
 
 private:
     /// `aiuto` is the window's page of the help, 0 for its first one.

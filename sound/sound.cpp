@@ -65,7 +65,7 @@ void Suono::CambiaStrumento(std::int32_t programma, std::int32_t canaleIndice) {
 }
 
 void Suono::ErroreMidi(const std::string& operazione, std::int16_t codice) {
-    dialoghi_.MsgBox("Operation:" + operazione + "\r\n" +
+    riquadri_.MsgBox("Operation:" + operazione + "\r\n" +
                      piattaforma_.midiOutGetErrorTextA(codice));
 }
 

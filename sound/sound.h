@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-#include "forms/dialogs.h"
+#include "forms/boxes.h"
 #include "forms/pump.h"
 #include "sound/platform_midi.h"
 
@@ -34,8 +34,8 @@ public:
 
 class Suono {
 public:
-    Suono(PiattaformaMidi& piattaforma, Pompa& pompa, Dialoghi& dialoghi)
-        : piattaforma_(piattaforma), pompa_(pompa), dialoghi_(dialoghi) {}
+    Suono(PiattaformaMidi& piattaforma, Pompa& pompa, Riquadri& riquadri)
+        : piattaforma_(piattaforma), pompa_(pompa), riquadri_(riquadri) {}
 
     HandleDispositivo HandleMidi = 0;  ///< 0 when no device is open
     std::int16_t UltimaNota = 0;       ///< index or low code last started by `SuonaNota`
@@ -81,7 +81,7 @@ private:
 
     PiattaformaMidi& piattaforma_;
     Pompa& pompa_;
-    Dialoghi& dialoghi_;
+    Riquadri& riquadri_;
     DomandaIntonazione* domanda_ = nullptr;
 };
 

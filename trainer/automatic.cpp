@@ -1,7 +1,7 @@
 // The two modes, and the automatic one's loop: notes change by the clock.
 #include "forms/keys.h"
+#include "trainer/answer_keys.h"
 #include "trainer/corvana_main.h"
-#include "trainer/keys.h"
 
 namespace corvana {
 

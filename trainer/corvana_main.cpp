@@ -93,7 +93,7 @@ void CorvanaMainF::ApriSuono() {
     a_.suono.SuonaSigla(canaleSigla);
     if (a_.suono.Udibile()) return;
     const std::string& avviso = a_.globali.testi.msgSenzaSuono;
-    a_.dialoghi.MsgBox(avviso.empty() ? avvisoSenzaSuono : avviso);
+    a_.riquadri.MsgBox(avviso.empty() ? avvisoSenzaSuono : avviso);
 }
 
 void CorvanaMainF::AbilitaComandi(bool abilita) {

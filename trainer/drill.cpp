@@ -4,8 +4,8 @@
 
 #include "core/effects.h"
 #include "core/text.h"
+#include "trainer/answer_keys.h"
 #include "trainer/corvana_main.h"
-#include "trainer/keys.h"
 
 namespace corvana {
 

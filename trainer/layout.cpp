@@ -2,7 +2,7 @@
 #include <array>
 
 #include "trainer/corvana_main.h"
-#include "trainer/ranges.h"
+#include "trainer/exercises.h"
 
 namespace corvana {
 

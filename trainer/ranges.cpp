@@ -1,9 +1,8 @@
-#include "trainer/ranges.h"
-
 #include <algorithm>
 
 #include "forms/fault.h"
 #include "trainer/corvana_main.h"
+#include "trainer/exercises.h"
 #include "trainer/state.h"
 
 namespace corvana {
@@ -84,7 +83,7 @@ void CorvanaMainF::RipristinaStato() {
     try {
         Riprendi(a_.impostazioni.LeggiValore("CorvanaLastS"));
     } catch (const Guasto& guasto) {
-        a_.dialoghi.MsgBox(TestoGuasto(guasto));
+        a_.riquadri.MsgBox(TestoGuasto(guasto));
     }
     SelezionaRigaDiPartenza();
 }

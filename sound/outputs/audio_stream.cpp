@@ -97,7 +97,7 @@ class FlussoAudio::Custode {
 public:
     explicit Custode(std::shared_ptr<Stato> stato) : stato_(std::move(stato)) {}
 
-    void Esegui() {
+    void Sorveglia() {
         PreparaLibrerie();
         do {
             Comincia();
@@ -233,7 +233,7 @@ bool FlussoAudio::Custode::FinitoEntroIlProssimo() {
 FlussoAudio::FlussoAudio(std::shared_ptr<MotoreSonoro> motore,
                          const ImpostazioniUscite& impostazioni)
     : stato_(std::make_shared<Stato>(std::move(motore), impostazioni)),
-      filo_([stato = stato_] { Custode(stato).Esegui(); }, pazienza) {}
+      filo_([stato = stato_] { Custode(stato).Sorveglia(); }, pazienza) {}
 
 FlussoAudio::~FlussoAudio() {
     const std::lock_guard guardia(stato_->blocco);

@@ -69,7 +69,7 @@ bool Mescolatore::Rendi(float* stereo, int frame, double istante, double perSeco
 
 void Mescolatore::Sintetizza(float* stereo, int frame, const Riferimento& riferimento) {
     for (int posizione = 0; posizione < frame;) {
-        EseguiDovuti(posizione, riferimento);
+        ApplicaDovuti(posizione, riferimento);
         if (!Quieto() && resto_ == 0) RendiBlocco();
         const int tratto = Tratto(posizione, frame, riferimento);
         float* inizio = stereo + 2 * posizione;
@@ -79,12 +79,12 @@ void Mescolatore::Sintetizza(float* stereo, int frame, const Riferimento& riferi
     }
 }
 
-void Mescolatore::EseguiDovuti(int posizione, const Riferimento& riferimento) {
+void Mescolatore::ApplicaDovuti(int posizione, const Riferimento& riferimento) {
     if (Quieto()) resto_ = 0;
     while (const MessaggioDatato* messaggio = coda_.Primo()) {
         if (riferimento.Frame(messaggio->istante) > posizione) return;
         if (resto_ > 0 && !messaggio->azzera) return;
-        Esegui(*messaggio);
+        Applica(*messaggio);
         coda_.Togli();
     }
 }
@@ -103,7 +103,7 @@ bool Mescolatore::Quieto() const {
     return bloccoQuieto_ && (!synth_ || synth_->Voci() == 0);
 }
 
-void Mescolatore::Esegui(const MessaggioDatato& messaggio) {
+void Mescolatore::Applica(const MessaggioDatato& messaggio) {
     if (!synth_) return;
     if (messaggio.azzera) {
         if (!Quieto()) Sfuma();

@@ -59,11 +59,11 @@ private:
 
     void Sintetizza(float* stereo, int frame, const Riferimento& riferimento);
     /// Executes what is due at `posizione`; a message within a sounding block waits for its end.
-    void EseguiDovuti(int posizione, const Riferimento& riferimento);
+    void ApplicaDovuti(int posizione, const Riferimento& riferimento);
     /// How many frames may be rendered from `posizione` before the next message has its say.
     int Tratto(int posizione, int frame, const Riferimento& riferimento) const;
     bool Quieto() const;
-    void Esegui(const MessaggioDatato& messaggio);
+    void Applica(const MessaggioDatato& messaggio);
     void RendiBlocco();
     /// Adds frames of the rendered block, as many as it has left at most.
     void SuonaBlocco(float* stereo, int frame);

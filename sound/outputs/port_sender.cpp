@@ -47,14 +47,14 @@ struct MittentePorta::Stato {
 
 MittentePorta::MittentePorta(AperturaPorta apertura)
     : stato_(std::make_shared<Stato>()),
-      filo_([stato = stato_, apertura = std::move(apertura)] { Esegui(*stato, apertura); },
+      filo_([stato = stato_, apertura = std::move(apertura)] { ApriESpedisci(*stato, apertura); },
             pazienzaConLaPorta) {}
 
 MittentePorta::~MittentePorta() {
     Chiudi();
 }
 
-void MittentePorta::Esegui(Stato& stato, const AperturaPorta& apertura) {
+void MittentePorta::ApriESpedisci(Stato& stato, const AperturaPorta& apertura) {
     std::unique_ptr<PortaUscita> porta = apertura();
     stato.Passa(porta ? Stato::Fase::Aperta : Stato::Fase::Persa);
     while (const auto messaggio = stato.coda.Prendi()) {

@@ -33,7 +33,7 @@ public:
 
 private:
     struct Stato;
-    static void Esegui(Stato& stato, const AperturaPorta& apertura);
+    static void ApriESpedisci(Stato& stato, const AperturaPorta& apertura);
 
     std::shared_ptr<Stato> stato_;
     FiloAbbandonabile filo_;

@@ -76,7 +76,7 @@ void SuonatoreDistratto::Apri() {
     PonFile();
     b.finestra.mnuApri_Click();
     b.Quando(Pausa(), [this] { Passo(); });
-    b.Esegui([&] {
+    b.SvolgiCopione([&] {
         while (b.finestre.Davanti() && guasto.empty()) {
             b.pompa.AttendiEvento(perSempre);
             ControllaFermo();
@@ -133,8 +133,8 @@ void SuonatoreDistratto::Passo() {
 void SuonatoreDistratto::Agisci() {
     --rimasti_;
     if (Capita(3)) Inceppa();
-    banco_->dialoghi.risposte = {Capita(500)};
-    banco_->dialoghi.testi = {Capita(800) ? "melody" + std::to_string(Tra(0, quantiFile)) : "?"};
+    banco_->riquadri.risposte = {Capita(500)};
+    banco_->riquadri.testi = {Capita(800) ? "melody" + std::to_string(Tra(0, quantiFile)) : "?"};
     if (!banco_->finestre.Davanti()) return;
     const auto [controllo, evento] = Gesto();
     Evento e = banco_->Fatta(evento, controllo);
@@ -177,9 +177,9 @@ void SuonatoreDistratto::Controlla() {
     Esigi(f.Cursore.Left() >= sinistraRigaCur && f.Cursore.Left() <= sinistraRigaCur + corsaCursore,
           "the cursor is off its line");
     Esigi(f.melodia.tempo >= tempoMinimo && f.melodia.tempo <= tempoMassimo, "the tempo is odd");
-    for (const std::string& testo : banco_->dialoghi.messaggi)
+    for (const std::string& testo : banco_->riquadri.messaggi)
         Esigi(!testo.starts_with("51"), "a box: " + testo);
-    banco_->dialoghi.messaggi.clear();
+    banco_->riquadri.messaggi.clear();
     // A long run makes millions of them.
     if (!f.inEsecuzione && banco_->uscita.NoteAccese().empty()) banco_->uscita.messaggi.clear();
 }

@@ -7,7 +7,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Boxes = std::vector<std::string>;
+using Messaggi = std::vector<std::string>;
 
 constexpr std::int32_t programmaViolino = 40;
 
@@ -29,7 +29,7 @@ TEST(ChiusuraComposer, AnUnmodifiedMelodyClosesWithoutAQuestionAndTheFolderIsKep
     b.globali.hover.HoverNome = "toolbutton1";
     b.uscita.messaggi.clear();
     EXPECT_TRUE(b.finestre.Scarica(b.finestra));
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_EQ(b.impostazioni.LeggiValore("LastDir"), "/home/mine/");
     EXPECT_EQ(b.Programmi(), (std::vector<std::pair<int, int>>{{1, programmaViolino}}));
     EXPECT_FALSE(b.globali.ComposerAperto);
@@ -38,9 +38,9 @@ TEST(ChiusuraComposer, AnUnmodifiedMelodyClosesWithoutAQuestionAndTheFolderIsKep
 
 TEST(ChiusuraComposer, ANoKeepsAModifiedMelodyOpenAndChangesNothing) {
     BancoModificato b;
-    b.dialoghi.risposte = {false};
+    b.riquadri.risposte = {false};
     EXPECT_FALSE(b.finestre.Scarica(b.finestra));
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"uscire?"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"uscire?"});
     EXPECT_EQ(b.impostazioni.LeggiValore("LastDir"), "");
     EXPECT_TRUE(b.uscita.messaggi.empty());
     EXPECT_TRUE(b.globali.ComposerAperto);
@@ -49,9 +49,9 @@ TEST(ChiusuraComposer, ANoKeepsAModifiedMelodyOpenAndChangesNothing) {
 
 TEST(ChiusuraComposer, AYesLetsAModifiedMelodyGo) {
     BancoModificato b;
-    b.dialoghi.risposte = {true};
+    b.riquadri.risposte = {true};
     EXPECT_TRUE(b.finestre.Scarica(b.finestra));
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"uscire?"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"uscire?"});
     EXPECT_FALSE(b.globali.ComposerAperto);
 }
 
@@ -60,7 +60,7 @@ TEST(ChiusuraComposer, WhileAMelodyPlaysTheWindowStaysWithoutAWord) {
     b.Voce(soprano, "60;62;", "1");
     b.NelTick(3, [&] { EXPECT_FALSE(b.finestre.Scarica(b.finestra)); });
     b.Suona();
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_TRUE(b.globali.ComposerAperto);
     EXPECT_EQ(b.TickPassati(), 64);
     EXPECT_TRUE(b.finestre.Scarica(b.finestra));
@@ -68,10 +68,10 @@ TEST(ChiusuraComposer, WhileAMelodyPlaysTheWindowStaysWithoutAWord) {
 
 TEST(ChiusuraComposer, AYesDuringAPlayDoesntCloseTheWindowEither) {
     BancoModificato b;
-    b.dialoghi.risposte = {true};
+    b.riquadri.risposte = {true};
     b.NelTick(3, [&] { EXPECT_FALSE(b.finestre.Scarica(b.finestra)); });
     b.Suona();
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"uscire?"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"uscire?"});
     EXPECT_EQ(b.impostazioni.LeggiValore("LastDir"), "");
 }
 

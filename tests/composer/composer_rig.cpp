@@ -47,7 +47,7 @@ std::string ParoleSistema(int errore) {
 BancoComposer::BancoComposer(char separatore) : BancoComposer(file, separatore) {}
 
 BancoComposer::BancoComposer(ArchivioFile& archivio, char separatore)
-    : finestra({globali, pompa, finestre, dialoghi, suono, impostazioni, archivio, casuale},
+    : finestra({globali, pompa, finestre, riquadri, suono, impostazioni, archivio, casuale},
                {[] { return "Piano"; }, [] { return "Organo"; }, [this] { ++playFiniti; }}) {
     globali.SeparatoreDecimale = separatore;
     PonTesti(globali.testi);

@@ -22,7 +22,7 @@ struct BancoDemo : BancoComposer {
         uscita.messaggi.clear();
     }
     /// Loads it and plays it to its end; returns the seconds that the play took.
-    double Esegui() {
+    double SuonaTutta() {
         const double inizio = pompa.Adesso();
         finestra.cmdEseguiFile_Click();
         return pompa.Adesso() - inizio;
@@ -76,8 +76,8 @@ protected:
 }  // namespace
 
 TEST_P(MelodiaDemo, PlaysEachOfItsNotesAndEndsAfterExactlyItsTicks) {
-    const double durata = b.Esegui();
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    const double durata = b.SuonaTutta();
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_GT(b.stato.tickTotali, 0);
     EXPECT_NEAR(durata, b.Secondi(b.stato.tickTotali), 1e-6);
     EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play");
@@ -87,7 +87,7 @@ TEST_P(MelodiaDemo, PlaysEachOfItsNotesAndEndsAfterExactlyItsTicks) {
 }
 
 TEST_P(MelodiaDemo, HasVoicesThatEndTogether) {
-    b.Esegui();
+    b.SuonaTutta();
     for (const VoceMelodia& voce : b.melodia.voci) {
         if (voce.Vuota()) continue;
         EXPECT_EQ(voce.durateVoce.size(), voce.noteVoce.size());
@@ -97,7 +97,7 @@ TEST_P(MelodiaDemo, HasVoicesThatEndTogether) {
 }
 
 TEST_P(MelodiaDemo, HasNotesOfTheFiveOctavesAndRestsWithTheRestsAttribute) {
-    b.Esegui();
+    b.SuonaTutta();
     for (const VoceMelodia& voce : b.melodia.voci)
         for (long i = 0; i < voce.numeroNote; ++i) {
             const std::string& nota = Elemento(voce.noteVoce, i);
@@ -114,7 +114,7 @@ TEST_P(MelodiaDemo, HasNotesOfTheFiveOctavesAndRestsWithTheRestsAttribute) {
 }
 
 TEST_P(MelodiaDemo, SpellsItsDurationsAsTheyAreSpelledWhenNotesAreEntered) {
-    b.Esegui();
+    b.SuonaTutta();
     for (const VoceMelodia& voce : b.melodia.voci)
         for (long i = 0; i < voce.numeroNote; ++i) {
             const std::string& token = Elemento(voce.durateVoce, i);
@@ -124,7 +124,7 @@ TEST_P(MelodiaDemo, SpellsItsDurationsAsTheyAreSpelledWhenNotesAreEntered) {
 }
 
 TEST_P(MelodiaDemo, HasItsTripletsInWholeGroupsThatLastAsLongAsTheyAreWritten) {
-    b.Esegui();
+    b.SuonaTutta();
     for (const VoceMelodia& voce : b.melodia.voci) {
         const std::vector<double> durate = Durate(voce);
         for (std::size_t i = 0; i < durate.size(); ++i) {
@@ -148,7 +148,7 @@ TEST_P(MelodiaDemo, HasANameThatAMelodyCanBeGiven) {
 }
 
 TEST_P(MelodiaDemo, IsTheSameFileByteForByteWhenItIsSavedAgain) {
-    b.Esegui();
+    b.SuonaTutta();
     if (LeggiMel(b.byte, '.').conMetronomo) b.finestra.lblTs_Click();
     const int prima = b.file.scritture;
     b.finestra.SalvaMelodia(GetParam());
@@ -163,7 +163,7 @@ TEST_P(MelodiaDemo, EndsEachLineInCarriageReturnAndLineFeed) {
 }
 
 TEST_P(MelodiaDemo, HasBookmarksWithinItsSoprano) {
-    b.Esegui();
+    b.SuonaTutta();
     const long note = b.melodia.voci[soprano].numeroNote;
     const Righe& righe = b.finestra.lstBookMark.List();
     for (std::size_t i = 0; i < righe.size(); ++i) {

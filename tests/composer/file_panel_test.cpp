@@ -55,7 +55,7 @@ TEST(ListaFD, ARootFolderHasNoParentAndTheListStartsWithTheFirstFolder) {
 TEST(ListaFD, AFolderThatIsntThereGivesNothingButItsParentAndNoMessage) {
     BancoPannello b;
     EXPECT_EQ(b.RigheDi("/gone/"), Righe{"» .."});
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(ListaFD, ShowsThePathInLowerCaseAndWithABlankAtEachEndInItsTip) {
@@ -121,7 +121,7 @@ TEST(EseguiFile, WithoutAChosenRowDoesNothing) {
     b.finestra.cmdEseguiFile_Click();
     EXPECT_EQ(b.globali.percorsoCorrente, BancoComposer::demo);
     EXPECT_FALSE(b.melodia.voci[soprano].Vuota());
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(EseguiFile, EntersAFolderAlsoOneWithAPointAndTheMelodyStays) {
@@ -157,7 +157,7 @@ TEST(EseguiFile, AMelodyIsLoadedFromTheFolderThatWasEntered) {
     b.Entra("» a");
     b.Entra("x");
     EXPECT_EQ(b.melodia.voci[soprano].testoNote, "60;62;64;65;");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(ListaFD, AnExtensionInCapitalsIsAMelodysToo) {
@@ -167,13 +167,13 @@ TEST(ListaFD, AnExtensionInCapitalsIsAMelodysToo) {
     EXPECT_EQ(b.RigheDi("/m/"), (Righe{"» ..", "new", "OLD", "x"}));
 }
 
-TEST(Esegui, AFileWithItsExtensionInCapitalsIsLoadedAndSavedAsTheFileItIs) {
+TEST(CmdEseguiFile, AFileWithItsExtensionInCapitalsIsLoadedAndSavedAsTheFileItIs) {
     BancoPannello b;
     std::string& vecchio = b.file.contenuti[std::string(b.demo) + "OLD.MEL"];
     vecchio = FileDi({"60;", "1;", "n;", " 60 ", " 16 "});
     b.finestra.ListaFD();
     b.Entra("OLD");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_EQ(b.melodia.voci[soprano].testoNote, "60;");
     b.Voce(soprano, "62;", "1");
     b.finestra.SalvaMelodia("OLD");

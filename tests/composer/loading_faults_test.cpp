@@ -66,7 +66,7 @@ TEST(CaricaGuasto, AFileThatEndsBehindAWholePartLoads) {
     for (const std::size_t linee : {5U, 6U, 10U}) {
         BancoGuasti b;
         b.Carica(PrimeDi(dueVoci, linee));
-        EXPECT_TRUE(b.dialoghi.messaggi.empty()) << linee;
+        EXPECT_TRUE(b.riquadri.messaggi.empty()) << linee;
         EXPECT_TRUE(b.HaSuonato()) << linee;
         EXPECT_FALSE(b.melodia.inCaricamento) << linee;
     }
@@ -78,9 +78,9 @@ TEST(CaricaGuasto, AFileCutAtAnyByteLoadsOrIsToldInOneBox) {
     for (std::size_t byte = 0; byte <= intero.size(); ++byte) {
         BancoGuasti b;
         b.Carica(intero.substr(0, byte));
-        EXPECT_LE(b.dialoghi.messaggi.size(), 1U) << byte;
-        guasti += static_cast<int>(b.dialoghi.messaggi.size());
-        EXPECT_EQ(b.HaSuonato(), b.dialoghi.messaggi.empty()) << byte;
+        EXPECT_LE(b.riquadri.messaggi.size(), 1U) << byte;
+        guasti += static_cast<int>(b.riquadri.messaggi.size());
+        EXPECT_EQ(b.HaSuonato(), b.riquadri.messaggi.empty()) << byte;
         EXPECT_EQ(b.finestra.lblNome.Caption(), "song") << byte;
         EXPECT_FALSE(b.finestra.inEsecuzione) << byte;
         EXPECT_TRUE(b.uscita.NoteAccese().empty()) << byte;
@@ -141,7 +141,7 @@ TEST(CaricaGuasto, AVoiceOf32767NotesLoads) {
     BancoGuasti b;
     b.CliccaNelTick(3, "cmdPlay");
     b.Carica({note, durate, attributi, " 60 ", " 16 "});
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_EQ(b.finestra.lblNt.Caption(), "32767");
     EXPECT_EQ(b.V(soprano).ultimaNota, 32766);
 }
@@ -152,10 +152,10 @@ TEST(CaricaGuasto, BehindALoadThatFailedPlaySoundsNothingOfTheMelodyBefore) {
         for (std::size_t voce = 0; voce < numeroVoci; ++voce)
             b.Voce(voce, "72;74;", "1");
         b.Carica(PrimeDi(dueVoci, linee));
-        b.dialoghi.messaggi.clear();
+        b.riquadri.messaggi.clear();
         b.Suona();
         EXPECT_FALSE(b.HaSuonato()) << linee;
-        EXPECT_TRUE(b.dialoghi.messaggi.empty()) << linee;
+        EXPECT_TRUE(b.riquadri.messaggi.empty()) << linee;
         EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play") << linee;
         EXPECT_TRUE(b.finestra.file.Enabled()) << linee;
     }

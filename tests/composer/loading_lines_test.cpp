@@ -39,7 +39,7 @@ TEST(Carica, ABookmarkLineOfExactlyOneRowIsTakenForAVoiceThatIsUnknownAndDropped
     EXPECT_TRUE(b.finestra.lstBookMark.List->empty());
     EXPECT_FALSE(b.finestra.frBookMark.Visible());
     EXPECT_EQ(b.V(basso).testoNote, "48;43;");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(Carica, TheWholeMelodysBookmarkTakesTheCountAndTheLabelOfToday) {
@@ -75,7 +75,7 @@ TEST(Carica, AFourthBlockIsIgnored) {
     EXPECT_EQ(b.V(basso).strumento, 33);
     EXPECT_TRUE(b.V(tenore).Vuota());
     EXPECT_EQ(b.V(tenore).strumento, 16);
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(Carica, AHeaderOfAnyOtherNameIsDroppedAsALineAndCaseCounts) {
@@ -92,7 +92,7 @@ TEST(Carica, AVoiceWithUnequalTextsInItsBlockLoadsWithoutAWord) {
     b.CaricaCon({{9, "2;"}, {10, ""}});
     EXPECT_EQ(b.V(basso).testoDurate, "2;");
     EXPECT_EQ(b.V(basso).numeroNote, 2);
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_FALSE(b.melodia.inCaricamento);
 }
 
@@ -100,7 +100,7 @@ TEST(Carica, DurationsWithCommaAndPointComeOutWithTheSystemsSeparator) {
     for (const char separatore : {'.', ','}) {
         BancoCarica b(separatore);
         b.CaricaCon({{2, "1.5;0,75;0.25;0,333333333333333;"}, {9, "0.5;0,375;"}});
-        EXPECT_TRUE(b.dialoghi.messaggi.empty());
+        EXPECT_TRUE(b.riquadri.messaggi.empty());
         const auto conSeparatore = [&](std::string testo) {
             std::replace(testo.begin(), testo.end(), '.', separatore);
             return testo;
@@ -123,7 +123,7 @@ TEST(Carica, AFileWithPlainLineEndsAndNoneAtItsEndLoadsTheSame) {
     b.Carica(byte);
     EXPECT_EQ(b.V(soprano).testoNote, "60;62;64;65;");
     EXPECT_EQ(b.V(basso).testoAttributi, "n;n;");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 }  // namespace corvana::prova

@@ -39,7 +39,7 @@ TEST(CaricaESuona, ALoadPlaysTheMelodyAtOnceToItsEnd) {
     EXPECT_NEAR(b.pompa.Adesso() - inizio, 4 * 32 * 0.031, 1e-6);
     EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play");
     EXPECT_TRUE(b.uscita.NoteAccese().empty());
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(CaricaESuona, TheMelodysTempoIsTheOneItPlaysAt) {
@@ -99,7 +99,7 @@ TEST(CaricaESuona, AMelodyWithoutSopranoIsTakenAndDoesntPlay) {
     EXPECT_EQ(b.melodia.voci[3].testoNote, "48;");
     EXPECT_TRUE(b.Suonate(4).empty());
     EXPECT_TRUE(b.melodia.inCaricamento);
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(CaricaESuona, ALoadFromAnotherVoiceEndsOnTheSoprano) {

@@ -31,7 +31,7 @@ bool BancoGuasti::HaSuonato() const {
 }
 
 void BancoGuasti::EsceGuasto(const std::string& box) const {
-    EXPECT_EQ(dialoghi.messaggi, std::vector<std::string>{box});
+    EXPECT_EQ(riquadri.messaggi, std::vector<std::string>{box});
     EXPECT_EQ(melodia.nomeMelodia, "song");
     EXPECT_EQ(finestra.lblNome.Caption(), "song");
     EXPECT_FALSE(HaSuonato());

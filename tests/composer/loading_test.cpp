@@ -24,7 +24,7 @@ TEST(Carica, TheTextsOfTheVoicesComeBackAndAreSplit) {
     EXPECT_EQ(b.V(basso).numeroNote, 2);
     EXPECT_TRUE(b.V(contralto).Vuota());
     EXPECT_TRUE(b.V(tenore).Vuota());
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(Carica, TheNameIsThatOfTheRow) {
@@ -84,7 +84,7 @@ TEST(Carica, LowersTheFlagOfTheMelodyBefore) {
     b.finestra.lblModificato.Visible = true;
     b.Carica(dueVoci);
     EXPECT_FALSE(b.finestra.lblModificato.Visible());
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(Carica, SendsTheProgramsInTheOrderOfTheVoicesAndShowsAllFour) {
@@ -132,7 +132,7 @@ TEST(Carica, Instrument127WithoutTheMetronomeIsTheShortForm) {
     EXPECT_EQ(b.V(soprano).strumento, 127);
     EXPECT_EQ(b.finestra.Pulsazioni.Text(), "2");
     EXPECT_EQ(b.finestra.lblInstr[soprano].Caption(), "127-Gunshot");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(Carica, AFileSavedWithTheMetronomeOnRestoresItsSettingsAndTheMetronomeStaysOff) {

@@ -13,7 +13,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Boxes = std::vector<std::string>;
+using Messaggi = std::vector<std::string>;
 
 std::string Contenuto(const std::string& percorso) {
     std::ifstream file(percorso, std::ios::binary);
@@ -76,11 +76,11 @@ void EsceAndataERitorno(char separatore, const std::string& terzina, const std::
     BancoSuDisco uno(separatore);
     uno.Componi(terzina, punto);
     uno.b.finestra.SalvaMelodia("song");
-    ASSERT_TRUE(uno.b.dialoghi.messaggi.empty());
+    ASSERT_TRUE(uno.b.riquadri.messaggi.empty());
     BancoSuDisco altro(separatore);
     altro.b.globali.percorsoCorrente = uno.b.globali.percorsoCorrente;
     altro.Carica("song");
-    EXPECT_TRUE(altro.b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(altro.b.riquadri.messaggi.empty());
     EsceUguale(uno.b.melodia, altro.b.melodia);
     EXPECT_EQ(altro.b.finestra.lstBookMark.List(), uno.b.finestra.lstBookMark.List());
     EXPECT_EQ(altro.b.finestra.Pulsazioni.Text(), "3");
@@ -104,7 +104,7 @@ TEST(SuDisco, AFileMadeUnderTheCommaIsPlayedUnderThePoint) {
     BancoSuDisco d('.');
     Scrivi(d.cartella.Di("song.mel"), FileDi({"60;", "0,75;", "n;", " 60 ", " 16 "}));
     d.Carica("song");
-    EXPECT_TRUE(d.b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(d.b.riquadri.messaggi.empty());
     EXPECT_EQ(d.b.melodia.voci[soprano].testoDurate, "0.75;");
     EXPECT_NEAR(d.b.pompa.Adesso(), 24 * 0.031, 1e-6);
 }
@@ -132,7 +132,8 @@ TEST(SuDisco, AFileThatMayNotGrowLeavesTheOldFileAndTheFlag) {
         const DiscoPieno pieno(1000);
         d.b.finestra.SalvaMelodia("song");
     }
-    EXPECT_EQ(d.b.dialoghi.messaggi, Boxes{std::to_string(EFBIG) + "\r\n" + ParoleSistema(EFBIG)});
+    EXPECT_EQ(d.b.riquadri.messaggi,
+              Messaggi{std::to_string(EFBIG) + "\r\n" + ParoleSistema(EFBIG)});
     d.EsceRifiutata("old");
     d.b.finestra.SalvaMelodia("song");
     EXPECT_EQ(Contenuto(d.cartella.Di("song.mel")).size(), 3 * 1000U + 2 * 2000U + 3 * 2 + 6 + 6);
@@ -146,7 +147,7 @@ TEST(SuDisco, ADiskWithoutRoomIsFault61AndLeavesTheOldFileAndTheFlag) {
     d.b.Voce(soprano, "60;", "1");
     d.b.finestra.lblModificato.Visible = true;
     d.b.finestra.SalvaMelodia("song");
-    EXPECT_EQ(d.b.dialoghi.messaggi, Boxes{"61\r\n" + ParoleSistema(ENOSPC)});
+    EXPECT_EQ(d.b.riquadri.messaggi, Messaggi{"61\r\n" + ParoleSistema(ENOSPC)});
     d.EsceRifiutata("old");
 }
 
@@ -157,8 +158,8 @@ TEST(SuDisco, ANameThatAFolderHasIsRefusedByTheDiskAndTheFolderStays) {
     d.b.Voce(soprano, "60;", "1");
     d.b.finestra.lblModificato.Visible = true;
     d.b.finestra.SalvaMelodia("song");
-    EXPECT_EQ(d.b.dialoghi.messaggi,
-              Boxes{std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)});
+    EXPECT_EQ(d.b.riquadri.messaggi,
+              Messaggi{std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)});
     EXPECT_TRUE(d.b.finestra.lblModificato.Visible());
     EXPECT_EQ(Contenuto(d.cartella.Di("song.mel/inside")), "kept");
     EXPECT_EQ(d.cartella.Quanti(), 1);
@@ -171,8 +172,8 @@ TEST(SuDisco, AFolderThatLetsNothingBeWrittenLeavesTheOldFileAndTheFlag) {
     d.b.Voce(soprano, "60;", "1");
     d.b.finestra.lblModificato.Visible = true;
     d.b.finestra.SalvaMelodia("song");
-    EXPECT_EQ(d.b.dialoghi.messaggi,
-              Boxes{std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)});
+    EXPECT_EQ(d.b.riquadri.messaggi,
+              Messaggi{std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)});
     std::filesystem::remove(d.cartella.Di("song.mel.nuovo"));
     d.EsceRifiutata("old");
 }
@@ -184,7 +185,7 @@ TEST(SuDisco, AFolderThatIsAFileIsNoneAndStopsASaveWithoutAWord) {
     d.b.Voce(soprano, "60;", "1");
     d.b.finestra.lblModificato.Visible = true;
     d.b.finestra.SalvaMelodia("song");
-    EXPECT_TRUE(d.b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(d.b.riquadri.messaggi.empty());
     d.EsceRifiutata("old");
 }
 
@@ -197,9 +198,9 @@ TEST(SuDisco, AMissingFileAndAFolderInItsPlaceAreToldByTheSystemsWords) {
     d.b.finestra.cmdEseguiFile_Click();
     std::filesystem::create_directory(d.cartella.Di("song.mel"));
     d.b.finestra.cmdEseguiFile_Click();
-    EXPECT_EQ(d.b.dialoghi.messaggi,
-              (Boxes{"2\r\n" + ParoleSistema(ENOENT),
-                     std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)}));
+    EXPECT_EQ(d.b.riquadri.messaggi,
+              (Messaggi{"2\r\n" + ParoleSistema(ENOENT),
+                        std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)}));
 }
 
 TEST(SuDisco, APipeIsntListedAndItsNameDoesntKeepTheLoadWaiting) {
@@ -212,8 +213,8 @@ TEST(SuDisco, APipeIsntListedAndItsNameDoesntKeepTheLoadWaiting) {
     d.b.finestra.List1.List = Righe{"x"};
     d.b.Scegli("x");
     d.b.finestra.cmdEseguiFile_Click();
-    EXPECT_EQ(d.b.dialoghi.messaggi,
-              Boxes{std::to_string(EINVAL) + "\r\n" + ParoleSistema(EINVAL)});
+    EXPECT_EQ(d.b.riquadri.messaggi,
+              Messaggi{std::to_string(EINVAL) + "\r\n" + ParoleSistema(EINVAL)});
 }
 
 }  // namespace corvana::prova

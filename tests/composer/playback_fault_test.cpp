@@ -13,13 +13,13 @@ namespace {
 struct BancoGuasto : BancoComposer {
     /// Plays by a click; the boxes that it made.
     std::vector<std::string> Messaggi() {
-        dialoghi.messaggi.clear();
+        riquadri.messaggi.clear();
         specchio.fuochi.clear();
         Suona([this] {
             Clicca(pompa.Adesso(), "cmdPlay");
             pompa.AttendiEvento(pompa.Adesso() + 1);
         });
-        return dialoghi.messaggi;
+        return riquadri.messaggi;
     }
     /// What isn't as before a play.
     std::vector<std::string> Rimasti() const {

@@ -11,9 +11,9 @@ namespace {
 /// told before them.
 struct BancoOrdine : Banco {
     Registratore tra{[this] { return static_cast<double>(specchio.cambi.size()); }};
-    Suono suonoTra{tra, pompa, dialoghi};
+    Suono suonoTra{tra, pompa, riquadri};
     frmComposer finestra{
-        {globali, pompa, finestre, dialoghi, suonoTra, impostazioni, file, casuale},
+        {globali, pompa, finestre, riquadri, suonoTra, impostazioni, file, casuale},
         {[] { return ""; }, [] { return ""; }, {}}};
 
     BancoOrdine() {

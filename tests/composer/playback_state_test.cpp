@@ -222,7 +222,7 @@ TEST(StatoRiproduzione, WhilePlayingTheWindowRefusesToCloseWithoutAMessage) {
     b.Suona();
     EXPECT_EQ(b.TickPassati(), 24);
     EXPECT_EQ(b.specchio.chiuse, Nomi{});
-    EXPECT_EQ(b.dialoghi.messaggi, Nomi{});
+    EXPECT_EQ(b.riquadri.messaggi, Nomi{});
     b.Fa(b.pompa.Adesso(), Fatto::Chiudi, "");
     b.pompa.AttendiEvento(b.pompa.Adesso() + 1);
     EXPECT_EQ(b.specchio.chiuse, Nomi{"frmComposer"});

@@ -165,7 +165,7 @@ TEST(Riproduzione, AFailingMessageIsToldAndThePlayCarriesOn) {
     b.uscita.esitoShortMsg = 67;
     b.NelTick(32, [&] { b.uscita.esitoShortMsg = 0; });
     b.Suona();
-    EXPECT_EQ(b.dialoghi.messaggi,
+    EXPECT_EQ(b.riquadri.messaggi,
               (std::vector<std::string>(2, "Operation:ShortMsg\r\nerror text 67")));
     EXPECT_EQ(b.Messaggi(), (Mandati{{33, 1, 62, 96}, {64, 1, 62, 0}}));
     EXPECT_EQ(b.TickPassati(), 64);

@@ -135,7 +135,7 @@ TEST(PlayRitardo, AWindowClosedMeanwhileIsntPlayedAndItsLightsGoOut) {
     b.finestra.chekLoop.Value = true;
     b.Fa(2.5, Fatto::Chiudi, "");
     b.Fine(60);
-    EXPECT_FALSE(b.Esegui([&] { b.finestra.mnuPlayRitardo_Click(); }));
+    EXPECT_FALSE(b.SvolgiCopione([&] { b.finestra.mnuPlayRitardo_Click(); }));
     EXPECT_EQ(b.specchio.chiuse, std::vector<std::string>{"frmComposer"});
     EXPECT_TRUE(b.Attacchi().empty());
     EXPECT_EQ(b.Luci(), ".....");

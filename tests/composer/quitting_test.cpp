@@ -18,9 +18,9 @@ struct BancoUscita : BancoComposer {
         const double t = orologio.Adesso() + dopo;
         Quando(t, [this] { coda.ChiediFine(); });
         Fine(t + 1000);
-        EXPECT_FALSE(Esegui([this] { finestre.Esegui(); }));
+        EXPECT_FALSE(SvolgiCopione([this] { finestre.FinoAllUltima(); }));
         EXPECT_DOUBLE_EQ(orologio.Adesso(), t);
-        EXPECT_TRUE(dialoghi.messaggi.empty());
+        EXPECT_TRUE(riquadri.messaggi.empty());
         EXPECT_EQ(uscita.NoteAccese(), (std::vector<std::pair<int, int>>{}));
         EXPECT_FALSE(globali.ComposerAperto);
         EXPECT_EQ(impostazioni.LeggiValore("LastDir"), "/home/mine/");

@@ -8,7 +8,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Boxes = std::vector<std::string>;
+using Messaggi = std::vector<std::string>;
 
 /// A melody with a name and a medium in the machine.
 struct BancoSupporto : BancoComposer {
@@ -20,7 +20,7 @@ struct BancoSupporto : BancoComposer {
         melodia.nomeMelodia = "song";
         finestra.lblNome.Caption = "shown";
         file.supportoRimovibile = "/media/stick/";
-        dialoghi.durante = [this](const std::string&) {
+        riquadri.durante = [this](const std::string&) {
             puntatori.push_back(finestra.MousePointer());
         };
     }
@@ -31,7 +31,7 @@ struct BancoSupporto : BancoComposer {
     bool Modificata() const { return finestra.lblModificato.Visible(); }
     /// The one box was this, with the normal pointer back, and the flag stayed.
     void EsceErrore(const std::string& box) const {
-        EXPECT_EQ(dialoghi.messaggi, Boxes{box});
+        EXPECT_EQ(riquadri.messaggi, Messaggi{box});
         EXPECT_EQ(puntatori, std::vector<int>{puntatoreNormale});
         EXPECT_EQ(finestra.MousePointer(), puntatoreNormale);
         EXPECT_TRUE(Modificata());
@@ -45,7 +45,7 @@ TEST(SalvaSuSupporto, WritesTheMelodyToTheMediumAndSaysSo) {
     BancoSupporto b;
     b.Subito(Fatto::Click, "mnuSalvaA");
     EXPECT_EQ(b.SulSupporto("song.mel"), FileDi(soloSoprano));
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"song.mel\r\nsalvata"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"song.mel\r\nsalvata"});
     EXPECT_FALSE(b.Modificata());
 }
 
@@ -82,18 +82,18 @@ TEST(SalvaSuSupporto, AnEmptySopranoStopsItWithoutAWord) {
     b.Voce(1, "60;", "1");
     b.finestra.mnuSalvaA_Click();
     EXPECT_EQ(b.SulSupporto("song.mel"), "no such file");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(SalvaSuSupporto, WithoutANameAsksForOneAndProposesNone) {
     BancoSupporto b;
     b.melodia.nomeMelodia.clear();
     b.PonFile("chosen", "");
-    b.dialoghi.testi = {" mine "};
+    b.riquadri.testi = {" mine "};
     b.finestra.mnuSalvaA_Click();
-    EXPECT_EQ(b.dialoghi.messaggi, (Boxes{"nome?", "mine.mel\r\nsalvata"}));
-    EXPECT_EQ(b.dialoghi.titoli, Boxes{"salva con nome"});
-    EXPECT_EQ(b.dialoghi.proposte, Boxes{""});
+    EXPECT_EQ(b.riquadri.messaggi, (Messaggi{"nome?", "mine.mel\r\nsalvata"}));
+    EXPECT_EQ(b.riquadri.titoli, Messaggi{"salva con nome"});
+    EXPECT_EQ(b.riquadri.proposte, Messaggi{""});
     EXPECT_EQ(b.SulSupporto("mine.mel"), FileDi(soloSoprano));
     EXPECT_EQ(b.melodia.nomeMelodia, "mine");
 }
@@ -103,9 +103,9 @@ TEST(SalvaSuSupporto, ACancelledOrBlankNameStopsItWithoutAWord) {
          {std::optional<std::string>(), std::optional<std::string>("  ")}) {
         BancoSupporto b;
         b.melodia.nomeMelodia.clear();
-        b.dialoghi.testi = {risposta};
+        b.riquadri.testi = {risposta};
         b.finestra.mnuSalvaA_Click();
-        EXPECT_EQ(b.dialoghi.messaggi, Boxes{"nome?"});
+        EXPECT_EQ(b.riquadri.messaggi, Messaggi{"nome?"});
         EXPECT_EQ(b.melodia.nomeMelodia, "");
         EXPECT_TRUE(b.Modificata());
     }
@@ -116,7 +116,7 @@ TEST(SalvaSuSupporto, ARefusedNameIsForgottenWhateverNameIsShown) {
         BancoSupporto b;
         b.melodia.nomeMelodia = nome;
         b.finestra.mnuSalvaA_Click();
-        EXPECT_EQ(b.dialoghi.messaggi, Boxes{"nome errato"});
+        EXPECT_EQ(b.riquadri.messaggi, Messaggi{"nome errato"});
         EXPECT_EQ(b.melodia.nomeMelodia, "");
         EXPECT_EQ(b.finestra.lblNome.Caption(), "shown");
         EXPECT_TRUE(b.Modificata());
@@ -128,7 +128,7 @@ TEST(SalvaSuSupporto, ReplacesAFileOfThatNameWithoutAQuestion) {
     b.file.contenuti["/media/stick/song.mel"] = "old";
     b.finestra.mnuSalvaA_Click();
     EXPECT_EQ(b.SulSupporto("song.mel"), FileDi(soloSoprano));
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"song.mel\r\nsalvata"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"song.mel\r\nsalvata"});
 }
 
 TEST(SalvaSuSupporto, AFullDiskIsFault61InTheLanguagesWords) {
@@ -170,9 +170,9 @@ TEST(SalvaSuSupporto, ACharacterThatTheCodePageDoesntHaveIsAFaultToo) {
     BancoSupporto b;
     b.finestra.lstBookMark.List = Righe{"1 ÷ 2 ÷Tutta", "1 ÷ 2 ÷ 日"};
     b.finestra.mnuSalvaA_Click();
-    ASSERT_EQ(b.dialoghi.messaggi.size(), 1U);
-    EXPECT_TRUE(b.dialoghi.messaggi[0].starts_with("Errore: 5\r\n\r\n")) << b.dialoghi.messaggi[0];
-    b.EsceErrore(b.dialoghi.messaggi[0]);
+    ASSERT_EQ(b.riquadri.messaggi.size(), 1U);
+    EXPECT_TRUE(b.riquadri.messaggi[0].starts_with("Errore: 5\r\n\r\n")) << b.riquadri.messaggi[0];
+    b.EsceErrore(b.riquadri.messaggi[0]);
 }
 
 }  // namespace corvana::prova

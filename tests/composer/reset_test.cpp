@@ -47,7 +47,7 @@ TEST(Reset, EmptiesAllVoicesTheNameAndTheBookmarksWithoutAQuestion) {
     EXPECT_EQ(b.finestra.lblNome.Caption(), "");
     EXPECT_EQ(b.finestra.lblNt.Caption(), "");
     EXPECT_TRUE(b.finestra.lstBookMark.List->empty());
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(Reset, LowersTheFlagAndEndsTheStepMode) {

@@ -8,7 +8,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Boxes = std::vector<std::string>;
+using Messaggi = std::vector<std::string>;
 
 struct BancoConNome : BancoComposer {
     int scrittePrima = file.scritture;
@@ -20,7 +20,7 @@ struct BancoConNome : BancoComposer {
     }
     /// Asks for the name, to which the user answers so.
     void Rispondi(const std::optional<std::string>& risposta) {
-        dialoghi.testi = {risposta};
+        riquadri.testi = {risposta};
         finestra.mnuSaveAs_Click();
     }
 };
@@ -30,9 +30,9 @@ struct BancoConNome : BancoComposer {
 TEST(SalvaConNome, AsksWithPromptAndTitleAndProposesNothingWithoutAChosenRow) {
     BancoConNome b;
     b.Rispondi("new");
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"nome?"});
-    EXPECT_EQ(b.dialoghi.titoli, Boxes{"salva con nome"});
-    EXPECT_EQ(b.dialoghi.proposte, Boxes{""});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"nome?"});
+    EXPECT_EQ(b.riquadri.titoli, Messaggi{"salva con nome"});
+    EXPECT_EQ(b.riquadri.proposte, Messaggi{""});
     EXPECT_EQ(b.melodia.nomeMelodia, "new");
     EXPECT_EQ(b.ContenutoFile("new"), FileDi(soloSoprano));
     EXPECT_EQ(b.finestra.lblNome.Caption(), "Salvato: new");
@@ -44,7 +44,7 @@ TEST(SalvaConNome, ProposesTheTextOfTheChosenRow) {
     b.finestra.Fr2.Visible = true;
     b.PonFile("a song", "");
     b.Rispondi("new");
-    EXPECT_EQ(b.dialoghi.proposte, Boxes{"a song"});
+    EXPECT_EQ(b.riquadri.proposte, Messaggi{"a song"});
 }
 
 TEST(SalvaConNome, OnAFolderOffersItsSignAndNameWhichTheTestOfCharactersDoesntCatch) {
@@ -53,8 +53,8 @@ TEST(SalvaConNome, OnAFolderOffersItsSignAndNameWhichTheTestOfCharactersDoesntCa
     b.finestra.mnuApri_Click();
     b.Scegli("» mine");
     b.Rispondi("» mine");
-    EXPECT_EQ(b.dialoghi.proposte, Boxes{"» mine"});
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"nome?"});
+    EXPECT_EQ(b.riquadri.proposte, Messaggi{"» mine"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"nome?"});
     EXPECT_EQ(b.ContenutoFile("» mine"), FileDi(soloSoprano));
 }
 
@@ -64,14 +64,14 @@ TEST(SalvaConNome, OpensTheListAndAsksNothingWhenTheSopranoIsEmpty) {
     b.Voce(1, "60;", "1");
     b.Rispondi("new");
     EXPECT_TRUE(b.finestra.Fr2.Visible());
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_EQ(b.melodia.nomeMelodia, "old");
 }
 
 TEST(SalvaConNome, TheEntriesOfBothMenusDoTheSame) {
     for (const char* voce : {"mnuSaveAs", "mnuSaveAsCont"}) {
         BancoConNome b;
-        b.dialoghi.testi = {"new"};
+        b.riquadri.testi = {"new"};
         b.Subito(Fatto::Click, voce);
         EXPECT_TRUE(b.finestra.Fr2.Visible());
         EXPECT_EQ(b.ContenutoFile("new"), FileDi(soloSoprano));
@@ -90,7 +90,7 @@ TEST(SalvaConNome, ARefusedNameGivesTheOldOneBackWhenANameIsShown) {
                               ")", "=", "'", "^", "+", "*", "°",  "§", "<", ">", "?"}) {
         BancoConNome b;
         b.Rispondi(std::string("a") + segno + "b");
-        EXPECT_EQ(b.dialoghi.messaggi, (Boxes{"nome?", "nome errato"})) << segno;
+        EXPECT_EQ(b.riquadri.messaggi, (Messaggi{"nome?", "nome errato"})) << segno;
         EXPECT_EQ(b.melodia.nomeMelodia, "old") << segno;
         EXPECT_EQ(b.file.scritture, b.scrittePrima) << segno;
         EXPECT_TRUE(b.finestra.lblModificato.Visible()) << segno;
@@ -102,7 +102,7 @@ TEST(SalvaConNome, ARefusedNameLeavesNoneWhenLblNomeIsBlank) {
         BancoConNome b;
         b.finestra.lblNome.Caption = mostrato;
         b.Rispondi("a?");
-        EXPECT_EQ(b.dialoghi.messaggi, (Boxes{"nome?", "nome errato"}));
+        EXPECT_EQ(b.riquadri.messaggi, (Messaggi{"nome?", "nome errato"}));
         EXPECT_EQ(b.melodia.nomeMelodia, "");
         EXPECT_EQ(b.finestra.lblNome.Caption(), mostrato);
     }
@@ -113,7 +113,7 @@ TEST(SalvaConNome, ACancelledBoxSavesNothingAndLeavesTheMelodyWithoutAName) {
          {std::optional<std::string>(), std::optional<std::string>("  ")}) {
         BancoConNome b;
         b.Rispondi(risposta);
-        EXPECT_EQ(b.dialoghi.messaggi, Boxes{"nome?"});
+        EXPECT_EQ(b.riquadri.messaggi, Messaggi{"nome?"});
         EXPECT_EQ(b.melodia.nomeMelodia, "");
         EXPECT_EQ(b.finestra.lblNome.Caption(), "old");
         EXPECT_TRUE(b.finestra.lblModificato.Visible());
@@ -125,9 +125,9 @@ TEST(SalvaConNome, ACancelledBoxIsNoYesToTheNameThatItProposed) {
     BancoConNome b;
     b.finestra.Fr2.Visible = true;
     b.PonFile("a song", "another");
-    b.dialoghi.risposte = {true};
+    b.riquadri.risposte = {true};
     b.Rispondi(std::nullopt);
-    EXPECT_EQ(b.dialoghi.proposte, Boxes{"a song"});
+    EXPECT_EQ(b.riquadri.proposte, Messaggi{"a song"});
     EXPECT_EQ(b.melodia.nomeMelodia, "");
     EXPECT_EQ(b.ContenutoFile("a song"), "another");
 }
@@ -135,9 +135,9 @@ TEST(SalvaConNome, ACancelledBoxIsNoYesToTheNameThatItProposed) {
 TEST(SalvaConNome, ANoToReplacingAMelodyWritesNothingAndTheNewNameStaysInForce) {
     BancoConNome b;
     b.PonFile("new", "another");
-    b.dialoghi.risposte = {false};
+    b.riquadri.risposte = {false};
     b.Rispondi("new");
-    EXPECT_EQ(b.dialoghi.messaggi, (Boxes{"nome?", "esiste new\r\nsostituire?"}));
+    EXPECT_EQ(b.riquadri.messaggi, (Messaggi{"nome?", "esiste new\r\nsostituire?"}));
     EXPECT_EQ(b.ContenutoFile("new"), "another");
     EXPECT_EQ(b.melodia.nomeMelodia, "new");
     EXPECT_EQ(b.finestra.lblNome.Caption(), "old");
@@ -147,7 +147,7 @@ TEST(SalvaConNome, ANoToReplacingAMelodyWritesNothingAndTheNewNameStaysInForce) 
 TEST(SalvaConNome, AYesToReplacingAMelodyReplacesIt) {
     BancoConNome b;
     b.PonFile("new", "another");
-    b.dialoghi.risposte = {true};
+    b.riquadri.risposte = {true};
     b.Rispondi("new");
     EXPECT_EQ(b.ContenutoFile("new"), FileDi(soloSoprano));
     EXPECT_FALSE(b.finestra.lblModificato.Visible());
@@ -157,7 +157,7 @@ TEST(SalvaConNome, AFailedSaveKeepsTheNewNameAndTheFlag) {
     BancoConNome b;
     b.file.erroreScrivi = ENOSPC;
     b.Rispondi("new");
-    EXPECT_EQ(b.dialoghi.messaggi, (Boxes{"nome?", "61\r\n" + ParoleSistema(ENOSPC)}));
+    EXPECT_EQ(b.riquadri.messaggi, (Messaggi{"nome?", "61\r\n" + ParoleSistema(ENOSPC)}));
     EXPECT_EQ(b.melodia.nomeMelodia, "new");
     EXPECT_EQ(b.finestra.lblNome.Caption(), "old");
     EXPECT_TRUE(b.finestra.lblModificato.Visible());

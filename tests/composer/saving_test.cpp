@@ -8,7 +8,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Boxes = std::vector<std::string>;
+using Messaggi = std::vector<std::string>;
 
 /// Two notes in the soprano, changed since they were saved, by instrument 16 at tempo 60.
 struct BancoSalva : BancoComposer {
@@ -103,7 +103,7 @@ TEST(SalvaMelodia, ReplacesTheFileOfThatName) {
     BancoSalva b;
     b.PonFile("song", "old");
     EXPECT_EQ(b.Salvato(), FileDi(soloSoprano));
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(SalvaMelodia, LowersTheFlagNamesTheFileAndRefreshesTheList) {
@@ -134,7 +134,7 @@ TEST(SalvaMelodia, AnEmptyNameStopsWithoutAWord) {
     BancoSalva b;
     b.finestra.SalvaMelodia("");
     b.EsceIntatta();
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(SalvaMelodia, AFolderThatDoesntExistStopsItWithoutAWord) {
@@ -142,7 +142,7 @@ TEST(SalvaMelodia, AFolderThatDoesntExistStopsItWithoutAWord) {
     b.globali.percorsoCorrente = "/gone/";
     b.finestra.SalvaMelodia("song");
     b.EsceIntatta();
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(SalvaMelodia, WhatCantBeWrittenIsToldByNumberAndTextAndTheOldFileAndTheFlagStay) {
@@ -157,7 +157,7 @@ TEST(SalvaMelodia, WhatCantBeWrittenIsToldByNumberAndTextAndTheOldFileAndTheFlag
         b.file.erroreScrivi = errore;
         b.finestra.SalvaMelodia("song");
         b.EsceIntatta();
-        EXPECT_EQ(b.dialoghi.messaggi, Boxes{testo});
+        EXPECT_EQ(b.riquadri.messaggi, Messaggi{testo});
         EXPECT_EQ(b.ContenutoFile("song"), "old");
     }
 }
@@ -177,9 +177,9 @@ TEST(SalvaMelodia, ACharacterThatTheCodePageDoesntHaveIsAFaultBeforeAnythingIsWr
     b.finestra.lstBookMark.List = Righe{"1 ÷ 2 ÷Tutta", "1 ÷ 2 ÷ 日"};
     b.finestra.SalvaMelodia("song");
     b.EsceIntatta();
-    ASSERT_EQ(b.dialoghi.messaggi.size(), 1U);
-    EXPECT_TRUE(b.dialoghi.messaggi[0].starts_with("5\r\n")) << b.dialoghi.messaggi[0];
-    EXPECT_NE(b.dialoghi.messaggi[0].find("日"), std::string::npos);
+    ASSERT_EQ(b.riquadri.messaggi.size(), 1U);
+    EXPECT_TRUE(b.riquadri.messaggi[0].starts_with("5\r\n")) << b.riquadri.messaggi[0];
+    EXPECT_NE(b.riquadri.messaggi[0].find("日"), std::string::npos);
     EXPECT_EQ(b.ContenutoFile("song"), "old");
 }
 
@@ -190,14 +190,14 @@ TEST(MenuSalva, OpensTheListAndSavesUnderTheMelodysName) {
     EXPECT_TRUE(b.finestra.Fr2.Visible());
     EXPECT_EQ(b.ContenutoFile("mine"), FileDi(soloSoprano));
     EXPECT_EQ(b.finestra.lblNome.Caption(), "Salvato: mine");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(MenuSalva, WithoutANameAsksForOne) {
     BancoSalva b;
-    b.dialoghi.testi = {"mine"};
+    b.riquadri.testi = {"mine"};
     b.finestra.mnuSalva_Click();
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"nome?"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"nome?"});
     EXPECT_EQ(b.melodia.nomeMelodia, "mine");
     EXPECT_EQ(b.ContenutoFile("mine"), FileDi(soloSoprano));
 }

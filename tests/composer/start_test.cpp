@@ -7,7 +7,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Boxes = std::vector<std::string>;
+using Messaggi = std::vector<std::string>;
 
 constexpr std::int32_t violino = 40;
 constexpr Colore coloreProprio = Rgb(1, 2, 3);
@@ -71,7 +71,7 @@ TEST(AvvioComposer, TheTextsOfTheLanguageFileComeFirstAndTheCaptionsOfTheOtherEn
     EXPECT_EQ(b.finestra.cmdDelBm.Caption(), "Remove");
     EXPECT_EQ(b.finestra.cmdDelete.Caption(), "Remove");
     EXPECT_EQ(b.globali.testi.TxtMelodiaIntera, "All of it");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(AvvioComposer, WithoutALanguageFileTheWindowKeepsItsOwnTexts) {
@@ -80,7 +80,7 @@ TEST(AvvioComposer, WithoutALanguageFileTheWindowKeepsItsOwnTexts) {
     b.Apri();
     EXPECT_EQ(b.finestra.Caption(), "Composizione melodie e armonie");
     EXPECT_EQ(b.finestra.cmdDelete.Caption(), "Elimina");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(AvvioComposer, TheInstrumentEntriesOfBothMenusReadAsThoseOfTheMainWindow) {
@@ -138,14 +138,14 @@ TEST(AvvioComposer, AnUnreadableLastDirCountsAsEmpty) {
     b.file.contenuti.clear();
     b.Apri();
     EXPECT_EQ(b.globali.percorsoCorrente, "/programma/Melodie/Demo/");
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"Error1 Opening key: 2"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Error1 Opening key: 2"});
 }
 
 TEST(AvvioComposer, AFolderInLastDirThatNoLongerExistsIsTakenWithoutAWord) {
     BancoApertura b;
     b.ApriCon("/gone/");
     EXPECT_EQ(b.globali.percorsoCorrente, "/gone/");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
     b.finestra.mnuApri_Click();
     EXPECT_EQ(b.finestra.List1.List(), Righe{"» .."});
 }

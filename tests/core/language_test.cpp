@@ -9,7 +9,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Boxes = std::vector<std::string>;
+using Messaggi = std::vector<std::string>;
 
 /// A window under the name of one that has rows, with a few of their targets.
 struct FinestraTradotta : Form {
@@ -46,7 +46,7 @@ TEST(UpdateString, AnEmptyFileChangesNothing) {
     BancoLingua b;
     b.Applica("");
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(UpdateString, ARowIsForTheWindowOfItsNameWhateverTheCase) {
@@ -55,7 +55,7 @@ TEST(UpdateString, ARowIsForTheWindowOfItsNameWhateverTheCase) {
     EXPECT_EQ(b.finestra.Caption(), "titolo");
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "Esci");
     EXPECT_EQ(b.finestra.es.Caption(), "");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(UpdateString, AnIdWithoutATargetInItsWindowIsIgnored) {
@@ -65,7 +65,7 @@ TEST(UpdateString, AnIdWithoutATargetInItsWindowIsIgnored) {
         "3;frmAbout;x\n27;frmAbout;y\n-5;frmAbout;z\n30000;frmAbout;w\n";
     UpdateString(b.Tutto(), about);
     EXPECT_EQ(about.es.Caption(), "");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(UpdateString, RowsOfAnUnknownWindowDoNothing) {
@@ -81,7 +81,7 @@ TEST(UpdateString, TheTextGoesInAsItStandsAndAFourthFieldIsIgnored) {
     b.Applica("1;CorvanaMainF;  Esci, \"qui\"  ;x;y\n3;CorvanaMainF;\n");
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "  Esci, \"qui\"  ");
     EXPECT_EQ(b.finestra.es.Caption(), "");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(UpdateString, LinesMayEndInEitherWayAndTheLastNeedNot) {
@@ -92,21 +92,21 @@ TEST(UpdateString, LinesMayEndInEitherWayAndTheLastNeedNot) {
         b.Applica(contenuto);
         EXPECT_EQ(b.finestra.cmdEsci.Caption(), "a");
         EXPECT_EQ(b.finestra.es.Caption(), "b");
-        EXPECT_TRUE(b.dialoghi.messaggi.empty());
+        EXPECT_TRUE(b.riquadri.messaggi.empty());
     }
 }
 
 TEST(UpdateString, AMissingFileShowsTheReadError) {
     BancoLingua b;
     UpdateString(b.Tutto(), b.finestra);
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{guasto});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{guasto});
 }
 
 TEST(UpdateString, AFileThatCantBeReadShowsTheReadError) {
     BancoLingua b;
     b.file.erroreLeggi = EIO;
     b.Applica("1;CorvanaMainF;a\n");
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{guasto});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{guasto});
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "");
 }
 
@@ -114,7 +114,7 @@ TEST(UpdateString, ALineOfTooFewFieldsEndsTheReadingAndWhatWasAppliedStays) {
     for (const char* breve : {"nothing", "", "2;CorvanaMainF", "5"}) {
         BancoLingua b;
         b.Applica(std::string("1;CorvanaMainF;a\n") + breve + "\n3;CorvanaMainF;b\n");
-        EXPECT_EQ(b.dialoghi.messaggi, Boxes{guasto}) << breve;
+        EXPECT_EQ(b.riquadri.messaggi, Messaggi{guasto}) << breve;
         EXPECT_EQ(b.finestra.cmdEsci.Caption(), "a") << breve;
         EXPECT_EQ(b.finestra.es.Caption(), "") << breve;
     }
@@ -124,7 +124,7 @@ TEST(UpdateString, AnIdThatIsNoNumberIsAReadError) {
     for (const char* id : {"x", "", "1.5", "99999999999999999999"}) {
         BancoLingua b;
         b.Applica(std::string(id) + ";CorvanaMainF;a\n");
-        EXPECT_EQ(b.dialoghi.messaggi, Boxes{guasto}) << id;
+        EXPECT_EQ(b.riquadri.messaggi, Messaggi{guasto}) << id;
     }
 }
 
@@ -132,13 +132,13 @@ TEST(UpdateString, AZeroByteInATextDoesNoHarm) {
     BancoLingua b;
     b.Applica(std::string("1;CorvanaMainF;a\0b\n3;CorvanaMainF;c\n", 36));
     EXPECT_EQ(b.finestra.es.Caption(), "c");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(UpdateString, TenMegabytesWithoutALineAreAReadError) {
     BancoLingua b;
     b.Applica(std::string(10'000'000, 'x'));
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{guasto});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{guasto});
 }
 
 TEST(UpdateString, AListRowIsReplacedAndTheSelectionStays) {
@@ -154,13 +154,13 @@ TEST(UpdateString, ATargetThatTheWindowHasntIsPassedOver) {
     BancoLingua b;
     b.Applica("2;CorvanaMainF;no such control\n1;CorvanaMainF;a\n");
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "a");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 RC_GTEST_PROP(UpdateString, AnyBytesGiveTheReadErrorOrNothing, (const std::string& contenuto)) {
     BancoLingua b;
     b.Applica(contenuto);
-    RC_ASSERT(b.dialoghi.messaggi.empty() || b.dialoghi.messaggi == Boxes{guasto});
+    RC_ASSERT(b.riquadri.messaggi.empty() || b.riquadri.messaggi == Messaggi{guasto});
 }
 
 RC_GTEST_PROP(UpdateString, AnyTextOfARowGoesInWhole, ()) {
@@ -175,13 +175,13 @@ TEST(UpdateString, AFileFarTooLongIsToldAndNothingOfItIsApplied) {
     BancoLingua b;
     b.Applica("1;CorvanaMainF;Esci\n" + std::string(limiteTesti, '\n'));
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "");
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{guasto});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{guasto});
     std::string lungo = "1;CorvanaMainF;Esci\n";
     while (lungo.size() + 20 < limiteTesti)
         lungo += "9999;frmAbout;text\n";
     b.Applica(lungo);
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "Esci");
-    EXPECT_EQ(b.dialoghi.messaggi.size(), 1U);
+    EXPECT_EQ(b.riquadri.messaggi.size(), 1U);
 }
 
 }  // namespace corvana::prova

@@ -8,7 +8,7 @@
 #include "core/settings.h"
 #include "tests/core/temporary_folder.h"
 #include "tests/support/full_disk.h"
-#include "tests/support/scripted_dialogs.h"
+#include "tests/support/scripted_boxes.h"
 
 namespace corvana::prova {
 
@@ -144,25 +144,25 @@ TEST(FileReali, AFolderIsMadeWithThoseAboveItAndMayBeThere) {
 TEST(ImpostazioniSuDisco, AreMadeInAFolderThatIsMadeWithThem) {
     const CartellaProvvisoria cartella;
     FileReali file;
-    DialoghiDaCopione dialoghi;
-    Impostazioni impostazioni(file, dialoghi, cartella.Di("config/corvana/settings"));
+    RiquadriDaCopione riquadri;
+    Impostazioni impostazioni(file, riquadri, cartella.Di("config/corvana/settings"));
     impostazioni.Prepara();
     EXPECT_EQ(Contenuto(cartella.Di("config/corvana/settings")),
               "Language=\nCorvanaLastS=\nLastDir=\nIntoLastS=\n");
     impostazioni.ScriviValore("LastDir", "/perché\n");
     EXPECT_EQ(impostazioni.LeggiValore("LastDir"), "/perché\n");
-    EXPECT_TRUE(dialoghi.messaggi.empty());
+    EXPECT_TRUE(riquadri.messaggi.empty());
 }
 
 TEST(ImpostazioniSuDisco, TellTheSystemsErrorCodes) {
     const CartellaProvvisoria cartella;
     FileReali file;
-    DialoghiDaCopione dialoghi;
-    Impostazioni assenti(file, dialoghi, cartella.Di("none"));
-    Impostazioni cartelle(file, dialoghi, cartella.Di(""));
+    RiquadriDaCopione riquadri;
+    Impostazioni assenti(file, riquadri, cartella.Di("none"));
+    Impostazioni cartelle(file, riquadri, cartella.Di(""));
     EXPECT_EQ(assenti.LeggiValore("Language"), "");
     EXPECT_EQ(cartelle.LeggiValore("Language"), "");
-    EXPECT_EQ(dialoghi.messaggi,
+    EXPECT_EQ(riquadri.messaggi,
               (std::vector<std::string>{"Error1 Opening key: 2",
                                         "Error1 Opening key: " + std::to_string(EISDIR)}));
     assenti.ScriviValore("Language", "en");
@@ -172,12 +172,12 @@ TEST(ImpostazioniSuDisco, TellTheSystemsErrorCodes) {
 TEST(ImpostazioniSuDisco, FiftyMegabytesArePutAsideUnread) {
     const CartellaProvvisoria cartella;
     FileReali file;
-    DialoghiDaCopione dialoghi;
+    RiquadriDaCopione riquadri;
     file.ScriviAtomico(cartella.Di("settings"), std::string(50'000'000, '\n'));
-    Impostazioni impostazioni(file, dialoghi, cartella.Di("settings"));
+    Impostazioni impostazioni(file, riquadri, cartella.Di("settings"));
     impostazioni.Prepara();
     impostazioni.Prepara();
-    EXPECT_EQ(dialoghi.messaggi,
+    EXPECT_EQ(riquadri.messaggi,
               std::vector<std::string>{"Error1 Opening key: " + std::to_string(EFBIG)});
     EXPECT_EQ(Contenuto(cartella.Di("settings")),
               "Language=\nCorvanaLastS=\nLastDir=\nIntoLastS=\n");

@@ -9,7 +9,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Boxes = std::vector<std::string>;
+using Messaggi = std::vector<std::string>;
 
 const std::string intere = "Language=en\nCorvanaLastS=\nLastDir=\nIntoLastS=\n";
 
@@ -17,8 +17,8 @@ const std::string intere = "Language=en\nCorvanaLastS=\nLastDir=\nIntoLastS=\n";
 struct BancoImpostazioni {
     static constexpr const char* percorso = "/config/settings";
     FileInMemoria file;
-    DialoghiDaCopione dialoghi;
-    Impostazioni impostazioni{file, dialoghi, percorso};
+    RiquadriDaCopione riquadri;
+    Impostazioni impostazioni{file, riquadri, percorso};
 
     BancoImpostazioni() = default;
     explicit BancoImpostazioni(const std::string& contenuto) { Testo() = contenuto; }
@@ -31,40 +31,40 @@ TEST(Impostazioni, WhatWasWrittenIsRead) {
     BancoImpostazioni b("Language=\n");
     b.impostazioni.ScriviValore("Language", "en");
     EXPECT_EQ(b.impostazioni.LeggiValore("Language"), "en");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(Impostazioni, ReadingAnAbsentValueShowsError2AndYieldsAnEmptyText) {
     BancoImpostazioni b("Language=en\n");
     EXPECT_EQ(b.impostazioni.LeggiValore("CorvanaLastS"), "");
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"Error2 Querying key: 2"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Error2 Querying key: 2"});
 }
 
 TEST(Impostazioni, ReadingWithTheStoreAbsentShowsError1) {
     BancoImpostazioni b;
     EXPECT_EQ(b.impostazioni.LeggiValore("Language"), "");
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"Error1 Opening key: 2"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Error1 Opening key: 2"});
 }
 
 TEST(Impostazioni, AnyOtherErrorOfTheStoreIsToldWithItsCode) {
     BancoImpostazioni b("Language=en\n");
     b.file.erroreLeggi = EACCES;
     EXPECT_EQ(b.impostazioni.LeggiValore("Language"), "");
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"Error1 Opening key: 13"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Error1 Opening key: 13"});
 }
 
 TEST(Impostazioni, AValueThatCantBeReadShowsError3) {
     for (const char* rotto : {"a\\x", "\\", "abc\\"}) {
         BancoImpostazioni b(std::string("Language=") + rotto + "\n");
         EXPECT_EQ(b.impostazioni.LeggiValore("Language"), "") << rotto;
-        EXPECT_EQ(b.dialoghi.messaggi, Boxes{"Error3 Querying key: 84"}) << rotto;
+        EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Error3 Querying key: 84"}) << rotto;
     }
 }
 
 TEST(Impostazioni, AnEmptyValueIsReadWithoutABox) {
     BancoImpostazioni b("Language=\n");
     EXPECT_EQ(b.impostazioni.LeggiValore("Language"), "");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(Impostazioni, AStoredTextIsCutAtItsFirstZeroCharacter) {
@@ -79,14 +79,14 @@ TEST(Impostazioni, WritingWithTheStoreAbsentDoesNothingAndSaysNothing) {
     BancoImpostazioni b;
     b.impostazioni.ScriviValore("Language", "en");
     EXPECT_TRUE(b.file.contenuti.empty());
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(Impostazioni, AFailedWriteSaysNothingAndLeavesTheOldValue) {
     BancoImpostazioni b("Language=it\n");
     b.file.erroreScrivi = ENOSPC;
     b.impostazioni.ScriviValore("Language", "en");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_EQ(b.impostazioni.LeggiValore("Language"), "it");
 }
 
@@ -100,7 +100,7 @@ TEST(Impostazioni, WritingOneValueLeavesTheOthersAndAddsANewOne) {
 TEST(Impostazioni, NamesAreComparedWithCase) {
     BancoImpostazioni b("Language=it\n");
     EXPECT_EQ(b.impostazioni.LeggiValore("language"), "");
-    EXPECT_EQ(b.dialoghi.messaggi.size(), 1U);
+    EXPECT_EQ(b.riquadri.messaggi.size(), 1U);
 }
 
 TEST(Impostazioni, TheFirstStartMakesTheStoreWithFourEmptyValuesAndNoBox) {
@@ -108,14 +108,14 @@ TEST(Impostazioni, TheFirstStartMakesTheStoreWithFourEmptyValuesAndNoBox) {
     b.impostazioni.Prepara();
     for (const char* nome : {"Language", "CorvanaLastS", "LastDir", "IntoLastS"})
         EXPECT_EQ(b.impostazioni.LeggiValore(nome), "") << nome;
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(Impostazioni, AStoreThatIsThereIsLeftAsItIs) {
     BancoImpostazioni b(intere + "more=\nno value\n");
     b.impostazioni.Prepara();
     EXPECT_EQ(b.Testo(), intere + "more=\nno value\n");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(Impostazioni, ADamagedStoreIsToldOnceAndPutAsideAndAFreshOneTakesItsPlace) {
@@ -130,20 +130,20 @@ TEST(Impostazioni, ADamagedStoreIsToldOnceAndPutAsideAndAFreshOneTakesItsPlace) 
              {std::string(limiteTesti + 1, 'x'), "Error1 Opening key: 27"}}) {
         BancoImpostazioni b(rovinate);
         b.impostazioni.Prepara();
-        EXPECT_EQ(b.dialoghi.messaggi, Boxes{box});
+        EXPECT_EQ(b.riquadri.messaggi, Messaggi{box});
         EXPECT_EQ(b.file.contenuti[std::string(b.percorso) + ".damaged"], rovinate);
         EXPECT_EQ(b.Testo(), "Language=\nCorvanaLastS=\nLastDir=\nIntoLastS=\n");
         b.impostazioni.Prepara();
         for (const char* nome : {"Language", "CorvanaLastS", "LastDir", "IntoLastS"})
             EXPECT_EQ(b.impostazioni.LeggiValore(nome), "") << nome;
-        EXPECT_EQ(b.dialoghi.messaggi.size(), 1U);
+        EXPECT_EQ(b.riquadri.messaggi.size(), 1U);
     }
 }
 
 TEST(Impostazioni, WhatCanBeReadOfADamagedStoreIsKept) {
     BancoImpostazioni b("CorvanaLastS=43;\\\nLanguage=en\nLastDir=/a\\\\b\nmore=1\n");
     b.impostazioni.Prepara();
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"Error3 Querying key: 84"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Error3 Querying key: 84"});
     EXPECT_EQ(b.Testo(), "Language=en\nCorvanaLastS=\nLastDir=/a\\\\b\nIntoLastS=\n");
 }
 
@@ -152,7 +152,7 @@ TEST(Impostazioni, ADamagedStoreThatCantBePutAsideStaysAndIsToldAgain) {
     b.file.erroreScrivi = EROFS;
     for (int volta = 1; volta <= 2; ++volta) {
         b.impostazioni.Prepara();
-        EXPECT_EQ(b.dialoghi.messaggi.size(), static_cast<std::size_t>(volta));
+        EXPECT_EQ(b.riquadri.messaggi.size(), static_cast<std::size_t>(volta));
     }
     EXPECT_EQ(b.Testo(), "garbage");
     EXPECT_EQ(b.file.contenuti.size(), 1U);
@@ -161,7 +161,7 @@ TEST(Impostazioni, ADamagedStoreThatCantBePutAsideStaysAndIsToldAgain) {
 TEST(Impostazioni, AFileFarTooLongIsntReadAtAnyTime) {
     BancoImpostazioni b(intere + std::string(limiteTesti, '\n'));
     EXPECT_EQ(b.impostazioni.LeggiValore("Language"), "");
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"Error1 Opening key: 27"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Error1 Opening key: 27"});
     b.impostazioni.ScriviValore("Language", "it");
     EXPECT_EQ(b.file.scritture, 0);
 }
@@ -179,7 +179,7 @@ TEST(Impostazioni, WhereNothingCanBeWrittenTheProgramRunsAndForgets) {
     b.file.erroreScrivi = EROFS;
     b.impostazioni.Prepara();
     b.impostazioni.ScriviValore("Language", "en");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_TRUE(b.file.contenuti.empty());
 }
 
@@ -195,9 +195,9 @@ RC_GTEST_PROP(Impostazioni, AnyBytesInTheFileGiveAValueOrABox, (const std::strin
     BancoImpostazioni b(contenuto);
     b.impostazioni.LeggiValore("Language");
     b.impostazioni.ScriviValore("Language", "en");
-    b.dialoghi.messaggi.clear();
+    b.riquadri.messaggi.clear();
     RC_ASSERT(b.impostazioni.LeggiValore("Language") == "en");
-    RC_ASSERT(b.dialoghi.messaggi.empty());
+    RC_ASSERT(b.riquadri.messaggi.empty());
 }
 
 }  // namespace corvana::prova

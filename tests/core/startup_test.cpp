@@ -24,7 +24,7 @@ TEST(Main, ASecondCopyShowsTheMessageAndEndsAtOnce) {
     BancoAvvio b;
     const auto prima = b.file.contenuti;
     EXPECT_FALSE(b.Parti(true));
-    EXPECT_EQ(b.dialoghi.messaggi, std::vector<std::string>{"The program is already running !!!"});
+    EXPECT_EQ(b.riquadri.messaggi, std::vector<std::string>{"The program is already running !!!"});
     EXPECT_EQ(b.mostrata, 0);
     EXPECT_EQ(b.globali.PercorsoLingua, "");
     EXPECT_EQ(b.file.contenuti, prima);
@@ -56,7 +56,7 @@ TEST(Main, AFailedReadShowsItsBoxAndGivesItalian) {
     BancoAvvio b;
     b.file.contenuti.clear();
     EXPECT_TRUE(b.Parti());
-    EXPECT_EQ(b.dialoghi.messaggi, std::vector<std::string>{"Error1 Opening key: 2"});
+    EXPECT_EQ(b.riquadri.messaggi, std::vector<std::string>{"Error1 Opening key: 2"});
     EXPECT_EQ(b.globali.PercorsoLingua, "/programma/langit.csv");
     EXPECT_EQ(b.mostrata, 1);
 }
@@ -65,7 +65,7 @@ TEST(Main, AnAbsentValueShowsItsBoxAndGivesItalian) {
     BancoAvvio b;
     b.file.contenuti[Banco::percorsoImpostazioni] = "LastDir=\n";
     EXPECT_TRUE(b.Parti());
-    EXPECT_EQ(b.dialoghi.messaggi, std::vector<std::string>{"Error2 Querying key: 2"});
+    EXPECT_EQ(b.riquadri.messaggi, std::vector<std::string>{"Error2 Querying key: 2"});
     EXPECT_FALSE(b.globali.NomiAnglo);
 }
 

@@ -63,7 +63,7 @@ TEST(TabelleLingua, TheExplanationOfTheMetronomeStandsInTwoParagraphs) {
         const Testi testi = PerId(lingua);
         EXPECT_EQ(finestra.Caption(), testi.at(69));
         EXPECT_EQ(finestra.Text1.Text(), testi.at(73) + "\r\n\r\n" + testi.at(74));
-        EXPECT_TRUE(banco.dialoghi.messaggi.empty());
+        EXPECT_TRUE(banco.riquadri.messaggi.empty());
     }
 }
 

@@ -123,7 +123,7 @@ int main(int argc, char** argv) {
     const QTemporaryDir stato;
     const Macchina macchina = MacchinaMuta(QString::fromLocal8Bit(argv[2]), stato);
     Scrivania& scrivania = applicazione.LaScrivania();
-    scrivania.Avvia([&] { EseguiProgramma(applicazione, macchina); });
+    scrivania.Avvia([&] { LogicaDelProgramma(applicazione, macchina); });
     Fotografo f(scrivania, argv[1]);
     f.Attendi("CorvanaMainF");
     Deve(Aspetta([&] { return f.Di("Start").isEnabled(); }));

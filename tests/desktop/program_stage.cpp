@@ -20,7 +20,7 @@ Macchina MacchinaMuta(const QString& dati, const QTemporaryDir& stato) {
 
 PalcoProgramma::PalcoProgramma(const QString& dati) {
     scrivania.Avvia([this, macchina = MacchinaMuta(dati.isEmpty() ? stato_.path() : dati, stato_)] {
-        EseguiProgramma(applicazione_, macchina);
+        LogicaDelProgramma(applicazione_, macchina);
     });
     AspettaFinestra(scrivania, QStringLiteral("CorvanaMainF"));
     Aspetta([this] { return Trova(scrivania, QStringLiteral("Start")).isEnabled(); });

@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 
 #include "desktop/application.h"
-#include "desktop/program.h"
+#include "desktop/logic.h"
 #include "tests/desktop/screen.h"
 
 namespace corvana::prova {

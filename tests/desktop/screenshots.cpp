@@ -132,7 +132,7 @@ int main(int argc, char** argv) {
     const QTemporaryDir stato;
     const Macchina macchina = MacchinaMuta(QString::fromLocal8Bit(argv[2]), stato);
     Scrivania& scrivania = applicazione.LaScrivania();
-    scrivania.Avvia([&] { EseguiProgramma(applicazione, macchina); });
+    scrivania.Avvia([&] { LogicaDelProgramma(applicazione, macchina); });
     AspettaFinestra(scrivania, "CorvanaMainF");
     Servizio servizio(scrivania, QString::fromLocal8Bit(argv[1]),
                       argc > 3 ? std::atof(argv[3]) : 1);

@@ -28,7 +28,7 @@ void Palco::Logica(const std::function<void(FormDiProva&)>& prepara) {
     }
     if (prepara) prepara(form);
     finestre.Mostra(form);
-    finestre.Esegui();
+    finestre.FinoAllUltima();
 }
 
 void Palco::Serve(FormDiProva& form) {

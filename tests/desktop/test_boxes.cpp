@@ -19,14 +19,14 @@ QMessageBox& Messaggio(Palco& palco) {
 TEST(Riquadri, AMessageHoldsTheLogicAndNotTheWindows) {
     Palco palco;
     palco.Ordina([](FormDiProva& form) {
-        form.dialoghi.MsgBox("Errore\r\nuno");
+        form.riquadri.MsgBox("Errore\r\nuno");
         form.scritta.Caption = "dopo";
     });
-    QMessageBox& box = Messaggio(palco);
-    EXPECT_EQ(box.text(), "Errore\nuno");
-    EXPECT_EQ(box.windowTitle(), "Corvana");
+    QMessageBox& riquadro = Messaggio(palco);
+    EXPECT_EQ(riquadro.text(), "Errore\nuno");
+    EXPECT_EQ(riquadro.windowTitle(), "Corvana");
     EXPECT_EQ(Trova(palco.scrivania, "scritta").accessibleName(), "Una scritta");
-    box.button(QMessageBox::Ok)->click();
+    riquadro.button(QMessageBox::Ok)->click();
     EXPECT_TRUE(
         Aspetta([&] { return Trova(palco.scrivania, "scritta").accessibleName() == "dopo"; }));
 }
@@ -35,7 +35,7 @@ TEST(Riquadri, AQuestionIsTrueForYesAlone) {
     for (const auto tasto : {QMessageBox::Yes, QMessageBox::No}) {
         Palco palco;
         palco.Ordina([](FormDiProva& form) {
-            form.scritta.Caption = form.dialoghi.Domanda("Salvare?") ? "si" : "no";
+            form.scritta.Caption = form.riquadri.Domanda("Salvare?") ? "si" : "no";
         });
         Messaggio(palco).button(tasto)->click();
         const QString attesa = tasto == QMessageBox::Yes ? "si" : "no";
@@ -45,7 +45,7 @@ TEST(Riquadri, AQuestionIsTrueForYesAlone) {
 }
 
 void ChiediNome(FormDiProva& form) {
-    const auto nome = form.dialoghi.InputBox("Nome?", "Voce", "canto");
+    const auto nome = form.riquadri.InputBox("Nome?", "Voce", "canto");
     form.scritta.Caption = nome ? "[" + *nome + "]" : "niente";
 }
 
@@ -54,11 +54,11 @@ TEST(Riquadri, AnInputBoxGivesItsTextOrNothing) {
         Palco palco;
         palco.Ordina(ChiediNome);
         ASSERT_TRUE(Aspetta([&] { return palco.scrivania.Riquadro() != nullptr; }));
-        auto& box = dynamic_cast<QInputDialog&>(*palco.scrivania.Riquadro());
-        EXPECT_EQ(box.textValue(), "canto");
-        EXPECT_EQ(box.windowTitle(), "Voce");
-        box.setTextValue("basso");
-        accettato ? box.accept() : box.reject();
+        auto& riquadro = dynamic_cast<QInputDialog&>(*palco.scrivania.Riquadro());
+        EXPECT_EQ(riquadro.textValue(), "canto");
+        EXPECT_EQ(riquadro.windowTitle(), "Voce");
+        riquadro.setTextValue("basso");
+        accettato ? riquadro.accept() : riquadro.reject();
         const QString attesa = accettato ? "[basso]" : "niente";
         EXPECT_TRUE(
             Aspetta([&] { return Trova(palco.scrivania, "scritta").accessibleName() == attesa; }));
@@ -67,7 +67,7 @@ TEST(Riquadri, AnInputBoxGivesItsTextOrNothing) {
 
 TEST(Riquadri, AQuitWhileABoxIsOpenLetsTheLogicGo) {
     Palco palco;
-    palco.Ordina([](FormDiProva& form) { form.dialoghi.MsgBox("Aspetto"); });
+    palco.Ordina([](FormDiProva& form) { form.riquadri.MsgBox("Aspetto"); });
     Messaggio(palco);
     palco.scrivania.Termina();
     EXPECT_TRUE(palco.scrivania.Finita());

@@ -116,10 +116,10 @@ TEST(Scrivania, ARoundedFormHasNoFrameOfTheSystems) {
 TEST(Scrivania, AnExceptionOfTheLogicIsTheProcesssFailure) {
     Scrivania scrivania;
     testing::internal::CaptureStderr();
-    EXPECT_EQ(scrivania.Esegui([] { throw std::runtime_error("rotto"); }), 1);
+    EXPECT_EQ(scrivania.OspitaLogica([] { throw std::runtime_error("rotto"); }), 1);
     EXPECT_NE(testing::internal::GetCapturedStderr().find("rotto"), std::string::npos);
     Scrivania altra;
-    EXPECT_EQ(altra.Esegui([] {}), 0);
+    EXPECT_EQ(altra.OspitaLogica([] {}), 0);
 }
 
 TEST(Scrivania, TheEndOfTheProgramEndsTheLogicWhateverItsWindowsAnswer) {
@@ -145,7 +145,7 @@ TEST(Scrivania, TheEndOfTheProgramEndsALongWait) {
 
 TEST(Scrivania, TheEndOfTheProgramAnswersTheBoxThatIsUp) {
     Palco palco;
-    palco.Ordina([](FormDiProva& form) { form.dialoghi.Domanda("Davvero?"); });
+    palco.Ordina([](FormDiProva& form) { form.riquadri.Domanda("Davvero?"); });
     ASSERT_TRUE(Aspetta([&] { return palco.scrivania.Riquadro() != nullptr; }));
     palco.scrivania.ChiediFine();
     EXPECT_TRUE(Aspetta([&] { return palco.scrivania.Finita(); }));
@@ -154,7 +154,7 @@ TEST(Scrivania, TheEndOfTheProgramAnswersTheBoxThatIsUp) {
 
 TEST(Scrivania, WithoutAScreenTheLogicEndsAsWell) {
     Palco palco;
-    palco.Ordina([](FormDiProva& form) { form.dialoghi.MsgBox("uno"); });
+    palco.Ordina([](FormDiProva& form) { form.riquadri.MsgBox("uno"); });
     EXPECT_TRUE(palco.scrivania.TerminaAlBuio(std::chrono::minutes(1)));
 }
 
@@ -171,7 +171,7 @@ TEST(Scrivania, ABoxThatOpensAfterTheEndWasAskedForHoldsNothingUp) {
     std::promise<void> chiesta;
     palco.Ordina([chiesta = chiesta.get_future().share()](FormDiProva& form) {
         chiesta.wait();
-        form.dialoghi.MsgBox("troppo tardi");
+        form.riquadri.MsgBox("troppo tardi");
     });
     palco.scrivania.ChiediFine();
     chiesta.set_value();

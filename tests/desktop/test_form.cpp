@@ -45,8 +45,8 @@ FormSopra::FormSopra() : Form("FormSopra") {
     ok.Caption = "OK";
 }
 
-FormDiProva::FormDiProva(Finestre& f, Dialoghi& d, Diario diario)
-    : Form("FormDiProva"), finestre(f), dialoghi(d), diario_(std::move(diario)) {
+FormDiProva::FormDiProva(Finestre& f, Riquadri& d, Diario diario)
+    : Form("FormDiProva"), finestre(f), riquadri(d), diario_(std::move(diario)) {
     Componi();
     for (Controllo* c : Controlli())
         if (c != this && c != &scritta && c != &cornice && c != &Regolo && c->Padre() != &staff &&

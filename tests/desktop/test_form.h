@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "forms/dialogs.h"
+#include "forms/boxes.h"
 #include "forms/form.h"
 #include "forms/windows.h"
 
@@ -21,7 +21,7 @@ class FormDiProva final : public Form {
 public:
     using Diario = std::function<void(std::string)>;
 
-    FormDiProva(Finestre& finestre, Dialoghi& dialoghi, Diario diario);
+    FormDiProva(Finestre& finestre, Riquadri& riquadri, Diario diario);
 
     VoceMenu File{*this, "File"}, Apri{*this, "Apri", &File}, Riga{*this, "Riga", &File},
         Altro{*this, "Altro", &File}, Uno{*this, "Uno", &Altro}, Aiuto{*this, "Aiuto"};
@@ -43,7 +43,7 @@ public:
 
     FormSopra sopra;
     Finestre& finestre;
-    Dialoghi& dialoghi;
+    Riquadri& riquadri;
     Pompa* pompa = nullptr;
     bool chiudibile = true;
 

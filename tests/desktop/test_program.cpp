@@ -49,7 +49,7 @@ TEST(Programma, ClosingTheMainWindowEndsIt) {
 TEST(Applicazione, ASystemThatWantsItToQuitIsObeyedWhateverTheWindowsAnswer) {
     int argc = 0;
     Applicazione applicazione(argc, nullptr);
-    const int esito = applicazione.Esegui([&] {
+    const int esito = applicazione.OspitaLogica([&] {
         OrologioReale orologio;
         Pompa pompa(orologio, applicazione.Coda());
         Finestre finestre(pompa, applicazione.Riquadri(), &applicazione.Schermo());
@@ -58,7 +58,7 @@ TEST(Applicazione, ASystemThatWantsItToQuitIsObeyedWhateverTheWindowsAnswer) {
         finestre.Mostra(form);
         // Qt forgets what was asked of it before its loop ran.
         QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);
-        finestre.Esegui();
+        finestre.FinoAllUltima();
     });
     EXPECT_EQ(esito, 0);
 }
@@ -67,7 +67,7 @@ TEST(Applicazione, ASignalToTerminateClosesTheWindows) {
     int argc = 0;
     Applicazione applicazione(argc, nullptr);
     std::vector<std::string> diario;
-    const int esito = applicazione.Esegui([&] {
+    const int esito = applicazione.OspitaLogica([&] {
         OrologioReale orologio;
         Pompa pompa(orologio, applicazione.Coda());
         Finestre finestre(pompa, applicazione.Riquadri(), &applicazione.Schermo());
@@ -75,7 +75,7 @@ TEST(Applicazione, ASignalToTerminateClosesTheWindows) {
                          [&](std::string riga) { diario.push_back(std::move(riga)); });
         finestre.Mostra(form);
         std::raise(SIGTERM);
-        finestre.Esegui();
+        finestre.FinoAllUltima();
     });
     EXPECT_EQ(esito, 0);
     EXPECT_NE(std::find(diario.begin(), diario.end(), "unload"), diario.end());

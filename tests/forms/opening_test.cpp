@@ -33,7 +33,7 @@ TEST(Finestre, WhatLoadingChangesIsShownWithTheWindowAndIsntToldTwice) {
 TEST(Finestre, ARequestToCloseUnloadsAndTellsTheMirror) {
     BancoFinestra b;
     b.Accoda(Fatto::Chiudi, "");
-    b.finestre.Esegui();
+    b.finestre.FinoAllUltima();
     EXPECT_EQ(b.finestra.diario, (Diario{"load", "activate", "unload"}));
     EXPECT_EQ(b.specchio.chiuse, (Diario{"frmProva"}));
     EXPECT_EQ(b.finestre.Davanti(), nullptr);
@@ -70,7 +70,7 @@ TEST(Finestre, TheProgramRunsUntilTheLastWindowIsGone) {
     b.finestre.Mostra(f);
     b.Clicca(1, "bottone");
     b.Fa(2, Fatto::Chiudi, "");
-    EXPECT_FALSE(b.Esegui([&] { b.finestre.Esegui(); }));
+    EXPECT_FALSE(b.SvolgiCopione([&] { b.finestre.FinoAllUltima(); }));
     EXPECT_DOUBLE_EQ(b.orologio.Adesso(), 2);
     EXPECT_EQ(f.diario, (Diario{"load", "activate", "click", "unload"}));
 }
@@ -81,7 +81,7 @@ TEST(Finestre, AWindowThatClosesItselfOnActivationIsGone) {
     f.allAttivazione = [&] { b.finestre.Scarica(f); };
     b.finestre.Mostra(f);
     EXPECT_EQ(b.finestre.Davanti(), nullptr);
-    b.finestre.Esegui();
+    b.finestre.FinoAllUltima();
 }
 
 TEST(Modale, ShowingReturnsWhenItHasClosedAndTheWindowBeneathIsActivatedAnew) {
@@ -94,7 +94,7 @@ TEST(Modale, ShowingReturnsWhenItHasClosedAndTheWindowBeneathIsActivatedAnew) {
     b.Clicca(1, "bottone");
     b.Fa(2, Fatto::Chiudi, "");
     b.Fine(3);
-    EXPECT_TRUE(b.Esegui([&] { b.finestre.Esegui(); }));
+    EXPECT_TRUE(b.SvolgiCopione([&] { b.finestre.FinoAllUltima(); }));
     EXPECT_EQ(b.finestra.diario, (Diario{"load", "activate", "activate", "returned"}));
     EXPECT_EQ(sopra.diario, (Diario{"load", "activate", "unload"}));
     EXPECT_EQ(b.specchio.mostrate, (Diario{"frmProva", "modal frmSopra"}));
@@ -109,7 +109,7 @@ TEST(Modale, WhileItIsUpOnlyItGetsEvents) {
     b.Quando(2, [&] { b.coda.Aggiungi(sotto); });
     b.Clicca(3, "dentro");
     b.Fine(4);
-    EXPECT_TRUE(b.Esegui([&] { b.finestre.Esegui(); }));
+    EXPECT_TRUE(b.SvolgiCopione([&] { b.finestre.FinoAllUltima(); }));
     EXPECT_EQ(b.finestra.diario, (Diario{"load", "activate"}));
     EXPECT_EQ(sopra.diario, (Diario{"load", "activate", "inner click"}));
 }
@@ -121,7 +121,7 @@ TEST(Modale, ARefusedCloseKeepsItUp) {
     b.Fa(1, Fatto::Chiudi, "");
     b.Quando(2, [&] { sopra.rifiuta = false; });
     b.Fa(3, Fatto::Chiudi, "");
-    EXPECT_FALSE(b.Esegui([&] { b.finestre.MostraModale(sopra); }));
+    EXPECT_FALSE(b.SvolgiCopione([&] { b.finestre.MostraModale(sopra); }));
     EXPECT_DOUBLE_EQ(b.orologio.Adesso(), 3);
     EXPECT_EQ(b.finestre.Davanti(), &b.finestra);
 }
@@ -133,7 +133,7 @@ TEST(Modale, TwoLieUponEachOtherAndCloseInTurn) {
     b.Clicca(1, "bottone");
     b.Fa(2, Fatto::Chiudi, "");
     b.Fa(3, Fatto::Chiudi, "");
-    EXPECT_FALSE(b.Esegui([&] { b.finestre.MostraModale(sopra); }));
+    EXPECT_FALSE(b.SvolgiCopione([&] { b.finestre.MostraModale(sopra); }));
     EXPECT_EQ(b.specchio.chiuse, (Diario{"frmCima", "frmSopra"}));
     EXPECT_EQ(sopra.diario, (Diario{"load", "activate", "activate", "unload"}));
 }
@@ -144,8 +144,8 @@ TEST(Modale, AFaultInItIsShownAndItStaysUp) {
     sopra.bottone.Click = [] { throw std::runtime_error("wrong"); };
     b.Clicca(1, "bottone");
     b.Fa(2, Fatto::Chiudi, "");
-    EXPECT_FALSE(b.Esegui([&] { b.finestre.MostraModale(sopra); }));
-    EXPECT_EQ(b.dialoghi.messaggi, (Diario{"51\r\nwrong"}));
+    EXPECT_FALSE(b.SvolgiCopione([&] { b.finestre.MostraModale(sopra); }));
+    EXPECT_EQ(b.riquadri.messaggi, (Diario{"51\r\nwrong"}));
     EXPECT_DOUBLE_EQ(b.orologio.Adesso(), 2);
 }
 

@@ -19,7 +19,7 @@ struct BancoFine : BancoFinestra {
     /// Runs until the last window is gone. The script goes on long after that.
     void Vai() {
         Fine(1000);
-        EXPECT_FALSE(Esegui([this] { finestre.Esegui(); }));
+        EXPECT_FALSE(SvolgiCopione([this] { finestre.FinoAllUltima(); }));
         EXPECT_EQ(finestre.Davanti(), nullptr);
     }
 };
@@ -205,7 +205,7 @@ TEST(FineProgramma, ItIsAskedForWhileTheFirstWindowIsActivated) {
     f.allAttivazione = [&] { b.pompa.Attendi(2); };
     b.Quando(1, [&] { b.coda.ChiediFine(); });
     b.Fine(1000);
-    EXPECT_FALSE(b.Esegui([&] { b.finestre.Esegui([&] { b.finestre.Mostra(f); }); }));
+    EXPECT_FALSE(b.SvolgiCopione([&] { b.finestre.FinoAllUltima([&] { b.finestre.Mostra(f); }); }));
     EXPECT_EQ(f.diario, (Diario{"load", "activate", "unload"}));
 }
 

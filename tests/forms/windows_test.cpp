@@ -40,7 +40,7 @@ TEST(Consegna, AControlWithoutAHandlerTakesTheEventInSilence) {
         b.Accoda(fatto, "figura");
     b.Consegna();
     EXPECT_TRUE(b.Visto().empty());
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(Consegna, ADisabledOrHiddenControlGetsNothing) {
@@ -150,7 +150,7 @@ TEST(Consegna, AFaultThatEscapesAHandlerIsShownAndTheProgramGoesOn) {
     b.Accoda(Fatto::Click, "voce");
     b.Accoda(Fatto::Click, "bottone");
     b.Consegna();
-    EXPECT_EQ(b.dialoghi.messaggi, (Diario{"6\r\nOverflow", "51\r\nwrong"}));
+    EXPECT_EQ(b.riquadri.messaggi, (Diario{"6\r\nOverflow", "51\r\nwrong"}));
     EXPECT_EQ(b.Visto(), (Diario{"click"}));
 }
 
@@ -160,7 +160,7 @@ TEST(Consegna, AFaultInAKeyHandlerLeavesTheKeyHeld) {
     b.AccodaTasto(Fatto::KeyDown, 68);
     b.Consegna();
     EXPECT_TRUE(b.finestre.Tasti().Premuto(68));
-    EXPECT_EQ(b.dialoghi.messaggi, (Diario{"13\r\nType mismatch"}));
+    EXPECT_EQ(b.riquadri.messaggi, (Diario{"13\r\nType mismatch"}));
 }
 
 TEST(Consegna, TheEndOfTheScriptIsNoFault) {
@@ -168,7 +168,7 @@ TEST(Consegna, TheEndOfTheScriptIsNoFault) {
     b.finestra.bottone.Click = [] { throw FineCopione{}; };
     b.Accoda(Fatto::Click, "bottone");
     EXPECT_THROW(b.Consegna(), FineCopione);
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(Consegna, AHandlerMayPumpAndWhatWaitsRunsInsideOfIt) {

@@ -8,7 +8,7 @@
 
 #include "composer/composer.h"
 #include "tests/support/memory_files.h"
-#include "tests/support/scripted_dialogs.h"
+#include "tests/support/scripted_boxes.h"
 
 namespace corvana::prova {
 
@@ -20,9 +20,9 @@ struct PalcoMelodia {
     PalcoMelodia(Orologio& orologio, ArchivioFile& file, const FaiUscita& faiUscita,
                  Specchio* specchio = nullptr)
         : pompa(orologio, coda),
-          finestre(pompa, dialoghi, specchio),
+          finestre(pompa, riquadri, specchio),
           uscita(faiUscita([this] { return pompa.Adesso(); })),
-          finestra({globali, pompa, finestre, dialoghi, suono, impostazioni, file, casuale},
+          finestra({globali, pompa, finestre, riquadri, suono, impostazioni, file, casuale},
                    {[] { return "Piano"; }, [] { return "Organo"; }, {}}) {
         globali.CartellaProgramma = "/programma";
         impostazioni.Prepara();
@@ -59,12 +59,12 @@ struct PalcoMelodia {
 
     CodaEventi coda;
     Pompa pompa;
-    DialoghiDaCopione dialoghi;
+    RiquadriDaCopione riquadri;
     Finestre finestre;
     std::unique_ptr<PiattaformaMidi> uscita;
-    Suono suono{*uscita, pompa, dialoghi};
+    Suono suono{*uscita, pompa, riquadri};
     FileInMemoria fileImpostazioni;
-    Impostazioni impostazioni{fileImpostazioni, dialoghi, "/config/settings"};
+    Impostazioni impostazioni{fileImpostazioni, riquadri, "/config/settings"};
     CasualeFisso casuale;
     Globali globali;
     frmComposer finestra;

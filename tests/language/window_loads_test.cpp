@@ -17,7 +17,7 @@ struct BancoCaricato : BancoProgramma {
         globali.PercorsoLingua = "/programma/lang.csv";
         if (!riga.empty()) file.contenuti[globali.PercorsoLingua] = riga + '\n';
         form.Form_Load();
-        EXPECT_TRUE(dialoghi.messaggi.empty());
+        EXPECT_TRUE(riquadri.messaggi.empty());
     }
 };
 

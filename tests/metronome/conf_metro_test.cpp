@@ -234,7 +234,7 @@ TEST(ConfMetro, WithoutADeviceItWorksInSilence) {
     b.Vai(8);
     EXPECT_EQ(b.stato.MetroNotaA, 38);
     EXPECT_TRUE(b.uscita.messaggi.empty());
-    EXPECT_EQ(b.dialoghi.messaggi.size(), 1U) << "only the box of the device that didn't open";
+    EXPECT_EQ(b.riquadri.messaggi.size(), 1U) << "only the box of the device that didn't open";
 }
 
 }  // namespace corvana::prova

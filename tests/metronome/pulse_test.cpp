@@ -126,7 +126,7 @@ TEST(Pulsi, ClosingTheWindowWhileItTicksHasNoEffect) {
     EXPECT_TRUE(b.Vai(9.5));
     EXPECT_TRUE(b.stato.MetroAttivo);
     EXPECT_EQ(b.Pulsi().size(), 5U);
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(Pulsi, WhileItRunsTheMenusTheSetUpAndTheExitAreOff) {
@@ -161,7 +161,7 @@ TEST(Pulsi, WithNoDeviceItIsSilentAndDarkWithoutAWord) {
     b.Clicca(4, "cmdSSmetro");
     b.Clicca(9, "cmdSSmetro");
     b.Vai(10);
-    EXPECT_EQ(b.dialoghi.messaggi.size(), 1U) << "only the box of the device that didn't open";
+    EXPECT_EQ(b.riquadri.messaggi.size(), 1U) << "only the box of the device that didn't open";
     EXPECT_TRUE(b.uscita.messaggi.empty());
     EXPECT_FALSE(b.stato.MetroAttivo);
 }
@@ -170,7 +170,7 @@ TEST(Pulsi, AFailedMessagesBoxTakesTimeThatIsNotMadeUp) {
     BancoPulsi b;
     b.Clicca(4, "cmdSSmetro");
     b.Quando(4.5, [&] { b.uscita.esitoShortMsg = 6; });
-    b.dialoghi.durante = [&](const std::string&) {
+    b.riquadri.durante = [&](const std::string&) {
         b.uscita.esitoShortMsg = 0;
         b.orologio.AspettaFino(5.7);
     };

@@ -11,7 +11,7 @@
 #include "sound/sound.h"
 #include "tests/outputs/hearing.h"
 #include "tests/outputs/sound_server.h"
-#include "tests/support/scripted_dialogs.h"
+#include "tests/support/scripted_boxes.h"
 
 namespace corvana {
 namespace {
@@ -30,9 +30,9 @@ public:
     OrologioReale orologio;
     CodaEventi coda;
     Pompa pompa{orologio, coda};
-    prova::DialoghiDaCopione dialoghi;
+    prova::RiquadriDaCopione riquadri;
     UsciteReali uscite;
-    Suono suono{uscite, pompa, dialoghi};
+    Suono suono{uscite, pompa, riquadri};
 };
 
 class FlussoAudioVero : public testing::Test {
@@ -157,7 +157,7 @@ TEST_F(FlussoAudioVero, AServerThatDiesHoldsNothingUpAndOneThatComesBackIsTakenU
     EXPECT_FALSE(programma.uscite.Udibile());
     for (int i = 0; i < 5000; ++i)
         programma.suono.NotaOn(1, 60, 100);
-    EXPECT_TRUE(programma.dialoghi.messaggi.empty());
+    EXPECT_TRUE(programma.riquadri.messaggi.empty());
     AvviaServer();
     EXPECT_TRUE(DiventaUdibile(server, programma));
     AspettatiNota(server, programma, 67);
@@ -169,7 +169,7 @@ TEST_F(FlussoAudioVero, WithoutADeviceEverythingWorksUnheardUntilOneAppears) {
     programma.suono.CambiaStrumento(73, 0);
     for (int i = 0; i < 5000; ++i)
         programma.suono.NotaOn(1, 60, 100);
-    EXPECT_TRUE(programma.dialoghi.messaggi.empty());
+    EXPECT_TRUE(programma.riquadri.messaggi.empty());
     AvviaServer();
     EXPECT_TRUE(DiventaUdibile(server, programma));
     AspettatiNota(server, programma, 69);

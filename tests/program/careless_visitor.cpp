@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "core/text.h"
-#include "trainer/keys.h"
+#include "trainer/answer_keys.h"
 
 namespace corvana::prova {
 
@@ -53,7 +53,7 @@ void Vagabondo::Avvia() {
     if (Capita(100)) banco_->uscita.esitoOpen = 4;
     prima_.reset();
     banco_->Quando(0, [this] { Passo(); });
-    const bool svolta = banco_->Esegui([this] { banco_->programma.Esegui(false); });
+    const bool svolta = banco_->SvolgiCopione([this] { banco_->programma.DaMainAllaFine(false); });
     if (!svolta) ControllaChiusa();
     pulsi += static_cast<int>(banco_->Pulsi().size());
     secondi += banco_->orologio.Adesso();
@@ -163,7 +163,7 @@ void Vagabondo::Esigi(bool vero, const std::string& cosa) {
 }
 
 void Vagabondo::Controlla() {
-    ControllaBoxes();
+    ControllaRiquadri();
     const StatoMetronomo& m = banco_->stato;
     const CorvanaMainF& f = banco_->finestra;
     Esigi(!m.MetroSequenza.empty() && m.MetroSequenza.size() <= 20, "no pattern");
@@ -180,10 +180,10 @@ void Vagabondo::Controlla() {
         ControllaFermo();
 }
 
-void Vagabondo::ControllaBoxes() {
-    for (const std::string& testo : banco_->dialoghi.messaggi)
+void Vagabondo::ControllaRiquadri() {
+    for (const std::string& testo : banco_->riquadri.messaggi)
         Esigi(testo.starts_with("Operation:"), "a box: " + testo);
-    banco_->dialoghi.messaggi.clear();
+    banco_->riquadri.messaggi.clear();
 }
 
 /// In an automatic run, and only there, notes have been shown by the clock.

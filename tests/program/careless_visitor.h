@@ -56,7 +56,7 @@ private:
     /// Notes the first thing that is wrong and ends the script.
     void Esigi(bool vero, const std::string& cosa);
     void Controlla();
-    void ControllaBoxes();
+    void ControllaRiquadri();
     void ControllaCorsa();
     void ControllaFermo();
     void ControllaChiusa();

@@ -26,7 +26,7 @@ void EFermo(const BancoModi& b) {
     EXPECT_EQ(b.finestra.Start.Caption(), "Start");
     EXPECT_FALSE(b.finestra.InCorso);
     EXPECT_TRUE(b.finestra.Opzioni.Enabled());
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 }  // namespace
@@ -97,7 +97,7 @@ TEST(CambioModo, RightAnswersByHandInAnAutomaticRunCountAndBringTheNextNote) {
         EXPECT_EQ(b.finestra.conta.Text(), "4");
     });
     b.Vai(8.5);
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_EQ(b.finestra.Mostrate, 3);
     EXPECT_EQ(b.finestra.conta.Text(), "3");
 }

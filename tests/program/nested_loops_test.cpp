@@ -47,7 +47,7 @@ private:
         const CorvanaMainF& f = finestra;
         const bool automatica = f.InCorso && f.Mostrate > 0;
         const bool avanza = f.Mostrate != mostrate_ || Colpi() != colpi_;
-        Esigi(dialoghi.messaggi.empty(), "a box came");
+        Esigi(riquadri.messaggi.empty(), "a box came");
         Esigi(f.Start.Caption() == (f.InCorso ? "Stop" : "Start"), "the caption of Start");
         Esigi(avanza == (automatica || stato.MetroAttivo), "what is shown doesn't run");
         Esigi(!f.InCorso || f.conta.Text() == std::to_string(automatica ? f.Mostrate : f.Esatte),

@@ -23,7 +23,7 @@ struct BancoProgramma : Banco {
     /// its window was closed before.
     bool Vai(double fine) {
         Fine(fine);
-        return Esegui([this] { programma.Esegui(false); });
+        return SvolgiCopione([this] { programma.DaMainAllaFine(false); });
     }
     void Slitta(double t, const std::string& barra, int valore) {
         Fa(t, Fatto::Change, barra, valore);

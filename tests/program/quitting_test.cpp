@@ -17,7 +17,7 @@ struct BancoUscita : BancoProgramma {
         EXPECT_EQ(finestre.Davanti(), nullptr);
         EXPECT_EQ(uscita.NoteAccese(), (std::vector<std::pair<int, int>>{}));
         EXPECT_EQ(uscita.aperto, 0) << "the device is open";
-        EXPECT_TRUE(dialoghi.messaggi.empty());
+        EXPECT_TRUE(riquadri.messaggi.empty());
     }
     std::string Stato() { return impostazioni.LeggiValore("CorvanaLastS"); }
 };
@@ -66,7 +66,7 @@ TEST(Uscita, AMetronomeWithoutADeviceStopsToo) {
     b.Clicca(4, "cmdSSmetro");
     b.Quando(5, [&] {
         EXPECT_TRUE(b.stato.MetroAttivo);
-        b.dialoghi.messaggi.clear();
+        b.riquadri.messaggi.clear();
     });
     b.EsciA(6);
     EXPECT_EQ(b.Stato(), StatoIniziale());
@@ -139,10 +139,10 @@ TEST(Uscita, ATestPhraseEndsWithItsNoteReleased) {
 TEST(Uscita, AskedForWhileABoxIsUpItEndsWhenTheBoxIsAnswered) {
     BancoUscita b;
     b.uscita.udibile = false;
-    b.dialoghi.durante = [&](const std::string&) { b.coda.ChiediFine(); };
+    b.riquadri.durante = [&](const std::string&) { b.coda.ChiediFine(); };
     b.Clicca(3, "mnuMetro");
     EXPECT_FALSE(b.Vai(1000));
-    EXPECT_EQ(b.dialoghi.messaggi.size(), 1U);
+    EXPECT_EQ(b.riquadri.messaggi.size(), 1U);
     EXPECT_FALSE(b.finestra.frmMetro.Visible());
     EXPECT_EQ(b.Stato(), StatoIniziale());
 }

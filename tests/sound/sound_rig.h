@@ -4,7 +4,7 @@
 #include "forms/virtual_clock.h"
 #include "sound/recorder.h"
 #include "sound/sound.h"
-#include "tests/support/scripted_dialogs.h"
+#include "tests/support/scripted_boxes.h"
 
 namespace corvana::prova {
 
@@ -13,8 +13,8 @@ struct BancoSuono {
     CodaEventi coda;
     Pompa pompa{orologio, coda};
     Registratore uscita{[this] { return pompa.Adesso(); }};
-    DialoghiDaCopione dialoghi;
-    Suono suono{uscita, pompa, dialoghi};
+    RiquadriDaCopione riquadri;
+    Suono suono{uscita, pompa, riquadri};
 
     /// With the default output open.
     BancoSuono() { suono.ApriMidi(dispositivoPredefinito); }
@@ -30,7 +30,7 @@ struct BancoSuono {
 };
 
 using Pacchetti = std::vector<std::uint32_t>;
-using Boxes = std::vector<std::string>;
+using Messaggi = std::vector<std::string>;
 
 /// A note on of channel 1 (velocity 0 for a note off), packed as the platform takes it.
 constexpr std::uint32_t Nota(std::uint32_t nota, std::uint32_t velocita) {

@@ -27,7 +27,7 @@ TEST(ApriMidi, AFailureShowsTheBoxReturnsFalseAndNothingIsOpen) {
     BancoSuono b;
     b.uscita.esitoOpen = 4;
     EXPECT_FALSE(b.suono.ApriMidi(3));
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"Operation:Open\r\nerror text 4"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Operation:Open\r\nerror text 4"});
     EXPECT_EQ(b.suono.HandleMidi, 0);
 }
 
@@ -37,7 +37,7 @@ TEST(ChiudiMidi, WithNothingOpenDoesNothing) {
     b.suono.ChiudiMidi();
     EXPECT_EQ(b.uscita.chiusure, 1);
     EXPECT_EQ(b.suono.HandleMidi, 0);
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(ChiudiMidi, AFailureShowsTheBoxAndKeepsTheHandle) {
@@ -45,7 +45,7 @@ TEST(ChiudiMidi, AFailureShowsTheBoxAndKeepsTheHandle) {
     const HandleDispositivo handle = b.suono.HandleMidi;
     b.uscita.esitoClose = 5;
     b.suono.ChiudiMidi();
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"Operation:Close midi error: \r\nerror text 5"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Operation:Close midi error: \r\nerror text 5"});
     EXPECT_EQ(b.suono.HandleMidi, handle);
 }
 
@@ -73,12 +73,12 @@ TEST(MessaggioMidi, AFailureShowsTheBoxAndTheCallerGoesOn) {
     BancoSuono b;
     b.uscita.esitoShortMsg = 67;
     b.suono.NotaOn(1, 60, 100);
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"Operation:ShortMsg\r\nerror text 67"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Operation:ShortMsg\r\nerror text 67"});
     EXPECT_EQ(b.suono.EsitoMidi, 67);
     b.uscita.esitoShortMsg = 0;
     b.suono.NotaOn(1, 60, 100);
     EXPECT_EQ(b.suono.EsitoMidi, 0);
-    EXPECT_EQ(b.dialoghi.messaggi.size(), 1U);
+    EXPECT_EQ(b.riquadri.messaggi.size(), 1U);
 }
 
 TEST(MessaggioMidi, WithNoDeviceOpenEachMessageShowsTheBox) {
@@ -86,8 +86,8 @@ TEST(MessaggioMidi, WithNoDeviceOpenEachMessageShowsTheBox) {
     b.suono.ChiudiMidi();
     b.suono.NotaOn(1, 60, 100);
     b.suono.NotaOff(1, 60);
-    EXPECT_EQ(b.dialoghi.messaggi,
-              (Boxes{"Operation:ShortMsg\r\nerror text 5", "Operation:ShortMsg\r\nerror text 5"}));
+    EXPECT_EQ(b.riquadri.messaggi, (Messaggi{"Operation:ShortMsg\r\nerror text 5",
+                                             "Operation:ShortMsg\r\nerror text 5"}));
 }
 
 TEST(CambiaStrumento, PacksTheProgramAndTheChannelIndex) {
@@ -105,7 +105,7 @@ TEST(CambiaStrumento, ReportsNothingEvenOnFailure) {
     b.uscita.esitoShortMsg = 0;
     b.suono.ChiudiMidi();
     b.suono.CambiaStrumento(16, 0);
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_EQ(b.suono.EsitoMidi, 0);
 }
 
@@ -124,7 +124,7 @@ TEST(SuonaOnda, PassesThePathAndTheFlagsOnAndTakesNoTime) {
     EXPECT_EQ(b.uscita.onde[0].percorso, "/note/rok.wav");
     EXPECT_EQ(b.uscita.onde[0].flags, 0x20001U);
     EXPECT_EQ(b.uscita.onde[1].flags, 0x20003U);
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_DOUBLE_EQ(b.orologio.Adesso(), 0);
 }
 
@@ -136,7 +136,7 @@ TEST(Reset, SilencesTheOpenDevice) {
     EXPECT_TRUE(b.uscita.NoteAccese().empty());
     b.suono.ChiudiMidi();
     b.suono.Reset();
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 }  // namespace corvana::prova

@@ -73,7 +73,7 @@ void Banco::Fine(double t) {
     Quando(t, [] { throw FineCopione{}; });
 }
 
-bool Banco::Esegui(const std::function<void()>& logica) {
+bool Banco::SvolgiCopione(const std::function<void()>& logica) {
     try {
         logica();
         return false;

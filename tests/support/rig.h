@@ -7,7 +7,7 @@
 #include "sound/recorder.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/recorded_mirror.h"
-#include "tests/support/scripted_dialogs.h"
+#include "tests/support/scripted_boxes.h"
 
 namespace corvana::prova {
 
@@ -39,12 +39,12 @@ struct Banco {
     CodaEventi coda;
     Pompa pompa{orologio, coda};
     Registratore uscita{[this] { return pompa.Adesso(); }};
-    DialoghiDaCopione dialoghi;
+    RiquadriDaCopione riquadri;
     SpecchioRegistrato specchio;
-    Finestre finestre{pompa, dialoghi, &specchio};
-    Suono suono{uscita, pompa, dialoghi};
+    Finestre finestre{pompa, riquadri, &specchio};
+    Suono suono{uscita, pompa, riquadri};
     FileInMemoria file;
-    Impostazioni impostazioni{file, dialoghi, percorsoImpostazioni};
+    Impostazioni impostazioni{file, riquadri, percorsoImpostazioni};
     CasualeDaLista casuale;
     Globali globali;
 
@@ -53,7 +53,7 @@ struct Banco {
     Ambiente Tutto() { return Con(casuale); }
     /// The same with another source of chance.
     Ambiente Con(Casuale& altra) {
-        return {globali, pompa, finestre, dialoghi, suono, impostazioni, file, altra};
+        return {globali, pompa, finestre, riquadri, suono, impostazioni, file, altra};
     }
 
     /// At the instant `t` of the script (seconds): anything, or an event of the window in front.
@@ -74,7 +74,7 @@ struct Banco {
     Evento Fatta(Evento evento, const std::string& controllo) const;
 
     /// Runs `logica` to the script's end. True when it was unwound, false when it returned.
-    bool Esegui(const std::function<void()>& logica);
+    bool SvolgiCopione(const std::function<void()>& logica);
 };
 
 }  // namespace corvana::prova

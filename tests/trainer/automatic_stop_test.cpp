@@ -156,7 +156,7 @@ TEST(FermataAutomatica, AStopANewModeAndAStartDeliveredTogetherLeaveANormalRun) 
     EXPECT_EQ(b.finestra.Mostrate, 0);
     EXPECT_EQ(b.finestra.Esatte, 1);
     EXPECT_EQ(b.finestra.conta.Text(), "1");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(FermataAutomatica, ClosingTheWindowStopsTheRunFirstAndStoresTheState) {
@@ -169,7 +169,7 @@ TEST(FermataAutomatica, ClosingTheWindowStopsTheRunFirstAndStoresTheState) {
     EXPECT_EQ(b.uscita.chiusure, 1);
     EXPECT_TRUE(b.uscita.NoteAccese().empty());
     EXPECT_EQ(b.Stato(), "43;53;16;30;a");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_DOUBLE_EQ(b.orologio.Adesso(), 6);
 }
 
@@ -178,14 +178,14 @@ TEST(FermataAutomatica, ClosingJustAsTheTimeRunsOutIsTheSame) {
     b.Chiudi(5);
     EXPECT_FALSE(b.Avvia());
     EXPECT_EQ(b.finestra.Mostrate, 1);
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_EQ(b.suono.HandleMidi, 0);
 }
 
 TEST(Inceppo, AFailedMessagesBoxBlocksTheDrillAndThenItGoesOn) {
     BancoFermata b;
     b.Quando(4, [&] { b.uscita.esitoShortMsg = 67; });
-    b.dialoghi.durante = [&](const std::string&) {
+    b.riquadri.durante = [&](const std::string&) {
         b.uscita.esitoShortMsg = 0;
         b.orologio.AspettaFino(b.orologio.Adesso() + 3.5);
     };
@@ -195,7 +195,7 @@ TEST(Inceppo, AFailedMessagesBoxBlocksTheDrillAndThenItGoesOn) {
         EXPECT_EQ(b.finestra.Esatte, 0);
     });
     b.Vai(9);
-    EXPECT_EQ(b.dialoghi.messaggi, std::vector<std::string>{"Operation:ShortMsg\r\nerror text 67"});
+    EXPECT_EQ(b.riquadri.messaggi, std::vector<std::string>{"Operation:ShortMsg\r\nerror text 67"});
     EXPECT_EQ(b.finestra.Mostrate, 3);  // the time of the second ran out behind the box
     EXPECT_EQ(b.finestra.Esatte, 2);
     EXPECT_TRUE(b.finestra.InCorso);
@@ -204,7 +204,7 @@ TEST(Inceppo, AFailedMessagesBoxBlocksTheDrillAndThenItGoesOn) {
 TEST(Inceppo, AStopClickedBehindTheBoxCountsWhenTheBoxIsGone) {
     BancoFermata b;
     b.Quando(4, [&] { b.uscita.esitoShortMsg = 67; });
-    b.dialoghi.durante = [&](const std::string&) {
+    b.riquadri.durante = [&](const std::string&) {
         b.uscita.esitoShortMsg = 0;
         b.orologio.AspettaFino(b.orologio.Adesso() + 1);
     };
@@ -220,9 +220,9 @@ TEST(Inceppo, WithoutADeviceEachNoteShowsItsBoxesAndTheDrillGoesOn) {
     b.Vai(8);
     EXPECT_EQ(b.finestra.Mostrate, 3);
     // The open, then a note off and a note on for each of the three notes.
-    ASSERT_EQ(b.dialoghi.messaggi.size(), 7U);
-    EXPECT_EQ(b.dialoghi.messaggi.front(), "Operation:Open\r\nerror text 4");
-    EXPECT_EQ(b.dialoghi.messaggi.back(), "Operation:ShortMsg\r\nerror text 5");
+    ASSERT_EQ(b.riquadri.messaggi.size(), 7U);
+    EXPECT_EQ(b.riquadri.messaggi.front(), "Operation:Open\r\nerror text 4");
+    EXPECT_EQ(b.riquadri.messaggi.back(), "Operation:ShortMsg\r\nerror text 5");
 }
 
 }  // namespace corvana::prova

@@ -55,9 +55,9 @@ void UtenteDistratto::Avvia() {
     p.file.contenuti.merge(std::map(depositi_));
     if (Capita(100)) p.uscita.esitoOpen = 4;
     p.Quando(Pausa(), [this] { Passo(); });
-    const bool svolta = p.Esegui([&] {
+    const bool svolta = p.SvolgiCopione([&] {
         Main(p.Tutto(), false, [&] { p.finestre.Mostra(p.finestra); });
-        p.finestre.Esegui();
+        p.finestre.FinoAllUltima();
     });
     if (!svolta) ControllaChiusa();
     secondi += p.orologio.Adesso();
@@ -166,7 +166,7 @@ void UtenteDistratto::Controlla() {
     Esigi(f.Slider1.Value() >= 20 && f.Slider1.Value() <= 140, "the slider is out of its bounds");
     Esigi(f.Modo == (f.mnuAutomatico.Checked() ? "automatico" : "normale"), "the mode is unclear");
     if (f.InCorso) ControllaCorsa();
-    ControllaBoxes();
+    ControllaRiquadri();
 }
 
 void UtenteDistratto::ControllaCorsa() {
@@ -181,10 +181,10 @@ void UtenteDistratto::ControllaCorsa() {
     Esigi(programma_->finestre.Davanti() != &programma_->finta, "a window opened over a run");
 }
 
-void UtenteDistratto::ControllaBoxes() {
-    for (const std::string& testo : programma_->dialoghi.messaggi)
+void UtenteDistratto::ControllaRiquadri() {
+    for (const std::string& testo : programma_->riquadri.messaggi)
         Esigi(testo.starts_with("Operation:"), ("a box: " + testo).c_str());
-    programma_->dialoghi.messaggi.clear();
+    programma_->riquadri.messaggi.clear();
 }
 
 void UtenteDistratto::ControllaChiusa() {
@@ -199,7 +199,7 @@ void UtenteDistratto::ControllaChiusa() {
         Esigi(p.inceppata || nota <= 24, "a note was left sounding");
     const std::string stato = p.impostazioni.LeggiValore("CorvanaLastS");
     Esigi(stato.empty() || LeggiStato(stato), "the stored state can't be read");
-    ControllaBoxes();
+    ControllaRiquadri();
 }
 
 }  // namespace corvana::prova

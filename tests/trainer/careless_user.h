@@ -55,7 +55,7 @@ private:
     void Esigi(bool vero, const char* cosa);
     void Controlla();
     void ControllaCorsa();
-    void ControllaBoxes();
+    void ControllaRiquadri();
     void ControllaChiusa();
 
     std::mt19937 generatore_;

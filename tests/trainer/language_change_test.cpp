@@ -56,14 +56,14 @@ TEST(LinguaIniziale, WithoutItsFileTheDesignTextsStayAndNothingIsReported) {
     b.Vai(3);
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "Esci");
     EXPECT_EQ(b.finestra.difficolt.List()[0], "Chiave di Sol: SI - MI");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(LinguaIniziale, AFaultInItsFileIsToldAndTheProgramStarts) {
     BancoLingue b;
     b.file.contenuti["/programma/langit.csv"] = "1;CorvanaMainF;Via\nrotta\n3;CorvanaMainF;x\n";
     b.Vai(3);
-    EXPECT_EQ(b.dialoghi.messaggi, std::vector<std::string>{"Error Reading file!!!"});
+    EXPECT_EQ(b.riquadri.messaggi, std::vector<std::string>{"Error Reading file!!!"});
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "Via");
     EXPECT_TRUE(b.finestra.Start.Enabled());
 }
@@ -160,7 +160,7 @@ TEST(CambioLingua, WithoutItsFileTheTextsStayAndTheChoiceIsStored) {
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "Esci");
     EXPECT_EQ(b.finestra.pdo.Caption(), "C");
     EXPECT_EQ(b.Lingua(), "en");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(CambioLingua, TellsTheMetronomesPanel) {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/trainer/main_window_rig.h"
-#include "trainer/ranges.h"
+#include "trainer/exercises.h"
 
 namespace corvana::prova {
 
@@ -70,7 +70,7 @@ TEST(ListaEsercizi, ARowThatIsntThereChangesNothing) {
     b.Avvia();
     EXPECT_EQ(b.finestra.difficolt.ListIndex(), 0);
     EXPECT_EQ(b.finestra.LimiteBasso, 43);
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(TastiDellaLista, EachShortcutSelectsItsRowOnRelease) {

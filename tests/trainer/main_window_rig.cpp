@@ -3,9 +3,9 @@
 namespace corvana::prova {
 
 bool BancoPrincipale::Avvia() {
-    return Esegui([this] {
+    return SvolgiCopione([this] {
         Main(Tutto(), false, [this] { finestre.Mostra(finestra); });
-        finestre.Esegui();
+        finestre.FinoAllUltima();
     });
 }
 

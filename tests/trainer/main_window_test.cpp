@@ -7,7 +7,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Boxes = std::vector<std::string>;
+using Messaggi = std::vector<std::string>;
 
 /// A window that stands for one of the others: it does its work on activation and is closed.
 struct FinestraFinta final : Form {
@@ -73,11 +73,11 @@ TEST(PrimaAttivazione, OpensTheDefaultOutputSetsTheInstrumentAndPlaysTheSignal) 
 
 TEST(PrimaAttivazione, HasItsFourControlsOffUntilTheSignalIsOverAndStartGetsTheFocus) {
     BancoPrincipale b;
-    Boxes durante;
+    Messaggi durante;
     b.Quando(1, [&] { durante = Disabilitati(b.finestra); });
     b.Fine(3);
     b.Avvia();
-    EXPECT_EQ(durante, (Boxes{"Start", "mnuRint", "Intonazione", "cmdEsci"}));
+    EXPECT_EQ(durante, (Messaggi{"Start", "mnuRint", "Intonazione", "cmdEsci"}));
     EXPECT_TRUE(Disabilitati(b.finestra).empty());
     EXPECT_EQ(b.specchio.fuochi.back(), "Start");
 }
@@ -129,9 +129,9 @@ TEST(SenzaDispositivo, TheWindowOpensWithABoxAndTheFirstNoteFailsWithAnother) {
     b.Clicca(3, "Start");
     b.Fine(4);
     b.Avvia();
-    EXPECT_EQ(b.dialoghi.messaggi,
-              (Boxes{"Operation:Open\r\nerror text 4", "Operation:ShortMsg\r\nerror text 5",
-                     "Operation:ShortMsg\r\nerror text 5"}));
+    EXPECT_EQ(b.riquadri.messaggi,
+              (Messaggi{"Operation:Open\r\nerror text 4", "Operation:ShortMsg\r\nerror text 5",
+                        "Operation:ShortMsg\r\nerror text 5"}));
     EXPECT_TRUE(b.finestra.InCorso);
     EXPECT_EQ(b.NoteInVista(), std::vector<int>{43});
     EXPECT_EQ(b.uscita.messaggi.size(), 0U);
@@ -142,7 +142,7 @@ TEST(SenzaDispositivo, ItClosesWithoutABox) {
     b.uscita.esitoOpen = 4;
     b.Chiudi(3);
     EXPECT_FALSE(b.Avvia());
-    EXPECT_EQ(b.dialoghi.messaggi.size(), 1U);
+    EXPECT_EQ(b.riquadri.messaggi.size(), 1U);
     EXPECT_EQ(b.uscita.chiusure, 0);
 }
 
@@ -152,7 +152,7 @@ TEST(SenzaDispositivo, AnOutputThatNobodyHearsIsToldOnceInTheWordsOfTheLanguageF
     b.uscita.udibile = false;
     b.Fine(10);
     b.Avvia();
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"nessun suono"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"nessun suono"});
 }
 
 TEST(SenzaDispositivo, WithoutALanguageFileItIsToldAllTheSame) {
@@ -161,8 +161,8 @@ TEST(SenzaDispositivo, WithoutALanguageFileItIsToldAllTheSame) {
     b.Clicca(3, "Start");
     b.Fine(10);
     b.Avvia();
-    ASSERT_EQ(b.dialoghi.messaggi.size(), 1U);
-    EXPECT_FALSE(b.dialoghi.messaggi[0].empty());
+    ASSERT_EQ(b.riquadri.messaggi.size(), 1U);
+    EXPECT_FALSE(b.riquadri.messaggi[0].empty());
     EXPECT_TRUE(b.finestra.InCorso);
 }
 
@@ -182,9 +182,9 @@ TEST(Attivazione, AfterAnotherWindowChangedTheNamesTheChecksFollowAndTheCaptions
     });
     b.Clicca(5, "Nominote2");
     b.Fine(6);
-    b.Esegui([&] {
+    b.SvolgiCopione([&] {
         b.finestre.Mostra(finestra);
-        b.finestre.Esegui();
+        b.finestre.FinoAllUltima();
     });
     EXPECT_EQ(finestra.pdo.Caption(), "C");
 }
@@ -198,7 +198,7 @@ TEST(Chiusura, BothExitsAndTheCloseBoxCloseTheDeviceAndStoreTheState) {
         EXPECT_EQ(b.suono.HandleMidi, 0);
         EXPECT_EQ(b.uscita.chiusure, 1);
         EXPECT_EQ(b.Stato(), "20;44;5;60;n");
-        EXPECT_TRUE(b.dialoghi.messaggi.empty());
+        EXPECT_TRUE(b.riquadri.messaggi.empty());
     }
 }
 
@@ -211,7 +211,7 @@ TEST(Chiusura, IsRefusedWithoutAMessageWhileTheMetronomeRuns) {
     EXPECT_TRUE(b.Avvia());
     EXPECT_TRUE(b.finestra.InCorso);
     EXPECT_NE(b.suono.HandleMidi, 0);
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_EQ(b.Stato(), "");
 }
 
@@ -230,7 +230,7 @@ TEST(Chiusura, AFailedCloseOfTheDeviceShowsItsBoxAndTheWindowGoes) {
     b.Quando(2.5, [&] { b.uscita.esitoClose = 5; });
     b.Chiudi(3);
     EXPECT_FALSE(b.Avvia());
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"Operation:Close midi error: \r\nerror text 5"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Operation:Close midi error: \r\nerror text 5"});
     EXPECT_EQ(b.Stato(), "43;53;16;30;n");
 }
 
@@ -239,7 +239,7 @@ TEST(Chiusura, WhereNothingCanBeStoredItCloses) {
     b.Quando(2.5, [&] { b.file.erroreScrivi = ENOSPC; });
     b.Chiudi(3);
     EXPECT_FALSE(b.Avvia());
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(PrimaAttivazione, WhatWasDoneToTheWindowBeforeItIsServedWhileTheControlsAreStillOn) {
@@ -258,10 +258,10 @@ TEST(PrimaAttivazione, AModeChosenBeforeItIsServedGivesStartTheFocusAsLaterOnesD
     for (const char* modo : {"mnuNormale", "mnuAutomatico"}) {
         BancoPrincipale b;
         AllaComparsa(b, Fatto::Click, modo);
-        b.Quando(1, [&] { EXPECT_EQ(b.specchio.fuochi, Boxes{"Start"}) << modo; });
+        b.Quando(1, [&] { EXPECT_EQ(b.specchio.fuochi, Messaggi{"Start"}) << modo; });
         b.Fine(3);
         b.Avvia();
-        EXPECT_EQ(b.specchio.fuochi, (Boxes{"Start", "Start"})) << modo;
+        EXPECT_EQ(b.specchio.fuochi, (Messaggi{"Start", "Start"})) << modo;
     }
 }
 
@@ -271,7 +271,7 @@ TEST(PrimaAttivazione, WithNothingDoneBeforeItStartHasTheFocusWhenTheSignalIsOve
     b.Quando(2, [&] { EXPECT_TRUE(b.specchio.fuochi.empty()); });
     b.Fine(3);
     b.Avvia();
-    EXPECT_EQ(b.specchio.fuochi, Boxes{"Start"});
+    EXPECT_EQ(b.specchio.fuochi, Messaggi{"Start"});
 }
 
 TEST(PrimaAttivazione, TheModesAndTheSliderGiveNoFocusBeforeIt) {
@@ -289,7 +289,7 @@ TEST(PrimaAttivazione, TheModesAndTheSliderGiveNoFocusBeforeIt) {
     b.finestra.Slider1_Scroll();
     b.finestra.mnuNormale_Click();
     b.finestra.mnuAutomatico_Click();
-    EXPECT_EQ(b.specchio.fuochi, (Boxes{"Start", "Start", "Start"}));
+    EXPECT_EQ(b.specchio.fuochi, (Messaggi{"Start", "Start", "Start"}));
 }
 
 TEST(Chiusura, BeforeTheFirstActivationIsOverOpensNoDevice) {

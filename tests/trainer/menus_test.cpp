@@ -188,9 +188,9 @@ TEST(Menu, AWindowThatThisBuildDoesntHaveHasNoEntryToOpenIt) {
     Banco b;
     CorvanaMainF finestra(b.Tutto(), {});
     b.Fine(3);
-    b.Esegui([&] {
+    b.SvolgiCopione([&] {
         b.finestre.Mostra(finestra);
-        b.finestre.Esegui();
+        b.finestre.FinoAllUltima();
     });
     for (const char* nome :
          {"Intonazione", "mnuRint", "mnuRac", "mnuRicTo", "mnuRicTasto", "mnuComposer", "mnuMetro",

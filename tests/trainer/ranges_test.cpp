@@ -1,12 +1,11 @@
 // The exercises' table and the draw from a range.
-#include "trainer/ranges.h"
-
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
 #include <cmath>
 
 #include "core/random.h"
+#include "trainer/exercises.h"
 #include "trainer/positions.h"
 
 namespace corvana::prova {

@@ -179,9 +179,9 @@ TEST(Corsa, TheFirstNotesAfterAFreshStartRepeatFromOneStartToTheNext) {
         for (int i = 0; i < 100; ++i)
             b.Quando(4 + 2 * i, [&] { corse.back().push_back(finestra.NotaCorrente); });
         b.Fine(300);
-        b.Esegui([&] {
+        b.SvolgiCopione([&] {
             b.finestre.Mostra(finestra);
-            b.finestre.Esegui();
+            b.finestre.FinoAllUltima();
         });
     }
     ASSERT_EQ(corse[0].size(), 100U);

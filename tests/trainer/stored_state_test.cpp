@@ -3,14 +3,14 @@
 #include <rapidcheck/gtest.h>
 
 #include "tests/trainer/main_window_rig.h"
-#include "trainer/ranges.h"
+#include "trainer/exercises.h"
 #include "trainer/state.h"
 
 namespace corvana::prova {
 
 namespace {
 
-using Boxes = std::vector<std::string>;
+using Messaggi = std::vector<std::string>;
 
 /// Loads the window over the text and looks at it when the opening signal is over.
 struct BancoRipresa : BancoPrincipale {
@@ -37,7 +37,7 @@ void EscePrimaRiga(const BancoRipresa& b, const std::string& stato) {
 TEST(Ripresa, AnEmptyTextGivesTheFirstRowAndNoBox) {
     const BancoRipresa b("");
     EscePrimaRiga(b, "");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_EQ(b.finestra.Modo, "normale");
     EXPECT_EQ(b.globali.StrumentoGlobale, 16);
 }
@@ -77,7 +77,7 @@ TEST(Ripresa, AFieldThatIsNoNumberShowsTheFaultAndGivesTheFirstRow) {
     for (const char* stato : {"x;53;16;30;n", "43;;16;30;n", "20;44;y;30;n", "20;44;16;z;n",
                               "20;44;16", "20;44", ";;;;", "a;b;c;d;e"}) {
         const BancoRipresa b(stato);
-        EXPECT_EQ(b.dialoghi.messaggi, Boxes{nonNumero}) << stato;
+        EXPECT_EQ(b.riquadri.messaggi, Messaggi{nonNumero}) << stato;
         EscePrimaRiga(b, stato);
     }
 }
@@ -86,7 +86,7 @@ TEST(Ripresa, ANumberThatDoesntFitShowsTheFaultAndGivesTheFirstRow) {
     for (const char* stato : {"-5;53;16;30;n", "11;300;16;30;n", "43;99999999999999999999;16;30;n",
                               "20;44;99999999999;30;n"}) {
         const BancoRipresa b(stato);
-        EXPECT_EQ(b.dialoghi.messaggi, Boxes{troppo}) << stato;
+        EXPECT_EQ(b.riquadri.messaggi, Messaggi{troppo}) << stato;
         EscePrimaRiga(b, stato);
     }
 }
@@ -94,7 +94,7 @@ TEST(Ripresa, ANumberThatDoesntFitShowsTheFaultAndGivesTheFirstRow) {
 TEST(Ripresa, ASingleFieldHoldsNoStateAndIsNoFault) {
     const BancoRipresa b("20");
     EscePrimaRiga(b, "20");
-    EXPECT_TRUE(b.dialoghi.messaggi.empty());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(Ripresa, ARangeWithoutAPositionGivesTheFirstRow) {
@@ -102,7 +102,7 @@ TEST(Ripresa, ARangeWithoutAPositionGivesTheFirstRow) {
                               "0;0;16;30;n", "10;64;16;30;n", "11;11;16;30;n", "5;10;16;30;n"}) {
         const BancoRipresa b(stato);
         EscePrimaRiga(b, stato);
-        EXPECT_TRUE(b.dialoghi.messaggi.empty()) << stato;
+        EXPECT_TRUE(b.riquadri.messaggi.empty()) << stato;
     }
 }
 
@@ -126,7 +126,7 @@ TEST(Ripresa, AnInstrumentBeyondTheListIsTakenAndStoredAs16) {
         b.Chiudi(3);
         EXPECT_FALSE(b.Avvia());
         EXPECT_EQ(b.Stato(), "43;53;16;30;n") << stato;
-        EXPECT_TRUE(b.dialoghi.messaggi.empty()) << stato;
+        EXPECT_TRUE(b.riquadri.messaggi.empty()) << stato;
     }
 }
 
@@ -135,7 +135,7 @@ TEST(Ripresa, AnAbsentValueShowsItsBoxAndGivesTheFirstRow) {
     b.file.contenuti[Banco::percorsoImpostazioni] = "Language=it\n";
     b.Fine(3);
     b.Avvia();
-    EXPECT_EQ(b.dialoghi.messaggi, Boxes{"Error2 Querying key: 2"});
+    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Error2 Querying key: 2"});
     EXPECT_EQ(b.finestra.difficolt.ListIndex(), 0);
 }
 
@@ -151,9 +151,9 @@ void EUsabile(const std::string& stato) {
             finestra.Mostranota();
     });
     b.Chiudi(5);
-    const bool svolta = b.Esegui([&] {
+    const bool svolta = b.SvolgiCopione([&] {
         b.finestre.Mostra(finestra);
-        b.finestre.Esegui();
+        b.finestre.FinoAllUltima();
     });
     RC_ASSERT(!svolta);
     RC_ASSERT(b.suono.HandleMidi == 0);

@@ -120,8 +120,8 @@ TEST(ProvaMidi, ADeviceThatFailsToOpenLeavesNoneOpenAndSaysSo) {
     b.Clicca(5, "LstMidiDev", 1);
     b.Vai(6);
     EXPECT_EQ(b.suono.HandleMidi, 0);
-    ASSERT_EQ(b.dialoghi.messaggi.size(), 1U);
-    EXPECT_EQ(b.dialoghi.messaggi[0], "Operation:Open\r\nerror text 4");
+    ASSERT_EQ(b.riquadri.messaggi.size(), 1U);
+    EXPECT_EQ(b.riquadri.messaggi[0], "Operation:Open\r\nerror text 4");
 }
 
 TEST(ProvaMidi, TheTestNoteSoundsUntilOff) {
@@ -174,8 +174,8 @@ TEST(ProvaMidi, WithNoDeviceAtAllTheListIsOffAndTheTestRaisesTheBox) {
     b.Quando(4, [&] { EXPECT_FALSE(b.Prova().LstMidiDev.Enabled()); });
     b.Clicca(5, "cmdTest");
     b.Vai(6);
-    ASSERT_EQ(b.dialoghi.messaggi.size(), 2U);
-    EXPECT_EQ(b.dialoghi.messaggi[1], "Operation:ShortMsg\r\nerror text 5");
+    ASSERT_EQ(b.riquadri.messaggi.size(), 2U);
+    EXPECT_EQ(b.riquadri.messaggi[1], "Operation:ShortMsg\r\nerror text 5");
 }
 
 }  // namespace corvana::prova

@@ -1,4 +1,4 @@
-#include "desktop/program.h"
+#include "desktop/logic.h"
 
 #include "core/real_files.h"
 #include "core/regional.h"
@@ -9,14 +9,14 @@
 
 namespace corvana {
 
-void EseguiProgramma(Applicazione& applicazione, const Macchina& macchina) {
+void LogicaDelProgramma(Applicazione& applicazione, const Macchina& macchina) {
     if (macchina.puntuale) macchina.puntuale();
     OrologioReale orologio;
     Pompa pompa(orologio, applicazione.Coda());
-    Dialoghi& dialoghi = applicazione.Riquadri();
-    Finestre finestre(pompa, dialoghi, &applicazione.Schermo());
+    Riquadri& riquadri = applicazione.Riquadri();
+    Finestre finestre(pompa, riquadri, &applicazione.Schermo());
     FileReali file;
-    Impostazioni impostazioni(file, dialoghi, macchina.percorsoImpostazioni);
+    Impostazioni impostazioni(file, riquadri, macchina.percorsoImpostazioni);
     CasualeFisso casuale;
     Globali globali;
     globali.CartellaProgramma = macchina.cartellaProgramma;
@@ -25,12 +25,12 @@ void EseguiProgramma(Applicazione& applicazione, const Macchina& macchina) {
     const IstanzaUnica istanza(macchina.percorsoBlocco);
     const auto uscite = macchina.uscite([&pompa] { return pompa.Adesso(); });
     pompa.PonSveglia([&uscite] { uscite->Sveglia(); });
-    Suono suono(*uscite, pompa, dialoghi);
+    Suono suono(*uscite, pompa, riquadri);
     if (!istanza.AltraIstanza()) impostazioni.Prepara();
-    const Ambiente ambiente{globali, pompa, finestre, dialoghi, suono, impostazioni, file, casuale};
+    const Ambiente ambiente{globali, pompa, finestre, riquadri, suono, impostazioni, file, casuale};
     Programma programma(ambiente);
     if (macchina.pronta) macchina.pronta(programma.principale);
-    programma.Esegui(istanza.AltraIstanza());
+    programma.DaMainAllaFine(istanza.AltraIstanza());
 }
 
 }  // namespace corvana

@@ -1,4 +1,4 @@
-#include "bench/pulses.h"
+#include "bench/evenness.h"
 
 #include <algorithm>
 #include <array>

@@ -27,6 +27,6 @@ struct Macchina {
 };
 
 /// Returns when the last window has closed.
-void EseguiProgramma(Applicazione& applicazione, const Macchina& macchina);
+void LogicaDelProgramma(Applicazione& applicazione, const Macchina& macchina);
 
 }  // namespace corvana

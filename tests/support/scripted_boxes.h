@@ -5,11 +5,11 @@
 #include <functional>
 #include <vector>
 
-#include "forms/dialogs.h"
+#include "forms/boxes.h"
 
 namespace corvana::prova {
 
-class DialoghiDaCopione final : public Dialoghi {
+class RiquadriDaCopione final : public Riquadri {
 public:
     std::vector<std::string> messaggi;
     std::deque<bool> risposte;  ///< to questions; none left is No

@@ -7,12 +7,12 @@
 
 namespace corvana {
 
-class Dialoghi {
+class Riquadri {
 public:
-    Dialoghi() = default;
-    Dialoghi(const Dialoghi&) = delete;
-    Dialoghi& operator=(const Dialoghi&) = delete;
-    virtual ~Dialoghi() = default;
+    Riquadri() = default;
+    Riquadri(const Riquadri&) = delete;
+    Riquadri& operator=(const Riquadri&) = delete;
+    virtual ~Riquadri() = default;
 
     virtual void MsgBox(const std::string& testo) = 0;
     /// True for Yes.

@@ -1,4 +1,4 @@
-#include "trainer/keys.h"
+#include "trainer/answer_keys.h"
 
 #include <gtest/gtest.h>
 
