@@ -122,18 +122,20 @@ TEST(Puntatore, TheStavesTheRulerAndTheToolbarsFaceSetBackWhatIsSunk) {
     }
 }
 
-TEST(Puntatore, TheExitsPictureSinksAndItsLabelTurnsRedAndBlueAgain) {
-    BancoBarra b;
-    const BancoPrincipale intatto;
-    b.Passa(3, "cmdEsci");
-    b.Quando(3.5, [&] {
-        EXPECT_EQ(Affondo(b.finestra.cmdEscibg, intatto.finestra), 10);
-        EXPECT_EQ(b.finestra.cmdEsci.ForeColor(), 255);
-    });
-    b.Passa(4, "img");
-    b.Vai(5);
-    EXPECT_EQ(Affondo(b.finestra.cmdEscibg, intatto.finestra), 0);
-    EXPECT_EQ(b.finestra.cmdEsci.ForeColor(), 0xFF0000);
+TEST(Puntatore, TheExitsPictureSinksAndItsLabelTurnsRedAndBlueAgainWhicheverIsUnderIt) {
+    for (const char* dove : {"cmdEsci", "cmdEscibg"}) {
+        BancoBarra b;
+        const BancoPrincipale intatto;
+        b.Passa(3, dove);
+        b.Quando(3.5, [&] {
+            EXPECT_EQ(Affondo(b.finestra.cmdEscibg, intatto.finestra), 10) << dove;
+            EXPECT_EQ(b.finestra.cmdEsci.ForeColor(), 255) << dove;
+        });
+        b.Passa(4, "img");
+        b.Vai(5);
+        EXPECT_EQ(Affondo(b.finestra.cmdEscibg, intatto.finestra), 0) << dove;
+        EXPECT_EQ(b.finestra.cmdEsci.ForeColor(), 0xFF0000) << dove;
+    }
 }
 
 TEST(Puntatore, TheHelpButtonShowsABorderUnderIt) {
