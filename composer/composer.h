@@ -16,7 +16,7 @@
 #include <string>
 
 #include "composer/playback_state.h"
-#include "core/computer_piano.h"
+#include "piano/computer_piano.h"
 #include "core/globals.h"
 #include "core/notation.h"
 #include "forms/form.h"

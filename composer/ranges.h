@@ -3,20 +3,13 @@
 
 #include <cstdint>
 
+#include "piano/keyboard_geometry.h"
+
 namespace corvana {
 
 constexpr int tempoMinimo = 20;  ///< quarter notes a minute
 constexpr int tempoMassimo = 250;
 constexpr int tempoIniziale = 60;
-
-constexpr std::int16_t notaPiuBassa = 36;
-constexpr std::int16_t notaPiuAlta = 95;
-constexpr int tastiTastiera = 60;
-
-/// The MIDI number has a key among the five octaves.
-constexpr bool SullaTastiera(std::int16_t nota) {
-    return nota >= notaPiuBassa && nota <= notaPiuAlta;
-}
 
 constexpr std::uint8_t attributoLegatura = 2;  ///< place of the tie among the attribute buttons
 constexpr std::uint8_t senzaAttributo = 6;

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "core/computer_piano.h"
+#include "piano/computer_piano.h"
 #include "tests/composer/composer_rig.h"
 
 namespace corvana::prova {

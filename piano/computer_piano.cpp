@@ -1,4 +1,4 @@
-#include "core/computer_piano.h"
+#include "piano/computer_piano.h"
 
 namespace corvana {
 

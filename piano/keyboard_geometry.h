@@ -1,0 +1,59 @@
+// Where the keys of the five octaves lie, their marks, and what MIDI numbers they are. In twips
+// from the picture's upper left corner. Pure; any thread.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+namespace corvana {
+
+constexpr std::int16_t notaPiuBassa = 36;
+constexpr std::int16_t notaPiuAlta = 95;
+constexpr int tastiTastiera = 60;
+constexpr int tastoCentrale = 24;  ///< middle C
+
+/// The MIDI number has a key among the five octaves.
+constexpr bool SullaTastiera(std::int16_t nota) {
+    return nota >= notaPiuBassa && nota <= notaPiuAlta;
+}
+
+/// By the key's place, from 0.
+constexpr bool TastoNero(int tasto) {
+    constexpr std::array neri = {false, true,  false, true,  false, false,
+                                 true,  false, true,  false, true,  false};
+    return neri[static_cast<std::size_t>(tasto % 12)];
+}
+
+/// A place on the picture, in twips.
+struct Riquadro {
+    int left = 0, top = 0, width = 0, height = 0;
+    bool operator==(const Riquadro&) const = default;
+};
+
+constexpr int larghezzaOttava = 1545;
+constexpr Riquadro postoTastiera{300, 1935, 7770,
+                                 900};  ///< of the picture, where nothing else is said
+
+/// What of a key lights up: the lower part of a white one, the upper part of a black one.
+constexpr Riquadro PostoTasto(int tasto) {
+    // Of the first octave. The white keys are one seventh of it apart, the black ones drawn to the
+    // edges of their group as on any piano.
+    constexpr std::array sinistre = {30, 150, 251, 411, 471, 692, 801, 913, 1053, 1134, 1305, 1354};
+    const int left = sinistre[static_cast<std::size_t>(tasto % 12)] + tasto / 12 * larghezzaOttava;
+    return TastoNero(tasto) ? Riquadro{left, 90, 135, 300} : Riquadro{left, 435, 195, 300};
+}
+
+/// The mark of a key: under a white one, above a black one.
+constexpr Riquadro PostoBarra(int tasto) {
+    constexpr int larghezza = 165;
+    const Riquadro posto = PostoTasto(tasto);
+    return {posto.left + (posto.width - larghezza) / 2, TastoNero(tasto) ? 15 : 720, larghezza, 75};
+}
+
+/// The mark of middle C, below those of the keys.
+constexpr Riquadro PostoDoCentrale() {
+    const Riquadro barra = PostoBarra(tastoCentrale);
+    return {barra.left + 45, 810, 75, 75};
+}
+
+}  // namespace corvana
