@@ -25,34 +25,34 @@ constexpr bool TastoNero(int tasto) {
 }
 
 /// A place on the picture, in twips.
-struct Riquadro {
+struct Rettangolo {
     int left = 0, top = 0, width = 0, height = 0;
-    bool operator==(const Riquadro&) const = default;
+    bool operator==(const Rettangolo&) const = default;
 };
 
 constexpr int larghezzaOttava = 1545;
-constexpr Riquadro postoTastiera{300, 1935, 7770,
-                                 900};  ///< of the picture, where nothing else is said
+constexpr Rettangolo postoTastiera{300, 1935, 7770,
+                                   900};  ///< of the picture, where nothing else is said
 
 /// What of a key lights up: the lower part of a white one, the upper part of a black one.
-constexpr Riquadro PostoTasto(int tasto) {
+constexpr Rettangolo PostoTasto(int tasto) {
     // Of the first octave. The white keys are one seventh of it apart, the black ones drawn to the
     // edges of their group as on any piano.
     constexpr std::array sinistre = {30, 150, 251, 411, 471, 692, 801, 913, 1053, 1134, 1305, 1354};
     const int left = sinistre[static_cast<std::size_t>(tasto % 12)] + tasto / 12 * larghezzaOttava;
-    return TastoNero(tasto) ? Riquadro{left, 90, 135, 300} : Riquadro{left, 435, 195, 300};
+    return TastoNero(tasto) ? Rettangolo{left, 90, 135, 300} : Rettangolo{left, 435, 195, 300};
 }
 
 /// The mark of a key: under a white one, above a black one.
-constexpr Riquadro PostoBarra(int tasto) {
+constexpr Rettangolo PostoBarra(int tasto) {
     constexpr int larghezza = 165;
-    const Riquadro posto = PostoTasto(tasto);
+    const Rettangolo posto = PostoTasto(tasto);
     return {posto.left + (posto.width - larghezza) / 2, TastoNero(tasto) ? 15 : 720, larghezza, 75};
 }
 
 /// The mark of middle C, below those of the keys.
-constexpr Riquadro PostoDoCentrale() {
-    const Riquadro barra = PostoBarra(tastoCentrale);
+constexpr Rettangolo PostoDoCentrale() {
+    const Rettangolo barra = PostoBarra(tastoCentrale);
     return {barra.left + 45, 810, 75, 75};
 }
 

@@ -10,14 +10,14 @@ constexpr Colore coloreTasto = Rgb(192, 192, 255);
 constexpr Colore coloreBarra = Rgb(0, 255, 0);
 constexpr Colore coloreDoCentrale = Rgb(0, 0, 255);
 
-void Poni(Controllo& controllo, const Riquadro& posto) {
+void Poni(Controllo& controllo, const Rettangolo& posto) {
     controllo.Left = posto.left;
     controllo.Top = posto.top;
     controllo.Width = posto.width;
     controllo.Height = posto.height;
 }
 
-void Prepara(Etichetta& etichetta, const char* stile, Colore colore, const Riquadro& posto) {
+void Prepara(Etichetta& etichetta, const char* stile, Colore colore, const Rettangolo& posto) {
     Poni(etichetta, posto);
     etichetta.stile = stile;
     etichetta.BackColor = colore;
@@ -26,7 +26,7 @@ void Prepara(Etichetta& etichetta, const char* stile, Colore colore, const Riqua
 }  // namespace
 
 TastieraSchermo::TastieraSchermo(Form& form, std::string nome, Controllo* padre, Corredo corredo,
-                                 const Riquadro& posto)
+                                 const Rettangolo& posto)
     : figura(form, std::move(nome), padre), Lbdoc(form, "Lbdoc", &figura) {
     Poni(figura, posto);
     figura.stile = "tastiera";

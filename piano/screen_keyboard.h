@@ -21,7 +21,7 @@ public:
     /// Makes the labels "lb0" to "lb59" and "Lbdoc" on a picture of that name in the form, or in
     /// one of its frames.
     TastieraSchermo(Form& form, std::string nome, Controllo* padre = nullptr,
-                    Corredo corredo = Corredo::Tasti, const Riquadro& posto = postoTastiera);
+                    Corredo corredo = Corredo::Tasti, const Rettangolo& posto = postoTastiera);
 
     Figura figura;
     std::deque<Etichetta> lb;   ///< the keys; their handlers are the window's

@@ -7,15 +7,15 @@ namespace corvana::prova {
 namespace {
 
 /// As the places are known: from the corner of what the picture lies in.
-constexpr Riquadro NelPadre(const Riquadro& r) {
+constexpr Rettangolo NelPadre(const Rettangolo& r) {
     return {postoTastiera.left + r.left, postoTastiera.top + r.top, r.width, r.height};
 }
 
 }  // namespace
 
 TEST(PostoTasto, TheLowestKeysLieWhereTheKeyboardWasDesigned) {
-    EXPECT_EQ(NelPadre(PostoTasto(0)), (Riquadro{330, 2370, 195, 300}));
-    EXPECT_EQ(NelPadre(PostoTasto(1)), (Riquadro{450, 2025, 135, 300}));
+    EXPECT_EQ(NelPadre(PostoTasto(0)), (Rettangolo{330, 2370, 195, 300}));
+    EXPECT_EQ(NelPadre(PostoTasto(1)), (Rettangolo{450, 2025, 135, 300}));
 }
 
 TEST(PostoTasto, EachKeyLiesAnOctaveFromItsNeighbourInTheNext) {
@@ -44,18 +44,18 @@ TEST(PostoTasto, BlackKeysStandBetweenTheWhiteOnesInMirroredGroups) {
 }
 
 TEST(PostoBarra, MarksLieUnderTheWhiteKeysAndAboveTheBlackOnes) {
-    EXPECT_EQ(NelPadre(PostoBarra(0)), (Riquadro{345, 2655, 165, 75}));
-    EXPECT_EQ(NelPadre(PostoBarra(1)), (Riquadro{435, 1950, 165, 75}));
-    EXPECT_EQ(NelPadre(PostoBarra(59)), (Riquadro{7849, 2655, 165, 75}));
+    EXPECT_EQ(NelPadre(PostoBarra(0)), (Rettangolo{345, 2655, 165, 75}));
+    EXPECT_EQ(NelPadre(PostoBarra(1)), (Rettangolo{435, 1950, 165, 75}));
+    EXPECT_EQ(NelPadre(PostoBarra(59)), (Rettangolo{7849, 2655, 165, 75}));
 }
 
 TEST(PostoDoCentrale, LiesBelowTheMiddleOfTheKeyOf60) {
-    EXPECT_EQ(NelPadre(PostoDoCentrale()), (Riquadro{3480, 2745, 75, 75}));
+    EXPECT_EQ(NelPadre(PostoDoCentrale()), (Rettangolo{3480, 2745, 75, 75}));
 }
 
 TEST(TastieraSchermo, ThePictureHoldsAllThatLiesOnIt) {
     for (int tasto = 0; tasto < 60; ++tasto)
-        for (const Riquadro& r : {PostoTasto(tasto), PostoBarra(tasto)}) {
+        for (const Rettangolo& r : {PostoTasto(tasto), PostoBarra(tasto)}) {
             EXPECT_GE(r.left, 0);
             EXPECT_GE(r.top, 0);
             EXPECT_LE(r.left + r.width, postoTastiera.width);
