@@ -7,7 +7,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Messaggi = std::vector<std::string>;
+using Avvisi = std::vector<std::string>;
 
 constexpr std::int32_t programmaViolino = 40;
 
@@ -40,7 +40,7 @@ TEST(ChiusuraComposer, ANoKeepsAModifiedMelodyOpenAndChangesNothing) {
     BancoModificato b;
     b.riquadri.risposte = {false};
     EXPECT_FALSE(b.finestre.Scarica(b.finestra));
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"uscire?"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"uscire?"});
     EXPECT_EQ(b.impostazioni.LeggiValore("LastDir"), "");
     EXPECT_TRUE(b.uscita.messaggi.empty());
     EXPECT_TRUE(b.globali.ComposerAperto);
@@ -51,7 +51,7 @@ TEST(ChiusuraComposer, AYesLetsAModifiedMelodyGo) {
     BancoModificato b;
     b.riquadri.risposte = {true};
     EXPECT_TRUE(b.finestre.Scarica(b.finestra));
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"uscire?"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"uscire?"});
     EXPECT_FALSE(b.globali.ComposerAperto);
 }
 
@@ -71,7 +71,7 @@ TEST(ChiusuraComposer, AYesDuringAPlayDoesntCloseTheWindowEither) {
     b.riquadri.risposte = {true};
     b.NelTick(3, [&] { EXPECT_FALSE(b.finestre.Scarica(b.finestra)); });
     b.Suona();
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"uscire?"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"uscire?"});
     EXPECT_EQ(b.impostazioni.LeggiValore("LastDir"), "");
 }
 

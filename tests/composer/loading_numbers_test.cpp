@@ -7,7 +7,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Messaggi = std::vector<std::string>;
+using Avvisi = std::vector<std::string>;
 
 }  // namespace
 
@@ -106,7 +106,7 @@ TEST(CaricaGuasto, ANoteThatIsNoNumberFailsBeforeThePlay) {
 TEST(CaricaGuasto, ADurationThatIsNoNumberEndsThePlayThatItMeets) {
     BancoGuasti b;
     b.CaricaCon({{2, "1;x;1;1;"}});
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{nonNumero});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{nonNumero});
     EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play");
     EXPECT_FALSE(b.finestra.inEsecuzione);
     EXPECT_FALSE(b.melodia.inCaricamento);
@@ -124,7 +124,7 @@ TEST(Carica, ATempoIsTakenAsANumberWithItsFractionRoundedHalvesToTheEvenOne) {
                                                                                {"19.5", 20}}) {
         BancoGuasti b;
         b.CaricaCon({{4, linea}});
-        EXPECT_EQ(b.riquadri.messaggi, Messaggi{}) << linea;
+        EXPECT_EQ(b.riquadri.messaggi, Avvisi{}) << linea;
         EXPECT_EQ(b.melodia.tempo, tempo) << linea;
         EXPECT_TRUE(b.HaSuonato()) << linea;
     }
@@ -138,7 +138,7 @@ TEST(Carica, ATempoIsTakenAsANumberWithItsFractionRoundedHalvesToTheEvenOne) {
 TEST(Carica, TheOtherNumbersOfAFileAreTakenTheSameWay) {
     BancoGuasti b;
     b.CaricaCon({{5, "16.4;3;4;1.5"}, {7, "basso;31.5"}});
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{});
     EXPECT_EQ(b.V(soprano).strumento, 16);
     EXPECT_EQ(b.V(basso).strumento, 32);
     EXPECT_EQ(b.finestra.InizioPuls.Value(), 2);

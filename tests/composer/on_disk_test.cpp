@@ -13,7 +13,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Messaggi = std::vector<std::string>;
+using Avvisi = std::vector<std::string>;
 
 std::string Contenuto(const std::string& percorso) {
     std::ifstream file(percorso, std::ios::binary);
@@ -132,8 +132,7 @@ TEST(SuDisco, AFileThatMayNotGrowLeavesTheOldFileAndTheFlag) {
         const DiscoPieno pieno(1000);
         d.b.finestra.SalvaMelodia("song");
     }
-    EXPECT_EQ(d.b.riquadri.messaggi,
-              Messaggi{std::to_string(EFBIG) + "\r\n" + ParoleSistema(EFBIG)});
+    EXPECT_EQ(d.b.riquadri.messaggi, Avvisi{std::to_string(EFBIG) + "\r\n" + ParoleSistema(EFBIG)});
     d.EsceRifiutata("old");
     d.b.finestra.SalvaMelodia("song");
     EXPECT_EQ(Contenuto(d.cartella.Di("song.mel")).size(), 3 * 1000U + 2 * 2000U + 3 * 2 + 6 + 6);
@@ -147,7 +146,7 @@ TEST(SuDisco, ADiskWithoutRoomIsFault61AndLeavesTheOldFileAndTheFlag) {
     d.b.Voce(soprano, "60;", "1");
     d.b.finestra.lblModificato.Visible = true;
     d.b.finestra.SalvaMelodia("song");
-    EXPECT_EQ(d.b.riquadri.messaggi, Messaggi{"61\r\n" + ParoleSistema(ENOSPC)});
+    EXPECT_EQ(d.b.riquadri.messaggi, Avvisi{"61\r\n" + ParoleSistema(ENOSPC)});
     d.EsceRifiutata("old");
 }
 
@@ -159,7 +158,7 @@ TEST(SuDisco, ANameThatAFolderHasIsRefusedByTheDiskAndTheFolderStays) {
     d.b.finestra.lblModificato.Visible = true;
     d.b.finestra.SalvaMelodia("song");
     EXPECT_EQ(d.b.riquadri.messaggi,
-              Messaggi{std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)});
+              Avvisi{std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)});
     EXPECT_TRUE(d.b.finestra.lblModificato.Visible());
     EXPECT_EQ(Contenuto(d.cartella.Di("song.mel/inside")), "kept");
     EXPECT_EQ(d.cartella.Quanti(), 1);
@@ -173,7 +172,7 @@ TEST(SuDisco, AFolderThatLetsNothingBeWrittenLeavesTheOldFileAndTheFlag) {
     d.b.finestra.lblModificato.Visible = true;
     d.b.finestra.SalvaMelodia("song");
     EXPECT_EQ(d.b.riquadri.messaggi,
-              Messaggi{std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)});
+              Avvisi{std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)});
     std::filesystem::remove(d.cartella.Di("song.mel.nuovo"));
     d.EsceRifiutata("old");
 }
@@ -199,8 +198,8 @@ TEST(SuDisco, AMissingFileAndAFolderInItsPlaceAreToldByTheSystemsWords) {
     std::filesystem::create_directory(d.cartella.Di("song.mel"));
     d.b.finestra.cmdEseguiFile_Click();
     EXPECT_EQ(d.b.riquadri.messaggi,
-              (Messaggi{"2\r\n" + ParoleSistema(ENOENT),
-                        std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)}));
+              (Avvisi{"2\r\n" + ParoleSistema(ENOENT),
+                      std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)}));
 }
 
 TEST(SuDisco, APipeIsntListedAndItsNameDoesntKeepTheLoadWaiting) {
@@ -214,7 +213,7 @@ TEST(SuDisco, APipeIsntListedAndItsNameDoesntKeepTheLoadWaiting) {
     d.b.Scegli("x");
     d.b.finestra.cmdEseguiFile_Click();
     EXPECT_EQ(d.b.riquadri.messaggi,
-              Messaggi{std::to_string(EINVAL) + "\r\n" + ParoleSistema(EINVAL)});
+              Avvisi{std::to_string(EINVAL) + "\r\n" + ParoleSistema(EINVAL)});
 }
 
 }  // namespace corvana::prova

@@ -8,7 +8,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Messaggi = std::vector<std::string>;
+using Avvisi = std::vector<std::string>;
 
 /// A melody with a name and a medium in the machine.
 struct BancoSupporto : BancoComposer {
@@ -31,7 +31,7 @@ struct BancoSupporto : BancoComposer {
     bool Modificata() const { return finestra.lblModificato.Visible(); }
     /// The one box was this, with the normal pointer back, and the flag stayed.
     void EsceErrore(const std::string& box) const {
-        EXPECT_EQ(riquadri.messaggi, Messaggi{box});
+        EXPECT_EQ(riquadri.messaggi, Avvisi{box});
         EXPECT_EQ(puntatori, std::vector<int>{puntatoreNormale});
         EXPECT_EQ(finestra.MousePointer(), puntatoreNormale);
         EXPECT_TRUE(Modificata());
@@ -45,7 +45,7 @@ TEST(SalvaSuSupporto, WritesTheMelodyToTheMediumAndSaysSo) {
     BancoSupporto b;
     b.Subito(Fatto::Click, "mnuSalvaA");
     EXPECT_EQ(b.SulSupporto("song.mel"), FileDi(soloSoprano));
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"song.mel\r\nsalvata"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"song.mel\r\nsalvata"});
     EXPECT_FALSE(b.Modificata());
 }
 
@@ -91,9 +91,9 @@ TEST(SalvaSuSupporto, WithoutANameAsksForOneAndProposesNone) {
     b.PonFile("chosen", "");
     b.riquadri.testi = {" mine "};
     b.finestra.mnuSalvaA_Click();
-    EXPECT_EQ(b.riquadri.messaggi, (Messaggi{"nome?", "mine.mel\r\nsalvata"}));
-    EXPECT_EQ(b.riquadri.titoli, Messaggi{"salva con nome"});
-    EXPECT_EQ(b.riquadri.proposte, Messaggi{""});
+    EXPECT_EQ(b.riquadri.messaggi, (Avvisi{"nome?", "mine.mel\r\nsalvata"}));
+    EXPECT_EQ(b.riquadri.titoli, Avvisi{"salva con nome"});
+    EXPECT_EQ(b.riquadri.proposte, Avvisi{""});
     EXPECT_EQ(b.SulSupporto("mine.mel"), FileDi(soloSoprano));
     EXPECT_EQ(b.melodia.nomeMelodia, "mine");
 }
@@ -105,7 +105,7 @@ TEST(SalvaSuSupporto, ACancelledOrBlankNameStopsItWithoutAWord) {
         b.melodia.nomeMelodia.clear();
         b.riquadri.testi = {risposta};
         b.finestra.mnuSalvaA_Click();
-        EXPECT_EQ(b.riquadri.messaggi, Messaggi{"nome?"});
+        EXPECT_EQ(b.riquadri.messaggi, Avvisi{"nome?"});
         EXPECT_EQ(b.melodia.nomeMelodia, "");
         EXPECT_TRUE(b.Modificata());
     }
@@ -116,7 +116,7 @@ TEST(SalvaSuSupporto, ARefusedNameIsForgottenWhateverNameIsShown) {
         BancoSupporto b;
         b.melodia.nomeMelodia = nome;
         b.finestra.mnuSalvaA_Click();
-        EXPECT_EQ(b.riquadri.messaggi, Messaggi{"nome errato"});
+        EXPECT_EQ(b.riquadri.messaggi, Avvisi{"nome errato"});
         EXPECT_EQ(b.melodia.nomeMelodia, "");
         EXPECT_EQ(b.finestra.lblNome.Caption(), "shown");
         EXPECT_TRUE(b.Modificata());
@@ -128,7 +128,7 @@ TEST(SalvaSuSupporto, ReplacesAFileOfThatNameWithoutAQuestion) {
     b.file.contenuti["/media/stick/song.mel"] = "old";
     b.finestra.mnuSalvaA_Click();
     EXPECT_EQ(b.SulSupporto("song.mel"), FileDi(soloSoprano));
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"song.mel\r\nsalvata"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"song.mel\r\nsalvata"});
 }
 
 TEST(SalvaSuSupporto, AFullDiskIsFault61InTheLanguagesWords) {

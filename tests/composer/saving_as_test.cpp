@@ -8,7 +8,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Messaggi = std::vector<std::string>;
+using Avvisi = std::vector<std::string>;
 
 struct BancoConNome : BancoComposer {
     int scrittePrima = file.scritture;
@@ -30,9 +30,9 @@ struct BancoConNome : BancoComposer {
 TEST(SalvaConNome, AsksWithPromptAndTitleAndProposesNothingWithoutAChosenRow) {
     BancoConNome b;
     b.Rispondi("new");
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"nome?"});
-    EXPECT_EQ(b.riquadri.titoli, Messaggi{"salva con nome"});
-    EXPECT_EQ(b.riquadri.proposte, Messaggi{""});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"nome?"});
+    EXPECT_EQ(b.riquadri.titoli, Avvisi{"salva con nome"});
+    EXPECT_EQ(b.riquadri.proposte, Avvisi{""});
     EXPECT_EQ(b.melodia.nomeMelodia, "new");
     EXPECT_EQ(b.ContenutoFile("new"), FileDi(soloSoprano));
     EXPECT_EQ(b.finestra.lblNome.Caption(), "Salvato: new");
@@ -44,7 +44,7 @@ TEST(SalvaConNome, ProposesTheTextOfTheChosenRow) {
     b.finestra.Fr2.Visible = true;
     b.PonFile("a song", "");
     b.Rispondi("new");
-    EXPECT_EQ(b.riquadri.proposte, Messaggi{"a song"});
+    EXPECT_EQ(b.riquadri.proposte, Avvisi{"a song"});
 }
 
 TEST(SalvaConNome, OnAFolderOffersItsSignAndNameWhichTheTestOfCharactersDoesntCatch) {
@@ -53,8 +53,8 @@ TEST(SalvaConNome, OnAFolderOffersItsSignAndNameWhichTheTestOfCharactersDoesntCa
     b.finestra.mnuApri_Click();
     b.Scegli("» mine");
     b.Rispondi("» mine");
-    EXPECT_EQ(b.riquadri.proposte, Messaggi{"» mine"});
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"nome?"});
+    EXPECT_EQ(b.riquadri.proposte, Avvisi{"» mine"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"nome?"});
     EXPECT_EQ(b.ContenutoFile("» mine"), FileDi(soloSoprano));
 }
 
@@ -90,7 +90,7 @@ TEST(SalvaConNome, ARefusedNameGivesTheOldOneBackWhenANameIsShown) {
                               ")", "=", "'", "^", "+", "*", "°",  "§", "<", ">", "?"}) {
         BancoConNome b;
         b.Rispondi(std::string("a") + segno + "b");
-        EXPECT_EQ(b.riquadri.messaggi, (Messaggi{"nome?", "nome errato"})) << segno;
+        EXPECT_EQ(b.riquadri.messaggi, (Avvisi{"nome?", "nome errato"})) << segno;
         EXPECT_EQ(b.melodia.nomeMelodia, "old") << segno;
         EXPECT_EQ(b.file.scritture, b.scrittePrima) << segno;
         EXPECT_TRUE(b.finestra.lblModificato.Visible()) << segno;
@@ -102,7 +102,7 @@ TEST(SalvaConNome, ARefusedNameLeavesNoneWhenLblNomeIsBlank) {
         BancoConNome b;
         b.finestra.lblNome.Caption = mostrato;
         b.Rispondi("a?");
-        EXPECT_EQ(b.riquadri.messaggi, (Messaggi{"nome?", "nome errato"}));
+        EXPECT_EQ(b.riquadri.messaggi, (Avvisi{"nome?", "nome errato"}));
         EXPECT_EQ(b.melodia.nomeMelodia, "");
         EXPECT_EQ(b.finestra.lblNome.Caption(), mostrato);
     }
@@ -113,7 +113,7 @@ TEST(SalvaConNome, ACancelledBoxSavesNothingAndLeavesTheMelodyWithoutAName) {
          {std::optional<std::string>(), std::optional<std::string>("  ")}) {
         BancoConNome b;
         b.Rispondi(risposta);
-        EXPECT_EQ(b.riquadri.messaggi, Messaggi{"nome?"});
+        EXPECT_EQ(b.riquadri.messaggi, Avvisi{"nome?"});
         EXPECT_EQ(b.melodia.nomeMelodia, "");
         EXPECT_EQ(b.finestra.lblNome.Caption(), "old");
         EXPECT_TRUE(b.finestra.lblModificato.Visible());
@@ -127,7 +127,7 @@ TEST(SalvaConNome, ACancelledBoxIsNoYesToTheNameThatItProposed) {
     b.PonFile("a song", "another");
     b.riquadri.risposte = {true};
     b.Rispondi(std::nullopt);
-    EXPECT_EQ(b.riquadri.proposte, Messaggi{"a song"});
+    EXPECT_EQ(b.riquadri.proposte, Avvisi{"a song"});
     EXPECT_EQ(b.melodia.nomeMelodia, "");
     EXPECT_EQ(b.ContenutoFile("a song"), "another");
 }
@@ -137,7 +137,7 @@ TEST(SalvaConNome, ANoToReplacingAMelodyWritesNothingAndTheNewNameStaysInForce) 
     b.PonFile("new", "another");
     b.riquadri.risposte = {false};
     b.Rispondi("new");
-    EXPECT_EQ(b.riquadri.messaggi, (Messaggi{"nome?", "esiste new\r\nsostituire?"}));
+    EXPECT_EQ(b.riquadri.messaggi, (Avvisi{"nome?", "esiste new\r\nsostituire?"}));
     EXPECT_EQ(b.ContenutoFile("new"), "another");
     EXPECT_EQ(b.melodia.nomeMelodia, "new");
     EXPECT_EQ(b.finestra.lblNome.Caption(), "old");
@@ -157,7 +157,7 @@ TEST(SalvaConNome, AFailedSaveKeepsTheNewNameAndTheFlag) {
     BancoConNome b;
     b.file.erroreScrivi = ENOSPC;
     b.Rispondi("new");
-    EXPECT_EQ(b.riquadri.messaggi, (Messaggi{"nome?", "61\r\n" + ParoleSistema(ENOSPC)}));
+    EXPECT_EQ(b.riquadri.messaggi, (Avvisi{"nome?", "61\r\n" + ParoleSistema(ENOSPC)}));
     EXPECT_EQ(b.melodia.nomeMelodia, "new");
     EXPECT_EQ(b.finestra.lblNome.Caption(), "old");
     EXPECT_TRUE(b.finestra.lblModificato.Visible());

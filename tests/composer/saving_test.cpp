@@ -8,7 +8,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Messaggi = std::vector<std::string>;
+using Avvisi = std::vector<std::string>;
 
 /// Two notes in the soprano, changed since they were saved, by instrument 16 at tempo 60.
 struct BancoSalva : BancoComposer {
@@ -157,7 +157,7 @@ TEST(SalvaMelodia, WhatCantBeWrittenIsToldByNumberAndTextAndTheOldFileAndTheFlag
         b.file.erroreScrivi = errore;
         b.finestra.SalvaMelodia("song");
         b.EsceIntatta();
-        EXPECT_EQ(b.riquadri.messaggi, Messaggi{testo});
+        EXPECT_EQ(b.riquadri.messaggi, Avvisi{testo});
         EXPECT_EQ(b.ContenutoFile("song"), "old");
     }
 }
@@ -197,7 +197,7 @@ TEST(MenuSalva, WithoutANameAsksForOne) {
     BancoSalva b;
     b.riquadri.testi = {"mine"};
     b.finestra.mnuSalva_Click();
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"nome?"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"nome?"});
     EXPECT_EQ(b.melodia.nomeMelodia, "mine");
     EXPECT_EQ(b.ContenutoFile("mine"), FileDi(soloSoprano));
 }

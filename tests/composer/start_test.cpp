@@ -7,7 +7,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Messaggi = std::vector<std::string>;
+using Avvisi = std::vector<std::string>;
 
 constexpr std::int32_t violino = 40;
 constexpr Colore coloreProprio = Rgb(1, 2, 3);
@@ -138,7 +138,7 @@ TEST(AvvioComposer, AnUnreadableLastDirCountsAsEmpty) {
     b.file.contenuti.clear();
     b.Apri();
     EXPECT_EQ(b.globali.percorsoCorrente, "/programma/Melodie/Demo/");
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Error1 Opening key: 2"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"Error1 Opening key: 2"});
 }
 
 TEST(AvvioComposer, AFolderInLastDirThatNoLongerExistsIsTakenWithoutAWord) {

@@ -9,7 +9,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Messaggi = std::vector<std::string>;
+using Avvisi = std::vector<std::string>;
 
 /// A window under the name of one that has rows, with a few of their targets.
 struct FinestraTradotta : Form {
@@ -99,14 +99,14 @@ TEST(UpdateString, LinesMayEndInEitherWayAndTheLastNeedNot) {
 TEST(UpdateString, AMissingFileShowsTheReadError) {
     BancoLingua b;
     UpdateString(b.Tutto(), b.finestra);
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{guasto});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{guasto});
 }
 
 TEST(UpdateString, AFileThatCantBeReadShowsTheReadError) {
     BancoLingua b;
     b.file.erroreLeggi = EIO;
     b.Applica("1;CorvanaMainF;a\n");
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{guasto});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{guasto});
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "");
 }
 
@@ -114,7 +114,7 @@ TEST(UpdateString, ALineOfTooFewFieldsEndsTheReadingAndWhatWasAppliedStays) {
     for (const char* breve : {"nothing", "", "2;CorvanaMainF", "5"}) {
         BancoLingua b;
         b.Applica(std::string("1;CorvanaMainF;a\n") + breve + "\n3;CorvanaMainF;b\n");
-        EXPECT_EQ(b.riquadri.messaggi, Messaggi{guasto}) << breve;
+        EXPECT_EQ(b.riquadri.messaggi, Avvisi{guasto}) << breve;
         EXPECT_EQ(b.finestra.cmdEsci.Caption(), "a") << breve;
         EXPECT_EQ(b.finestra.es.Caption(), "") << breve;
     }
@@ -124,7 +124,7 @@ TEST(UpdateString, AnIdThatIsNoNumberIsAReadError) {
     for (const char* id : {"x", "", "1.5", "99999999999999999999"}) {
         BancoLingua b;
         b.Applica(std::string(id) + ";CorvanaMainF;a\n");
-        EXPECT_EQ(b.riquadri.messaggi, Messaggi{guasto}) << id;
+        EXPECT_EQ(b.riquadri.messaggi, Avvisi{guasto}) << id;
     }
 }
 
@@ -138,7 +138,7 @@ TEST(UpdateString, AZeroByteInATextDoesNoHarm) {
 TEST(UpdateString, TenMegabytesWithoutALineAreAReadError) {
     BancoLingua b;
     b.Applica(std::string(10'000'000, 'x'));
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{guasto});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{guasto});
 }
 
 TEST(UpdateString, AListRowIsReplacedAndTheSelectionStays) {
@@ -160,7 +160,7 @@ TEST(UpdateString, ATargetThatTheWindowHasntIsPassedOver) {
 RC_GTEST_PROP(UpdateString, AnyBytesGiveTheReadErrorOrNothing, (const std::string& contenuto)) {
     BancoLingua b;
     b.Applica(contenuto);
-    RC_ASSERT(b.riquadri.messaggi.empty() || b.riquadri.messaggi == Messaggi{guasto});
+    RC_ASSERT(b.riquadri.messaggi.empty() || b.riquadri.messaggi == Avvisi{guasto});
 }
 
 RC_GTEST_PROP(UpdateString, AnyTextOfARowGoesInWhole, ()) {
@@ -175,7 +175,7 @@ TEST(UpdateString, AFileFarTooLongIsToldAndNothingOfItIsApplied) {
     BancoLingua b;
     b.Applica("1;CorvanaMainF;Esci\n" + std::string(limiteTesti, '\n'));
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "");
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{guasto});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{guasto});
     std::string lungo = "1;CorvanaMainF;Esci\n";
     while (lungo.size() + 20 < limiteTesti)
         lungo += "9999;frmAbout;text\n";

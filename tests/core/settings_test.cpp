@@ -9,7 +9,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Messaggi = std::vector<std::string>;
+using Avvisi = std::vector<std::string>;
 
 const std::string intere = "Language=en\nCorvanaLastS=\nLastDir=\nIntoLastS=\n";
 
@@ -37,27 +37,27 @@ TEST(Impostazioni, WhatWasWrittenIsRead) {
 TEST(Impostazioni, ReadingAnAbsentValueShowsError2AndYieldsAnEmptyText) {
     BancoImpostazioni b("Language=en\n");
     EXPECT_EQ(b.impostazioni.LeggiValore("CorvanaLastS"), "");
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Error2 Querying key: 2"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"Error2 Querying key: 2"});
 }
 
 TEST(Impostazioni, ReadingWithTheStoreAbsentShowsError1) {
     BancoImpostazioni b;
     EXPECT_EQ(b.impostazioni.LeggiValore("Language"), "");
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Error1 Opening key: 2"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"Error1 Opening key: 2"});
 }
 
 TEST(Impostazioni, AnyOtherErrorOfTheStoreIsToldWithItsCode) {
     BancoImpostazioni b("Language=en\n");
     b.file.erroreLeggi = EACCES;
     EXPECT_EQ(b.impostazioni.LeggiValore("Language"), "");
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Error1 Opening key: 13"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"Error1 Opening key: 13"});
 }
 
 TEST(Impostazioni, AValueThatCantBeReadShowsError3) {
     for (const char* rotto : {"a\\x", "\\", "abc\\"}) {
         BancoImpostazioni b(std::string("Language=") + rotto + "\n");
         EXPECT_EQ(b.impostazioni.LeggiValore("Language"), "") << rotto;
-        EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Error3 Querying key: 84"}) << rotto;
+        EXPECT_EQ(b.riquadri.messaggi, Avvisi{"Error3 Querying key: 84"}) << rotto;
     }
 }
 
@@ -130,7 +130,7 @@ TEST(Impostazioni, ADamagedStoreIsToldOnceAndPutAsideAndAFreshOneTakesItsPlace) 
              {std::string(limiteTesti + 1, 'x'), "Error1 Opening key: 27"}}) {
         BancoImpostazioni b(rovinate);
         b.impostazioni.Prepara();
-        EXPECT_EQ(b.riquadri.messaggi, Messaggi{box});
+        EXPECT_EQ(b.riquadri.messaggi, Avvisi{box});
         EXPECT_EQ(b.file.contenuti[std::string(b.percorso) + ".damaged"], rovinate);
         EXPECT_EQ(b.Testo(), "Language=\nCorvanaLastS=\nLastDir=\nIntoLastS=\n");
         b.impostazioni.Prepara();
@@ -143,7 +143,7 @@ TEST(Impostazioni, ADamagedStoreIsToldOnceAndPutAsideAndAFreshOneTakesItsPlace) 
 TEST(Impostazioni, WhatCanBeReadOfADamagedStoreIsKept) {
     BancoImpostazioni b("CorvanaLastS=43;\\\nLanguage=en\nLastDir=/a\\\\b\nmore=1\n");
     b.impostazioni.Prepara();
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Error3 Querying key: 84"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"Error3 Querying key: 84"});
     EXPECT_EQ(b.Testo(), "Language=en\nCorvanaLastS=\nLastDir=/a\\\\b\nIntoLastS=\n");
 }
 
@@ -161,7 +161,7 @@ TEST(Impostazioni, ADamagedStoreThatCantBePutAsideStaysAndIsToldAgain) {
 TEST(Impostazioni, AFileFarTooLongIsntReadAtAnyTime) {
     BancoImpostazioni b(intere + std::string(limiteTesti, '\n'));
     EXPECT_EQ(b.impostazioni.LeggiValore("Language"), "");
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Error1 Opening key: 27"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"Error1 Opening key: 27"});
     b.impostazioni.ScriviValore("Language", "it");
     EXPECT_EQ(b.file.scritture, 0);
 }

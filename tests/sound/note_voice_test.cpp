@@ -121,7 +121,7 @@ TEST(ProssimaDomanda, StopsTheNoteBeforeAndSoundsTheChosenOne) {
     b.Messaggi();
     b.suono.SuonaNota(-2);
     EXPECT_EQ(b.Messaggi(), (Pacchetti{Nota(48, 0), Nota(60, 100)}));
-    EXPECT_EQ(domanda.diario, (Messaggi{"2 choose", "4 awaits"}));
+    EXPECT_EQ(domanda.diario, (Avvisi{"2 choose", "4 awaits"}));
     EXPECT_EQ(b.suono.UltimaNota, 24);
     EXPECT_DOUBLE_EQ(b.orologio.Adesso(), 0);
 }
@@ -148,7 +148,7 @@ TEST(ProssimaDomanda, WithTheNameInViewTheKeyIsLitAndTheNameShown) {
     DomandaFinta domanda(b);
     domanda.inVista = true;
     b.suono.SuonaNota(-2);
-    EXPECT_EQ(domanda.diario, (Messaggi{"0 choose", "2 awaits", "2 light 60", "2 name 24"}));
+    EXPECT_EQ(domanda.diario, (Avvisi{"0 choose", "2 awaits", "2 light 60", "2 name 24"}));
 }
 
 TEST(ProssimaDomanda, WithAReferenceTheNoteEndsAfterNineTenthsOfASecondAndTheKeyIsCleared) {
@@ -167,7 +167,7 @@ TEST(ProssimaDomanda, WithAReferenceAndTheNameHiddenNoKeyIsTouched) {
     DomandaFinta domanda(b);
     domanda.conRiferimento = true;
     b.suono.SuonaNota(-2);
-    EXPECT_EQ(domanda.diario, (Messaggi{"0 choose", "2 awaits"}));
+    EXPECT_EQ(domanda.diario, (Avvisi{"0 choose", "2 awaits"}));
 }
 
 TEST(SuonaNota, MinusOneStopsWhateverStandsThereAlsoWhatNoNoteCanBe) {

@@ -30,7 +30,7 @@ struct BancoSuono {
 };
 
 using Pacchetti = std::vector<std::uint32_t>;
-using Messaggi = std::vector<std::string>;
+using Avvisi = std::vector<std::string>;
 
 /// A note on of channel 1 (velocity 0 for a note off), packed as the platform takes it.
 constexpr std::uint32_t Nota(std::uint32_t nota, std::uint32_t velocita) {

@@ -27,7 +27,7 @@ TEST(ApriMidi, AFailureShowsTheBoxReturnsFalseAndNothingIsOpen) {
     BancoSuono b;
     b.uscita.esitoOpen = 4;
     EXPECT_FALSE(b.suono.ApriMidi(3));
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Operation:Open\r\nerror text 4"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"Operation:Open\r\nerror text 4"});
     EXPECT_EQ(b.suono.HandleMidi, 0);
 }
 
@@ -45,7 +45,7 @@ TEST(ChiudiMidi, AFailureShowsTheBoxAndKeepsTheHandle) {
     const HandleDispositivo handle = b.suono.HandleMidi;
     b.uscita.esitoClose = 5;
     b.suono.ChiudiMidi();
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Operation:Close midi error: \r\nerror text 5"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"Operation:Close midi error: \r\nerror text 5"});
     EXPECT_EQ(b.suono.HandleMidi, handle);
 }
 
@@ -73,7 +73,7 @@ TEST(MessaggioMidi, AFailureShowsTheBoxAndTheCallerGoesOn) {
     BancoSuono b;
     b.uscita.esitoShortMsg = 67;
     b.suono.NotaOn(1, 60, 100);
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Operation:ShortMsg\r\nerror text 67"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"Operation:ShortMsg\r\nerror text 67"});
     EXPECT_EQ(b.suono.EsitoMidi, 67);
     b.uscita.esitoShortMsg = 0;
     b.suono.NotaOn(1, 60, 100);
@@ -86,8 +86,8 @@ TEST(MessaggioMidi, WithNoDeviceOpenEachMessageShowsTheBox) {
     b.suono.ChiudiMidi();
     b.suono.NotaOn(1, 60, 100);
     b.suono.NotaOff(1, 60);
-    EXPECT_EQ(b.riquadri.messaggi, (Messaggi{"Operation:ShortMsg\r\nerror text 5",
-                                             "Operation:ShortMsg\r\nerror text 5"}));
+    EXPECT_EQ(b.riquadri.messaggi,
+              (Avvisi{"Operation:ShortMsg\r\nerror text 5", "Operation:ShortMsg\r\nerror text 5"}));
 }
 
 TEST(CambiaStrumento, PacksTheProgramAndTheChannelIndex) {

@@ -7,7 +7,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Messaggi = std::vector<std::string>;
+using Avvisi = std::vector<std::string>;
 
 /// A window that stands for one of the others: it does its work on activation and is closed.
 struct FinestraFinta final : Form {
@@ -73,11 +73,11 @@ TEST(PrimaAttivazione, OpensTheDefaultOutputSetsTheInstrumentAndPlaysTheSignal) 
 
 TEST(PrimaAttivazione, HasItsFourControlsOffUntilTheSignalIsOverAndStartGetsTheFocus) {
     BancoPrincipale b;
-    Messaggi durante;
+    Avvisi durante;
     b.Quando(1, [&] { durante = Disabilitati(b.finestra); });
     b.Fine(3);
     b.Avvia();
-    EXPECT_EQ(durante, (Messaggi{"Start", "mnuRint", "Intonazione", "cmdEsci"}));
+    EXPECT_EQ(durante, (Avvisi{"Start", "mnuRint", "Intonazione", "cmdEsci"}));
     EXPECT_TRUE(Disabilitati(b.finestra).empty());
     EXPECT_EQ(b.specchio.fuochi.back(), "Start");
 }
@@ -130,8 +130,8 @@ TEST(SenzaDispositivo, TheWindowOpensWithABoxAndTheFirstNoteFailsWithAnother) {
     b.Fine(4);
     b.Avvia();
     EXPECT_EQ(b.riquadri.messaggi,
-              (Messaggi{"Operation:Open\r\nerror text 4", "Operation:ShortMsg\r\nerror text 5",
-                        "Operation:ShortMsg\r\nerror text 5"}));
+              (Avvisi{"Operation:Open\r\nerror text 4", "Operation:ShortMsg\r\nerror text 5",
+                      "Operation:ShortMsg\r\nerror text 5"}));
     EXPECT_TRUE(b.finestra.InCorso);
     EXPECT_EQ(b.NoteInVista(), std::vector<int>{43});
     EXPECT_EQ(b.uscita.messaggi.size(), 0U);
@@ -152,7 +152,7 @@ TEST(SenzaDispositivo, AnOutputThatNobodyHearsIsToldOnceInTheWordsOfTheLanguageF
     b.uscita.udibile = false;
     b.Fine(10);
     b.Avvia();
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"nessun suono"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"nessun suono"});
 }
 
 TEST(SenzaDispositivo, WithoutALanguageFileItIsToldAllTheSame) {
@@ -230,7 +230,7 @@ TEST(Chiusura, AFailedCloseOfTheDeviceShowsItsBoxAndTheWindowGoes) {
     b.Quando(2.5, [&] { b.uscita.esitoClose = 5; });
     b.Chiudi(3);
     EXPECT_FALSE(b.Avvia());
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Operation:Close midi error: \r\nerror text 5"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"Operation:Close midi error: \r\nerror text 5"});
     EXPECT_EQ(b.Stato(), "43;53;16;30;n");
 }
 
@@ -258,10 +258,10 @@ TEST(PrimaAttivazione, AModeChosenBeforeItIsServedGivesStartTheFocusAsLaterOnesD
     for (const char* modo : {"mnuNormale", "mnuAutomatico"}) {
         BancoPrincipale b;
         AllaComparsa(b, Fatto::Click, modo);
-        b.Quando(1, [&] { EXPECT_EQ(b.specchio.fuochi, Messaggi{"Start"}) << modo; });
+        b.Quando(1, [&] { EXPECT_EQ(b.specchio.fuochi, Avvisi{"Start"}) << modo; });
         b.Fine(3);
         b.Avvia();
-        EXPECT_EQ(b.specchio.fuochi, (Messaggi{"Start", "Start"})) << modo;
+        EXPECT_EQ(b.specchio.fuochi, (Avvisi{"Start", "Start"})) << modo;
     }
 }
 
@@ -271,7 +271,7 @@ TEST(PrimaAttivazione, WithNothingDoneBeforeItStartHasTheFocusWhenTheSignalIsOve
     b.Quando(2, [&] { EXPECT_TRUE(b.specchio.fuochi.empty()); });
     b.Fine(3);
     b.Avvia();
-    EXPECT_EQ(b.specchio.fuochi, Messaggi{"Start"});
+    EXPECT_EQ(b.specchio.fuochi, Avvisi{"Start"});
 }
 
 TEST(PrimaAttivazione, TheModesAndTheSliderGiveNoFocusBeforeIt) {
@@ -289,7 +289,7 @@ TEST(PrimaAttivazione, TheModesAndTheSliderGiveNoFocusBeforeIt) {
     b.finestra.Slider1_Scroll();
     b.finestra.mnuNormale_Click();
     b.finestra.mnuAutomatico_Click();
-    EXPECT_EQ(b.specchio.fuochi, (Messaggi{"Start", "Start", "Start"}));
+    EXPECT_EQ(b.specchio.fuochi, (Avvisi{"Start", "Start", "Start"}));
 }
 
 TEST(Chiusura, BeforeTheFirstActivationIsOverOpensNoDevice) {

@@ -10,7 +10,7 @@ namespace corvana::prova {
 
 namespace {
 
-using Messaggi = std::vector<std::string>;
+using Avvisi = std::vector<std::string>;
 
 /// Loads the window over the text and looks at it when the opening signal is over.
 struct BancoRipresa : BancoPrincipale {
@@ -77,7 +77,7 @@ TEST(Ripresa, AFieldThatIsNoNumberShowsTheFaultAndGivesTheFirstRow) {
     for (const char* stato : {"x;53;16;30;n", "43;;16;30;n", "20;44;y;30;n", "20;44;16;z;n",
                               "20;44;16", "20;44", ";;;;", "a;b;c;d;e"}) {
         const BancoRipresa b(stato);
-        EXPECT_EQ(b.riquadri.messaggi, Messaggi{nonNumero}) << stato;
+        EXPECT_EQ(b.riquadri.messaggi, Avvisi{nonNumero}) << stato;
         EscePrimaRiga(b, stato);
     }
 }
@@ -86,7 +86,7 @@ TEST(Ripresa, ANumberThatDoesntFitShowsTheFaultAndGivesTheFirstRow) {
     for (const char* stato : {"-5;53;16;30;n", "11;300;16;30;n", "43;99999999999999999999;16;30;n",
                               "20;44;99999999999;30;n"}) {
         const BancoRipresa b(stato);
-        EXPECT_EQ(b.riquadri.messaggi, Messaggi{troppo}) << stato;
+        EXPECT_EQ(b.riquadri.messaggi, Avvisi{troppo}) << stato;
         EscePrimaRiga(b, stato);
     }
 }
@@ -135,7 +135,7 @@ TEST(Ripresa, AnAbsentValueShowsItsBoxAndGivesTheFirstRow) {
     b.file.contenuti[Banco::percorsoImpostazioni] = "Language=it\n";
     b.Fine(3);
     b.Avvia();
-    EXPECT_EQ(b.riquadri.messaggi, Messaggi{"Error2 Querying key: 2"});
+    EXPECT_EQ(b.riquadri.messaggi, Avvisi{"Error2 Querying key: 2"});
     EXPECT_EQ(b.finestra.difficolt.ListIndex(), 0);
 }
 
