@@ -1,7 +1,7 @@
 #include "forms/form.h"
 
 #include <algorithm>
-#include <cassert>
+#include <stdexcept>
 
 namespace corvana {
 
@@ -41,7 +41,8 @@ void Form::DaiFuoco(const Controllo& controllo) {
 void Disponi(Form& form, const Posto* posti, std::size_t quanti) {
     std::for_each(posti, posti + quanti, [&](const Posto& posto) {
         Controllo* controllo = form.Trova(posto.nome);
-        assert(controllo && "the layout names a control that the form hasn't");
+        if (!controllo)
+            throw std::logic_error(form.Name + " has no control " + std::string(posto.nome));
         controllo->Left = posto.left;
         controllo->Top = posto.top;
         controllo->Width = posto.width;

@@ -72,7 +72,8 @@ struct Posto {
     std::string_view stile = {};
 };
 
-/// Lays the named controls out. Every name must be a control of the form.
+/// Lays the named controls out. A name that no control of the form has is the layout's mistake:
+/// throws std::logic_error.
 void Disponi(Form& form, const Posto* posti, std::size_t quanti);
 
 }  // namespace corvana

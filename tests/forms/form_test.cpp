@@ -84,6 +84,17 @@ TEST(Disponi, ChoosesTheRowOfADropDownListThatTheLayoutNames) {
     EXPECT_EQ(f.combo.ListIndex(), 2);
 }
 
+TEST(Disponi, ANameThatNoControlHasIsAnErrorThatTellsIt) {
+    FinestraProva f;
+    constexpr std::array posti = {Posto{"bottone", 1, 2, 3, 4}, Posto{"Bottone", 5, 6, 7, 8}};
+    try {
+        Disponi(f, posti.data(), posti.size());
+        ADD_FAILURE() << "the layout was taken";
+    } catch (const std::logic_error& errore) {
+        EXPECT_STREQ(errore.what(), "frmProva has no control Bottone");
+    }
+}
+
 TEST(Form, HasTheNormalPointerUntilItIsGivenAnother) {
     BancoFinestra b;
     EXPECT_EQ(b.finestra.MousePointer(), puntatoreNormale);
