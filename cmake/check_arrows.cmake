@@ -8,18 +8,20 @@ set(may_forms "")
 set(may_realtime "")
 set(may_sound forms)
 set(may_core forms sound)
-foreach(window trainer metronome utilities)
+foreach(window trainer metronome eartrainer utilities)
     set(may_${window} forms sound core)
 endforeach()
-# The melody is plain logic: of the runtime and the core it knows faults, waits and texts alone.
+# The melody is plain logic: of the runtime and the core it knows faults, how long a short wait
+# takes, and texts alone.
 set(may_melody forms core)
 set(may_piano forms sound core)
 set(may_composer forms sound core melody piano)
-set(may_program forms sound core trainer metronome utilities melody composer piano)
+set(may_program forms sound core trainer metronome eartrainer utilities melody composer piano)
 set(toolkits "#include *[<\"](Q[A-Z]|SDL|fluidsynth|RtMidi|rtmidi|jack/|alsa/|systemd/)")
 set(faults "")
 
-foreach(folder forms realtime sound core melody piano trainer metronome composer utilities program)
+foreach(folder forms realtime sound core melody piano trainer metronome composer eartrainer
+        utilities program)
     file(GLOB sources ${ROOT}/${folder}/*.h ${ROOT}/${folder}/*.cpp)
     set(allowed ${folder} ${may_${folder}})
     foreach(source IN LISTS sources)
@@ -28,7 +30,7 @@ foreach(folder forms realtime sound core melody piano trainer metronome composer
             if(line MATCHES "^#include \"([a-z]+)/" AND NOT CMAKE_MATCH_1 IN_LIST allowed)
                 string(APPEND faults "${source}: ${line}\n")
             elseif(folder STREQUAL "melody" AND line MATCHES "\"(forms|core)/" AND
-                   NOT line MATCHES "\"(forms/(fault|pump)|core/text)\\.h\"")
+                   NOT line MATCHES "\"(forms/(fault|granularity)|core/text)\\.h\"")
                 string(APPEND faults "${source}: ${line}\n")
             elseif((line MATCHES "${toolkits}" AND NOT folder STREQUAL "realtime") OR (line MATCHES "sound/outputs/"))
                 string(APPEND faults "${source}: ${line}\n")

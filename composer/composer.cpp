@@ -1,5 +1,6 @@
 #include "composer/composer.h"
 
+#include "composer/composer_rows.h"
 #include "composer/ranges.h"
 #include "core/language.h"
 #include "melody/numbers.h"
@@ -53,7 +54,7 @@ void frmComposer::Collega() {
 }
 
 void frmComposer::Form_Load() {
-    if (FileLinguaEsiste(a_)) UpdateString(a_, *this);
+    if (FileLinguaEsiste(a_)) UpdateString(a_, *this, BersagliComposer());
     a_.globali.ComposerAperto = true;
     mnuPiano.Caption = vicine_.mnuPiano();
     mnuOrgano.Caption = vicine_.mnuOrgano();

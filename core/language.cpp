@@ -1,6 +1,5 @@
 #include "core/language.h"
 
-#include "core/language_targets.h"
 #include "core/text.h"
 #include "forms/fault.h"
 
@@ -23,10 +22,11 @@ void Applica(Globali& globali, const Bersaglio& bersaglio, const std::string& te
         dynamic_cast<Lista&>(*controllo).PonRiga(bersaglio.elemento, testo);
 }
 
-void ApplicaLinea(const Ambiente& ambiente, const std::string& linea, Form& form) {
+void ApplicaLinea(const Ambiente& ambiente, const std::string& linea, Form& form,
+                  Bersagli bersagli) {
     const auto campi = Dividi(linea, ';');
     if (Minuscolo(campi.at(1)) != Minuscolo(form.Name)) return;
-    ApplicaRiga(ambiente.globali, campi.at(0), campi.at(2), form);
+    ApplicaRiga(ambiente.globali, campi.at(0), campi.at(2), form, bersagli);
 }
 
 }  // namespace
@@ -35,7 +35,7 @@ bool FileLinguaEsiste(const Ambiente& ambiente) {
     return ambiente.file.Esiste(ambiente.globali.PercorsoLingua);
 }
 
-void UpdateString(const Ambiente& ambiente, Form& form) {
+void UpdateString(const Ambiente& ambiente, Form& form, Bersagli bersagli) {
     try {
         std::string contenuto;
         if (const int errore =
@@ -44,16 +44,17 @@ void UpdateString(const Ambiente& ambiente, Form& form) {
         if (contenuto.ends_with('\n')) contenuto.pop_back();
         for (std::string& linea : Dividi(contenuto, '\n')) {
             if (linea.ends_with('\r')) linea.pop_back();
-            ApplicaLinea(ambiente, linea, form);
+            ApplicaLinea(ambiente, linea, form, bersagli);
         }
     } catch (const std::exception&) {
         ambiente.riquadri.MsgBox("Error Reading file!!!");
     }
 }
 
-void ApplicaRiga(Globali& globali, const std::string& id, const std::string& testo, Form& form) {
+void ApplicaRiga(Globali& globali, const std::string& id, const std::string& testo, Form& form,
+                 Bersagli bersagli) {
     const long numero = NumeroIntero(id, -32768, 32767);
-    for (const Bersaglio& bersaglio : Bersagli(Minuscolo(form.Name)))
+    for (const Bersaglio& bersaglio : bersagli)
         if (bersaglio.id == numero) Applica(globali, bersaglio, testo, form);
 }
 

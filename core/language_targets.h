@@ -1,7 +1,6 @@
-// What each id of the language files sets: one table for each window, in ascending order of id.
-// An element of an array of controls goes by the array's name and its index, "Label4" and 7 being
-// "Label47". The ear trainer's strips `lblT` have no rows, which is as well: "lblT1" and "lblT2"
-// are labels of their own there. Any thread.
+// What a row of the language files sets. Each window has a table of these beside its layout. An
+// element of an array of controls goes by the array's name and its index, "Label4" and 7 being
+// "Label47". Any thread.
 #pragma once
 
 #include <span>
@@ -47,17 +46,7 @@ constexpr Bersaglio Stringa(int id, std::string TestiLingua::*variabile) {
     return {id, Cosa::Stringa, {}, 0, variabile};
 }
 
-/// The targets of a window, by its name in lower case; empty for an unknown one.
-std::span<const Bersaglio> Bersagli(std::string_view nomeForm);
-
-/// The tables behind it.
-std::span<const Bersaglio> BersagliPrincipali();
-std::span<const Bersaglio> BersagliConfMetro();
-std::span<const Bersaglio> BersagliMidiTest();
-std::span<const Bersaglio> BersagliAbout();
-std::span<const Bersaglio> BersagliOptions();
-std::span<const Bersaglio> BersagliInto();
-std::span<const Bersaglio> BersagliComposer();
-std::span<const Bersaglio> BersagliCopyFromA();
+/// The rows of a window, in ascending order of id.
+using Bersagli = std::span<const Bersaglio>;
 
 }  // namespace corvana

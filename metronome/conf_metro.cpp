@@ -3,6 +3,7 @@
 #include "core/effects.h"
 #include "core/language.h"
 #include "core/text.h"
+#include "metronome/conf_metro_rows.h"
 #include "metronome/layout.h"
 #include "metronome/pattern.h"
 
@@ -41,7 +42,7 @@ void frmConfMetro::Form_Load() {
     txtPattern.Text = Stato().MetroSequenza;
     txtTempo.Text = Stato().MetroTempo;
     CaricamentoConf = false;
-    if (FileLinguaEsiste(a_)) UpdateString(a_, *this);
+    if (FileLinguaEsiste(a_)) UpdateString(a_, *this, BersagliConfMetro());
     Gradiente(*this, 202, 143, 85, 234, 213, 165, "ds", "i");
 }
 

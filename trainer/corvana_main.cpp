@@ -1,6 +1,7 @@
 #include "trainer/corvana_main.h"
 
 #include "core/language.h"
+#include "trainer/main_rows.h"
 #include "trainer/state.h"
 
 namespace corvana {
@@ -48,7 +49,7 @@ void CorvanaMainF::CollegaControlli() {
 }
 
 void CorvanaMainF::Form_Load() {
-    if (FileLinguaEsiste(a_)) UpdateString(a_, *this);
+    if (FileLinguaEsiste(a_)) UpdateString(a_, *this, BersagliPrincipali());
     SuonoNota = true;
     if (a_.globali.NomiAnglo)
         Nominote2_Click();

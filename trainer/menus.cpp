@@ -2,6 +2,7 @@
 #include "core/language.h"
 #include "core/startup.h"
 #include "trainer/corvana_main.h"
+#include "trainer/main_rows.h"
 
 namespace corvana {
 
@@ -113,7 +114,7 @@ void CorvanaMainF::CambiaLingua(bool inglese) {
     PonLingua(a_.globali, inglese);
     a_.impostazioni.ScriviValore("Language", inglese ? "en" : "it");
     PonNomiRisposte(inglese);
-    if (FileLinguaEsiste(a_)) UpdateString(a_, *this);
+    if (FileLinguaEsiste(a_)) UpdateString(a_, *this, BersagliPrincipali());
     Apri(secondarie_.metronomo.cambiaLingua);
     MostraVelocità();
     frmRisultati.Visible = false;

@@ -6,6 +6,7 @@
 #include "core/language.h"
 #include "core/version.h"
 #include "forms/keys.h"
+#include "utilities/utility_rows.h"
 
 namespace corvana {
 
@@ -38,7 +39,7 @@ frmAbout::frmAbout(const Ambiente& ambiente) : Form("frmAbout"), a_(ambiente) {
 void frmAbout::Form_Load() {
     Gradiente(frmBg, 255, 191, 58, 255, 239, 154, "ds", "i");
     RitagliaForm(*this, 345, 240);
-    if (FileLinguaEsiste(a_)) UpdateString(a_, *this);
+    if (FileLinguaEsiste(a_)) UpdateString(a_, *this, BersagliAbout());
     lblTitle.Caption = std::string(versione::titolo) + "\r\n" + versione::anno;
     lblVersion.Caption = "Vers. " + std::to_string(versione::maggiore) + "." +
                          std::to_string(versione::minore) + "." +

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "core/language.h"
+#include "utilities/utility_rows.h"
 
 namespace corvana {
 
@@ -39,7 +40,7 @@ frmMidiTest::frmMidiTest(const Ambiente& ambiente) : Form("frmMidiTest"), a_(amb
 }
 
 void frmMidiTest::Form_Load() {
-    if (FileLinguaEsiste(a_)) UpdateString(a_, *this);
+    if (FileLinguaEsiste(a_)) UpdateString(a_, *this, BersagliMidiTest());
 }
 
 void frmMidiTest::Form_Activate() {

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <array>
+
 #include "tests/support/rig.h"
 
 namespace corvana::prova {
@@ -11,23 +13,25 @@ namespace {
 
 using Avvisi = std::vector<std::string>;
 
-/// A window under the name of one that has rows, with a few of their targets.
+constexpr std::array bersagli = {
+    Testo(0, "frmProva"), Testo(1, "cmdEsci"),      Testo(2, "noSuchControl"),
+    Testo(3, "es"),       Riga(12, "difficolt", 0), Riga(20, "difficolt", 10),
+};
+
 struct FinestraTradotta : Form {
-    explicit FinestraTradotta(std::string nome) : Form(std::move(nome)) {
-        difficolt.List = Righe(11, "old");
-    }
+    FinestraTradotta() : Form("frmProva") { difficolt.List = Righe(11, "old"); }
     Etichetta cmdEsci{*this, "cmdEsci"};
     VoceMenu es{*this, "es"};
     Lista difficolt{*this, "difficolt"};
 };
 
 struct BancoLingua : Banco {
-    FinestraTradotta finestra{"CorvanaMainF"};
+    FinestraTradotta finestra;
 
     BancoLingua() { globali.PercorsoLingua = "/programma/langit.csv"; }
     void Applica(const std::string& contenuto) {
         file.contenuti[globali.PercorsoLingua] = contenuto;
-        UpdateString(Tutto(), finestra);
+        UpdateString(Tutto(), finestra, bersagli);
     }
 };
 
@@ -51,43 +55,40 @@ TEST(UpdateString, AnEmptyFileChangesNothing) {
 
 TEST(UpdateString, ARowIsForTheWindowOfItsNameWhateverTheCase) {
     BancoLingua b;
-    b.Applica("0;CORVANAmainf;titolo\n1;corvanaMainF;Esci\n3;frmAbout;no\n3;CorvanaMain;no\n");
+    b.Applica("0;FRMprova;titolo\n1;frmPROVA;Esci\n3;frmAbout;no\n3;frmProv;no\n");
     EXPECT_EQ(b.finestra.Caption(), "titolo");
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "Esci");
     EXPECT_EQ(b.finestra.es.Caption(), "");
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
-TEST(UpdateString, AnIdWithoutATargetInItsWindowIsIgnored) {
+TEST(UpdateString, AnIdWithoutATargetIsIgnored) {
     BancoLingua b;
-    FinestraTradotta about{"frmAbout"};
-    b.file.contenuti[b.globali.PercorsoLingua] =
-        "3;frmAbout;x\n27;frmAbout;y\n-5;frmAbout;z\n30000;frmAbout;w\n";
-    UpdateString(b.Tutto(), about);
-    EXPECT_EQ(about.es.Caption(), "");
+    b.Applica("4;frmProva;x\n27;frmProva;y\n-5;frmProva;z\n30000;frmProva;w\n");
+    EXPECT_EQ(b.finestra.es.Caption(), "");
+    EXPECT_EQ(b.finestra.difficolt.List(), Righe(11, "old"));
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
-TEST(UpdateString, RowsOfAnUnknownWindowDoNothing) {
+TEST(UpdateString, AWindowWithoutTargetsTakesNothing) {
     BancoLingua b;
-    FinestraTradotta ignota{"frmNiente"};
-    b.file.contenuti[b.globali.PercorsoLingua] = "1;frmNiente;x\n";
-    UpdateString(b.Tutto(), ignota);
-    EXPECT_EQ(ignota.cmdEsci.Caption(), "");
+    b.file.contenuti[b.globali.PercorsoLingua] = "1;frmProva;x\n";
+    UpdateString(b.Tutto(), b.finestra, {});
+    EXPECT_EQ(b.finestra.cmdEsci.Caption(), "");
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(UpdateString, TheTextGoesInAsItStandsAndAFourthFieldIsIgnored) {
     BancoLingua b;
-    b.Applica("1;CorvanaMainF;  Esci, \"qui\"  ;x;y\n3;CorvanaMainF;\n");
+    b.Applica("1;frmProva;  Esci, \"qui\"  ;x;y\n3;frmProva;\n");
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "  Esci, \"qui\"  ");
     EXPECT_EQ(b.finestra.es.Caption(), "");
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(UpdateString, LinesMayEndInEitherWayAndTheLastNeedNot) {
-    for (const char* contenuto :
-         {"1;CorvanaMainF;a\r\n3;CorvanaMainF;b\r\n", "1;CorvanaMainF;a\n3;CorvanaMainF;b\n",
-          "1;CorvanaMainF;a\r\n3;CorvanaMainF;b"}) {
+    for (const char* contenuto : {"1;frmProva;a\r\n3;frmProva;b\r\n",
+                                  "1;frmProva;a\n3;frmProva;b\n", "1;frmProva;a\r\n3;frmProva;b"}) {
         BancoLingua b;
         b.Applica(contenuto);
         EXPECT_EQ(b.finestra.cmdEsci.Caption(), "a");
@@ -98,22 +99,22 @@ TEST(UpdateString, LinesMayEndInEitherWayAndTheLastNeedNot) {
 
 TEST(UpdateString, AMissingFileShowsTheReadError) {
     BancoLingua b;
-    UpdateString(b.Tutto(), b.finestra);
+    UpdateString(b.Tutto(), b.finestra, bersagli);
     EXPECT_EQ(b.riquadri.messaggi, Avvisi{guasto});
 }
 
 TEST(UpdateString, AFileThatCantBeReadShowsTheReadError) {
     BancoLingua b;
     b.file.erroreLeggi = EIO;
-    b.Applica("1;CorvanaMainF;a\n");
+    b.Applica("1;frmProva;a\n");
     EXPECT_EQ(b.riquadri.messaggi, Avvisi{guasto});
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "");
 }
 
 TEST(UpdateString, ALineOfTooFewFieldsEndsTheReadingAndWhatWasAppliedStays) {
-    for (const char* breve : {"nothing", "", "2;CorvanaMainF", "5"}) {
+    for (const char* breve : {"nothing", "", "2;frmProva", "5"}) {
         BancoLingua b;
-        b.Applica(std::string("1;CorvanaMainF;a\n") + breve + "\n3;CorvanaMainF;b\n");
+        b.Applica(std::string("1;frmProva;a\n") + breve + "\n3;frmProva;b\n");
         EXPECT_EQ(b.riquadri.messaggi, Avvisi{guasto}) << breve;
         EXPECT_EQ(b.finestra.cmdEsci.Caption(), "a") << breve;
         EXPECT_EQ(b.finestra.es.Caption(), "") << breve;
@@ -123,14 +124,14 @@ TEST(UpdateString, ALineOfTooFewFieldsEndsTheReadingAndWhatWasAppliedStays) {
 TEST(UpdateString, AnIdThatIsNoNumberIsAReadError) {
     for (const char* id : {"x", "", "1.5", "99999999999999999999"}) {
         BancoLingua b;
-        b.Applica(std::string(id) + ";CorvanaMainF;a\n");
+        b.Applica(std::string(id) + ";frmProva;a\n");
         EXPECT_EQ(b.riquadri.messaggi, Avvisi{guasto}) << id;
     }
 }
 
 TEST(UpdateString, AZeroByteInATextDoesNoHarm) {
     BancoLingua b;
-    b.Applica(std::string("1;CorvanaMainF;a\0b\n3;CorvanaMainF;c\n", 36));
+    b.Applica(std::string("1;frmProva;a\0b\n3;frmProva;c\n", 28));
     EXPECT_EQ(b.finestra.es.Caption(), "c");
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
@@ -144,7 +145,7 @@ TEST(UpdateString, TenMegabytesWithoutALineAreAReadError) {
 TEST(UpdateString, AListRowIsReplacedAndTheSelectionStays) {
     BancoLingua b;
     b.finestra.difficolt.ListIndex = 3;
-    b.Applica("12;CorvanaMainF;prima\n20;CorvanaMainF;ultima\n");
+    b.Applica("12;frmProva;prima\n20;frmProva;ultima\n");
     EXPECT_EQ(b.finestra.difficolt.List().front(), "prima");
     EXPECT_EQ(b.finestra.difficolt.List().back(), "ultima");
     EXPECT_EQ(b.finestra.difficolt.ListIndex(), 3);
@@ -152,7 +153,7 @@ TEST(UpdateString, AListRowIsReplacedAndTheSelectionStays) {
 
 TEST(UpdateString, ATargetThatTheWindowHasntIsPassedOver) {
     BancoLingua b;
-    b.Applica("2;CorvanaMainF;no such control\n1;CorvanaMainF;a\n");
+    b.Applica("2;frmProva;no such control\n1;frmProva;a\n");
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "a");
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
@@ -167,16 +168,16 @@ RC_GTEST_PROP(UpdateString, AnyTextOfARowGoesInWhole, ()) {
     const auto testo = *rc::gen::container<std::string>(
         rc::gen::suchThat<char>([](char c) { return c != '\n' && c != '\r' && c != ';'; }));
     BancoLingua b;
-    b.Applica("1;CorvanaMainF;" + testo);
+    b.Applica("1;frmProva;" + testo);
     RC_ASSERT(b.finestra.cmdEsci.Caption() == testo);
 }
 
 TEST(UpdateString, AFileFarTooLongIsToldAndNothingOfItIsApplied) {
     BancoLingua b;
-    b.Applica("1;CorvanaMainF;Esci\n" + std::string(limiteTesti, '\n'));
+    b.Applica("1;frmProva;Esci\n" + std::string(limiteTesti, '\n'));
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "");
     EXPECT_EQ(b.riquadri.messaggi, Avvisi{guasto});
-    std::string lungo = "1;CorvanaMainF;Esci\n";
+    std::string lungo = "1;frmProva;Esci\n";
     while (lungo.size() + 20 < limiteTesti)
         lungo += "9999;frmAbout;text\n";
     b.Applica(lungo);

@@ -7,6 +7,7 @@
 #include <iterator>
 
 #include "core/text.h"
+#include "tests/language/program_rows.h"
 
 namespace corvana::prova {
 
@@ -38,7 +39,7 @@ const std::map<std::string, Insieme>& IdDiFinestra() {
 std::vector<Bersaglio> BersagliDi(Cosa cosa) {
     std::vector<Bersaglio> trovati;
     for (const auto& [finestra, insieme] : IdDiFinestra())
-        std::ranges::copy_if(Bersagli(Minuscolo(finestra)), std::back_inserter(trovati),
+        std::ranges::copy_if(BersagliDiFinestra(finestra), std::back_inserter(trovati),
                              [cosa](const Bersaglio& b) { return b.cosa == cosa; });
     return trovati;
 }

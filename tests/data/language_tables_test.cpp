@@ -4,9 +4,8 @@
 #include <tuple>
 
 #include "core/language.h"
-#include "core/language_targets.h"
-#include "core/text.h"
 #include "tests/data/language_files.h"
+#include "tests/language/program_rows.h"
 #include "tests/support/rig.h"
 
 namespace corvana::prova {
@@ -30,7 +29,7 @@ TEST(TabelleLingua, AnIdBelongsToOneWindowOnly) {
 TEST(TabelleLingua, NoControlTakesItsTextFromTwoIds) {
     for (const auto& [finestra, insieme] : IdDiFinestra()) {
         std::set<std::tuple<std::string_view, Cosa, int>> visti;
-        for (const Bersaglio& b : Bersagli(Minuscolo(finestra))) {
+        for (const Bersaglio& b : BersagliDiFinestra(finestra)) {
             if (b.cosa == Cosa::Stringa) continue;
             EXPECT_TRUE(visti.insert({b.controllo, b.cosa, b.elemento}).second)
                 << finestra << ' ' << b.controllo;
@@ -48,18 +47,13 @@ TEST(TabelleLingua, EveryStringVariableIsFilledByOneId) {
     EXPECT_EQ(visti.size() * sizeof(std::string), sizeof(TestiLingua));
 }
 
-TEST(TabelleLingua, AnUnknownWindowHasNone) {
-    EXPECT_TRUE(Bersagli("frmniente").empty());
-    EXPECT_TRUE(Bersagli("frmAbout").empty());
-}
-
 TEST(TabelleLingua, TheExplanationOfTheMetronomeStandsInTwoParagraphs) {
     for (const std::string& lingua : lingue) {
         Banco banco;
         FinestraSpiegata finestra;
         banco.globali.PercorsoLingua = "/" + lingua;
         banco.file.contenuti["/" + lingua] = ContenutoLingua(lingua);
-        UpdateString(banco.Tutto(), finestra);
+        UpdateString(banco.Tutto(), finestra, BersagliDiFinestra(finestra.Name));
         const Testi testi = PerId(lingua);
         EXPECT_EQ(finestra.Caption(), testi.at(69));
         EXPECT_EQ(finestra.Text1.Text(), testi.at(73) + "\r\n\r\n" + testi.at(74));
@@ -74,7 +68,7 @@ TEST(TabelleLingua, EveryStringVariableIsFilledAfterAllWindowsHaveRead) {
         banco.file.contenuti["/" + lingua] = ContenutoLingua(lingua);
         for (const auto& [nome, insieme] : IdDiFinestra()) {
             Form finestra(nome);
-            UpdateString(banco.Tutto(), finestra);
+            UpdateString(banco.Tutto(), finestra, BersagliDiFinestra(finestra.Name));
         }
         const Testi testi = PerId(lingua);
         for (const Bersaglio& b : BersagliDi(Cosa::Stringa))

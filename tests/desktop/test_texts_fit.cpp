@@ -9,9 +9,12 @@
 #include "desktop/aspect.h"
 #include "desktop/theme.h"
 #include "metronome/conf_metro.h"
+#include "metronome/conf_metro_rows.h"
 #include "tests/program/program_rig.h"
+#include "trainer/main_rows.h"
 #include "utilities/about.h"
 #include "utilities/midi_test.h"
+#include "utilities/utility_rows.h"
 
 namespace corvana::prova {
 namespace {
@@ -71,7 +74,7 @@ class TestiNeiControlli : public testing::TestWithParam<std::string> {};
 TEST_P(TestiNeiControlli, FitInTheMainWindowWithTheLargestNumbers) {
     BancoTesti b(GetParam());
     CorvanaMainF& f = b.finestra;
-    UpdateString(b.Tutto(), f);
+    UpdateString(b.Tutto(), f, BersagliPrincipali());
     const TestiLingua& testi = b.globali.testi;
     f.Lresatte.Caption = testi.TxtRisposteEsatte + "10000";
     f.Lrerrate.Caption = testi.TxtRisposteErrate + "10000";
@@ -87,14 +90,14 @@ TEST_P(TestiNeiControlli, FitInTheMainWindowWithTheLargestNumbers) {
 TEST_P(TestiNeiControlli, FitInThePatternWindow) {
     BancoTesti b(GetParam());
     frmConfMetro finestra{b.Tutto()};
-    UpdateString(b.Tutto(), finestra);
+    UpdateString(b.Tutto(), finestra, BersagliConfMetro());
     ControllaFinestra(finestra);
 }
 
 TEST_P(TestiNeiControlli, FitInTheMidiTest) {
     BancoTesti b(GetParam());
     frmMidiTest finestra{b.Tutto()};
-    UpdateString(b.Tutto(), finestra);
+    UpdateString(b.Tutto(), finestra, BersagliMidiTest());
     ControllaFinestra(finestra);
 }
 

@@ -4,9 +4,8 @@
 #include <algorithm>
 #include <map>
 
-#include "core/language_targets.h"
-#include "core/text.h"
 #include "tests/language/expected_rows.h"
+#include "tests/language/program_rows.h"
 
 namespace corvana::prova {
 
@@ -28,7 +27,7 @@ std::string Luogo(const Bersaglio& bersaglio) {
 
 std::map<int, Trovata> TabellaDi(const std::string& finestra) {
     std::map<int, Trovata> trovate;
-    for (const Bersaglio& bersaglio : Bersagli(Minuscolo(finestra))) {
+    for (const Bersaglio& bersaglio : BersagliDiFinestra(finestra)) {
         Trovata& trovata = trovate[bersaglio.id];
         if (bersaglio.cosa == Cosa::Stringa)
             trovata.stringhe.push_back(bersaglio.stringa);
@@ -54,10 +53,6 @@ TEST(BersagliDelleRighe, EachRowSetsTheControlsAndTheStringThatItIsFor) {
         for (const RigaAttesa& attesa : finestra.righe)
             Confronta(attesa, tabella[attesa.id]);
     }
-}
-
-TEST(BersagliDelleRighe, TheInstrumentPickerHasNone) {
-    EXPECT_TRUE(Bersagli("frmstrum").empty());
 }
 
 }  // namespace corvana::prova

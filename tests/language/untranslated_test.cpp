@@ -9,11 +9,14 @@
 
 #include "core/language.h"
 #include "metronome/conf_metro.h"
+#include "metronome/conf_metro_rows.h"
 #include "tests/language/expected_rows.h"
 #include "tests/program/program_rig.h"
+#include "trainer/main_rows.h"
 #include "utilities/about.h"
 #include "utilities/instruments.h"
 #include "utilities/midi_test.h"
+#include "utilities/utility_rows.h"
 
 namespace corvana::prova {
 
@@ -53,9 +56,9 @@ Luoghi TestiDi(const Form& finestra) {
     return testi;
 }
 
-void ControllaInglese(BancoInglese& b, Form& finestra) {
+void ControllaInglese(BancoInglese& b, Form& finestra, Bersagli bersagli) {
     const Luoghi italiani = TestiDi(finestra);
-    UpdateString(b.Tutto(), finestra);
+    UpdateString(b.Tutto(), finestra, bersagli);
     for (const std::string& testo : TestiDi(finestra))
         EXPECT_TRUE(!italiani.contains(testo) || comuni.contains(testo))
             << finestra.Name << ": " << testo;
@@ -65,7 +68,7 @@ void ControllaInglese(BancoInglese& b, Form& finestra) {
 
 TEST(TestiTradotti, NothingItalianIsLeftInTheMainWindow) {
     BancoInglese b;
-    ControllaInglese(b, b.finestra);
+    ControllaInglese(b, b.finestra, BersagliPrincipali());
 }
 
 TEST(TestiTradotti, NothingItalianIsLeftInTheSmallWindows) {
@@ -74,9 +77,11 @@ TEST(TestiTradotti, NothingItalianIsLeftInTheSmallWindows) {
     frmMidiTest prova{b.Tutto()};
     frmAbout informazioni{b.Tutto()};
     frmStrum strumenti{b.Tutto()};
-    for (Form* finestra :
-         std::initializer_list<Form*>{&sequenza, &prova, &informazioni, &strumenti})
-        ControllaInglese(b, *finestra);
+    ControllaInglese(b, sequenza, BersagliConfMetro());
+    ControllaInglese(b, prova, BersagliMidiTest());
+    ControllaInglese(b, informazioni, BersagliAbout());
+    // It has no rows: what it says must need none.
+    ControllaInglese(b, strumenti, {});
 }
 
 }  // namespace corvana::prova

@@ -5,7 +5,9 @@
 #include "core/language.h"
 #include "metronome/conf_metro.h"
 #include "tests/language/expected_rows.h"
+#include "tests/language/program_rows.h"
 #include "tests/program/program_rig.h"
+#include "trainer/main_rows.h"
 #include "utilities/about.h"
 #include "utilities/midi_test.h"
 
@@ -56,7 +58,8 @@ void ControllaRighe(Form& finestra, Globali& globali, const Luoghi& mancano = {}
         Luoghi attesi = LuoghiDi(riga);
         std::erase_if(attesi, [&](const auto& l) { return mancano.contains(ControlloDi(l)); });
         const std::string testo = '<' + std::to_string(riga.id) + '>';
-        ApplicaRiga(globali, std::to_string(riga.id), testo, finestra);
+        ApplicaRiga(globali, std::to_string(riga.id), testo, finestra,
+                    BersagliDiFinestra(finestra.Name));
         EXPECT_EQ(Leggono(finestra, testo), attesi) << riga.id;
         EXPECT_TRUE(!riga.stringa || globali.testi.*riga.stringa == testo) << riga.id;
     }
@@ -105,7 +108,7 @@ TEST(RigheNelleFinestre, TheMelodyWindowHasNoneOfTheControlsThatItIsSaidToLack) 
 TEST(RigheNelleFinestre, TheSeparatorsOfTheRangesStay) {
     BancoProgramma b;
     for (int id = 0; id <= 57; ++id)
-        ApplicaRiga(b.globali, std::to_string(id), "x", b.finestra);
+        ApplicaRiga(b.globali, std::to_string(id), "x", b.finestra, BersagliPrincipali());
     for (std::size_t i = 0; i < b.finestra.difficolt.List().size(); ++i)
         EXPECT_EQ(b.finestra.difficolt.List()[i].front(), i == 4 || i == 9 ? '-' : 'x') << i;
 }
@@ -114,7 +117,7 @@ TEST(RigheNelleFinestre, AnIdOutsideOfTheWindowsSetChangesNothing) {
     for (const char* id : {"-1", "27", "58", "68", "69", "77", "79", "156", "157", "166", "168",
                            "245", "379", "383", "32767"}) {
         BancoProgramma b;
-        ApplicaRiga(b.globali, id, "nuovo", b.finestra);
+        ApplicaRiga(b.globali, id, "nuovo", b.finestra, BersagliPrincipali());
         EXPECT_EQ(Leggono(b.finestra, "nuovo"), Luoghi{}) << id;
     }
 }

@@ -1,6 +1,6 @@
 #include <array>
 
-#include "core/language_targets.h"
+#include "composer/composer_rows.h"
 
 namespace corvana {
 
@@ -15,7 +15,7 @@ constexpr std::array bersagliCopyFromA = {
 
 }  // namespace
 
-std::span<const Bersaglio> BersagliCopyFromA() {
+Bersagli BersagliCopyFromA() {
     return bersagliCopyFromA;
 }
 

@@ -1,6 +1,6 @@
-#include <array>
+#include "trainer/main_rows.h"
 
-#include "core/language_targets.h"
+#include <array>
 
 namespace corvana {
 
@@ -86,7 +86,7 @@ constexpr std::array bersagliPrincipali = {
 
 }  // namespace
 
-std::span<const Bersaglio> BersagliPrincipali() {
+Bersagli BersagliPrincipali() {
     return bersagliPrincipali;
 }
 

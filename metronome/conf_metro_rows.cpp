@@ -1,6 +1,6 @@
-#include <array>
+#include "metronome/conf_metro_rows.h"
 
-#include "core/language_targets.h"
+#include <array>
 
 namespace corvana {
 
@@ -20,7 +20,7 @@ constexpr std::array bersagliConfMetro = {
 
 }  // namespace
 
-std::span<const Bersaglio> BersagliConfMetro() {
+Bersagli BersagliConfMetro() {
     return bersagliConfMetro;
 }
 

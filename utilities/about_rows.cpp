@@ -1,6 +1,6 @@
 #include <array>
 
-#include "core/language_targets.h"
+#include "utilities/utility_rows.h"
 
 namespace corvana {
 
@@ -17,7 +17,7 @@ constexpr std::array bersagliAbout = {
 
 }  // namespace
 
-std::span<const Bersaglio> BersagliAbout() {
+Bersagli BersagliAbout() {
     return bersagliAbout;
 }
 

@@ -1,6 +1,6 @@
-#include <array>
+#include "eartrainer/into_rows.h"
 
-#include "core/language_targets.h"
+#include <array>
 
 namespace corvana {
 
@@ -105,7 +105,7 @@ constexpr std::array bersagliInto = {
 
 }  // namespace
 
-std::span<const Bersaglio> BersagliInto() {
+Bersagli BersagliInto() {
     return bersagliInto;
 }
 

@@ -1,6 +1,6 @@
-#include <array>
+#include "composer/composer_rows.h"
 
-#include "core/language_targets.h"
+#include <array>
 
 namespace corvana {
 
@@ -163,7 +163,7 @@ constexpr std::array bersagliComposer = {
 
 }  // namespace
 
-std::span<const Bersaglio> BersagliComposer() {
+Bersagli BersagliComposer() {
     return bersagliComposer;
 }
 

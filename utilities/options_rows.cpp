@@ -1,6 +1,6 @@
 #include <array>
 
-#include "core/language_targets.h"
+#include "utilities/utility_rows.h"
 
 namespace corvana {
 
@@ -85,7 +85,7 @@ constexpr std::array bersagliOptions = {
 
 }  // namespace
 
-std::span<const Bersaglio> BersagliOptions() {
+Bersagli BersagliOptions() {
     return bersagliOptions;
 }
 

@@ -1,6 +1,6 @@
 #include <array>
 
-#include "core/language_targets.h"
+#include "utilities/utility_rows.h"
 
 namespace corvana {
 
@@ -14,7 +14,7 @@ constexpr std::array bersagliMidiTest = {
 
 }  // namespace
 
-std::span<const Bersaglio> BersagliMidiTest() {
+Bersagli BersagliMidiTest() {
     return bersagliMidiTest;
 }
 
