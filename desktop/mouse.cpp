@@ -1,8 +1,10 @@
 #include "desktop/mouse.h"
 
 #include <QAbstractButton>
+#include <QCursor>
 #include <QMouseEvent>
 #include <QWidget>
+#include <QWindow>
 
 #include "desktop/key_map.h"
 #include "desktop/view.h"
@@ -11,9 +13,19 @@ namespace corvana {
 
 namespace {
 
-int NumeroBottone(const QMouseEvent& mouse) {
-    if (mouse.button() == Qt::LeftButton) return bottoneSinistro;
-    return mouse.button() == Qt::RightButton ? bottoneDestro : 0;
+int NumeroBottone(Qt::MouseButton bottone) {
+    if (bottone == Qt::LeftButton) return bottoneSinistro;
+    return bottone == Qt::RightButton ? bottoneDestro : 0;
+}
+
+/// The event at that place of the control's widget.
+Evento FattoMouse(const Vista& vista, Fatto fatto, QPointF posto) {
+    const double twips = twipsPerPixel / vista.Scala();
+    Evento evento;
+    evento.fatto = fatto;
+    evento.x = static_cast<int>(posto.x() * twips);
+    evento.y = static_cast<int>(posto.y() * twips);
+    return evento;
 }
 
 bool Dipinta(const Vista& vista) {
@@ -43,7 +55,7 @@ bool Mouse::eventFilter(QObject*, QEvent* evento) {
     };
     switch (evento->type()) {
         case QEvent::MouseButtonPress: Manda(Fatto::MouseDown, mouse()); return inerte_;
-        case QEvent::MouseButtonRelease: Manda(Fatto::MouseUp, mouse()); return inerte_;
+        case QEvent::MouseButtonRelease: return inerte_;
         case QEvent::MouseButtonDblClick: return Raddoppia(mouse());
         case QEvent::MouseMove:
             Muovi(mouse());
@@ -56,13 +68,9 @@ bool Mouse::eventFilter(QObject*, QEvent* evento) {
 
 void Mouse::Manda(Fatto fatto, const QMouseEvent& mouse) const {
     const QPointF posto = mouse.position() + QPointF(widget_.mapTo(vista_.Widget(), QPoint()));
-    const double twips = twipsPerPixel / vista_.Scala();
-    Evento evento;
-    evento.fatto = fatto;
-    evento.codice = NumeroBottone(mouse);
+    Evento evento = FattoMouse(vista_, fatto, posto);
+    evento.codice = NumeroBottone(mouse.button());
     evento.shift = BitMaiuscole(mouse.modifiers());
-    evento.x = static_cast<int>(posto.x() * twips);
-    evento.y = static_cast<int>(posto.y() * twips);
     vista_.Manda(std::move(evento));
 }
 
@@ -83,6 +91,49 @@ bool Mouse::Raddoppia(const QMouseEvent& mouse) const {
     const bool bottone = vista_.Origine().tipo == Genere::Bottone;
     Manda(bottone ? Fatto::MouseDown : Fatto::DblClick, mouse);
     return Dipinta(vista_);
+}
+
+Rilasci::Rilasci(QWindow& finestra, const Vista& faccia)
+    : QObject(&finestra), finestra_(finestra), faccia_(faccia) {
+    finestra.installEventFilter(this);
+}
+
+bool Rilasci::eventFilter(QObject*, QEvent* evento) {
+    // Of the other kinds it is no mouse event.
+    const auto mouse = [evento]() -> const QMouseEvent& {
+        return static_cast<const QMouseEvent&>(*evento);
+    };
+    switch (evento->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick: giu_ |= mouse().button(); break;
+        case QEvent::MouseButtonRelease:
+            Alza(mouse().button(), mouse().scenePosition(), BitMaiuscole(mouse().modifiers()));
+            break;
+        case QEvent::MouseMove: Confronta(mouse()); break;
+        case QEvent::WindowBlocked:
+        case QEvent::Hide: Alza(giu_, finestra_.mapFromGlobal(QCursor::pos()), 0); break;
+        default: break;
+    }
+    return false;
+}
+
+void Rilasci::Alza(Qt::MouseButtons bottoni, QPointF dove, int shift) {
+    giu_ &= ~bottoni;
+    const QWidget& faccia = *faccia_.Widget();
+    Evento evento =
+        FattoMouse(faccia_, Fatto::MouseUp, dove - faccia.mapTo(faccia.window(), QPointF()));
+    evento.shift = shift;
+    for (const auto bottone :
+         {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton, Qt::BackButton, Qt::ForwardButton}) {
+        if (!bottoni.testFlag(bottone)) continue;
+        evento.codice = NumeroBottone(bottone);
+        faccia_.Manda(evento);
+    }
+}
+
+void Rilasci::Confronta(const QMouseEvent& mouse) {
+    const Qt::MouseButtons saliti = giu_ & ~mouse.buttons();
+    if (saliti) Alza(saliti, mouse.scenePosition(), BitMaiuscole(mouse.modifiers()));
 }
 
 }  // namespace corvana

@@ -1,6 +1,4 @@
-// Makes events of the mouse over one widget: down, up, double click. A click is the widget's own to
-// report. Moves over a control that doesn't listen to them count as moves over its window.
-// GUI thread; dies with the widget.
+// Makes events of the mouse. GUI thread.
 #pragma once
 
 #include <QObject>
@@ -9,11 +7,14 @@
 
 class QMouseEvent;
 class QWidget;
+class QWindow;
 
 namespace corvana {
 
 class Vista;
 
+/// Over one widget: down, double click, moves. A click is the widget's own to report. Moves over a
+/// control that doesn't listen to them count as moves over its window. Dies with the widget.
 class Mouse final : public QObject {
 public:
     Mouse(QWidget& widget, const Vista& vista);
@@ -28,6 +29,26 @@ private:
     QWidget& widget_;
     const Vista& vista_;
     const bool inerte_;  ///< the widget itself does nothing with the mouse
+};
+
+/// Of one native window: each button that went down in it comes up, wherever the pointer is by then
+/// and whatever became of the widget on which it went down; also when the release itself never
+/// comes, since a modal window or a menu took the mouse away. The logic knows which control is
+/// meant. Dies with the window.
+class Rilasci final : public QObject {
+public:
+    /// `faccia` is the view of the window itself.
+    Rilasci(QWindow& finestra, const Vista& faccia);
+    bool eventFilter(QObject* oggetto, QEvent* evento) override;
+
+private:
+    void Alza(Qt::MouseButtons bottoni, QPointF dove, int shift);
+    /// Those that are no longer down, though nobody said so.
+    void Confronta(const QMouseEvent& mouse);
+
+    QWindow& finestra_;
+    const Vista& faccia_;
+    Qt::MouseButtons giu_;
 };
 
 }  // namespace corvana

@@ -15,6 +15,7 @@
 #include "desktop/compositing.h"
 #include "desktop/keyboard.h"
 #include "desktop/menu_painter.h"
+#include "desktop/mouse.h"
 #include "desktop/painted_view.h"
 #include "desktop/placement.h"
 #include "desktop/scale.h"
@@ -269,6 +270,7 @@ void VistaFinestra::Apri(bool modale, const VistaFinestra* sotto) {
     finestra_->winId();
     if (sotto) finestra_->windowHandle()->setTransientParent(sotto->finestra_->windowHandle());
     finestra_->windowHandle()->installEventFilter(finestra_.get());
+    new Rilasci(*finestra_->windowHandle(), *viste_.front());
     finestra_->show();
     finestra_->raise();
     finestra_->activateWindow();

@@ -10,14 +10,14 @@ enum class Fatto : std::uint8_t {
     Click,  ///< a button, label, menu entry or list row; `valore` is the row
     DblClick,
     MouseDown,
-    MouseUp,
+    MouseUp,  ///< wherever, for the control on which the button `codice` went down
     MouseMove,
     KeyDown,  ///< of the window: `codice`, `shift`, `ripetuto`
     KeyUp,
     Change,      ///< a slider let go (`valore`), a text edited (`testo`)
     Scroll,      ///< a slider's thumb on its way (`valore`)
     Chiudi,      ///< a request to close the window
-    FuocoPerso,  ///< the program lost the keyboard: every held key is released
+    FuocoPerso,  ///< the program lost the keyboard: no key and no button is held any more
     Spostata,    ///< the window stands at `x`, `y` on the screen, in twips, its frame included
 };
 

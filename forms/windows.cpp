@@ -20,6 +20,11 @@ Controllo* Destinatario(const std::vector<Form*>& aperte, const Evento& evento) 
     return esiste ? controlli[static_cast<std::size_t>(evento.controllo)] : nullptr;
 }
 
+/// A button of the mouse goes down: of a double click the second time.
+bool Preme(const Evento& evento) {
+    return evento.fatto == Fatto::MouseDown || evento.fatto == Fatto::DblClick;
+}
+
 }  // namespace
 
 Finestre::Finestre(Pompa& pompa, Riquadri& riquadri, Specchio* specchio)
@@ -45,6 +50,8 @@ void Finestre::MostraModale(Form& form) {
 
 bool Finestre::Apri(Form& form, bool modale) {
     if (pompa_.InChiusura()) return false;
+    // The window beneath, which gets nothing from now on, mustn't wait for a release.
+    Alza(nullptr);
     form.Form_Load();
     form.identita_ = ++ultimaIdentita_;
     aperte_.push_back(&form);
@@ -73,6 +80,7 @@ void Finestre::Togli(Form& form) {
     form.specchio_ = nullptr;
     form.identita_ = 0;
     form.collocata_ = false;
+    Alza(&form);
 }
 
 void Finestre::Congeda(Form& form) {
@@ -81,7 +89,7 @@ void Finestre::Congeda(Form& form) {
     pompa_.PonCongedo(true);
     Evento evento;
     evento.fatto = Fatto::Chiudi;
-    Riferisci(form, form, evento);
+    Riferisci(form, evento);
     if (Aperta(form)) Togli(form);
     pompa_.PonCongedo(false);
 }
@@ -99,16 +107,35 @@ void Finestre::FinoAllUltima(const std::function<void()>& inizio) {
 
 void Finestre::Consegna(const Evento& evento) {
     if (evento.fatto == Fatto::Spostata) return PrendiPosto(evento);
-    // A release must never be lost, whoever is in front: a key would seem held for ever.
-    if (evento.fatto == Fatto::FuocoPerso) return tasti_.LasciaTutti();
+    // A release must never be lost, whoever is in front: what is held would seem held for ever.
+    if (evento.fatto == Fatto::FuocoPerso) return LasciaTutto();
     if (evento.fatto == Fatto::KeyUp) tasti_.Segna(evento.codice, false);
+    if (evento.fatto == Fatto::MouseUp) return AlzaUno(evento);
+    // It can't go down twice: that it came up in between wasn't seen.
+    if (Preme(evento)) AlzaUno(evento);
     Controllo* controllo = Destinatario(aperte_, evento);
     if (!controllo) return;
-    Form& form = controllo->Finestra();
-    if (&form != Davanti() || !controllo->Utilizzabile()) return controllo->Ripeti();
+    if (&controllo->Finestra() != Davanti() || !controllo->Utilizzabile())
+        return controllo->Ripeti();
     if (evento.fatto == Fatto::KeyDown) tasti_.Segna(evento.codice, true);
+    if (Preme(evento)) bottoni_.Segna(*controllo, evento);
     controllo->Accogli(evento);
-    Riferisci(form, *controllo, evento);
+    Riferisci(*controllo, evento);
+}
+
+void Finestre::LasciaTutto() {
+    tasti_.LasciaTutti();
+    Alza(nullptr);
+}
+
+void Finestre::Alza(const Form* form) {
+    while (const auto pressione = bottoni_.PrendiDi(form))
+        Riferisci(*pressione->controllo, Rilascio(*pressione, {}, nullptr));
+}
+
+void Finestre::AlzaUno(const Evento& su) {
+    if (const auto pressione = bottoni_.Prendi(su.codice))
+        Riferisci(*pressione->controllo, Rilascio(*pressione, su, Destinatario(aperte_, su)));
 }
 
 void Finestre::PrendiPosto(const Evento& evento) {
@@ -118,9 +145,9 @@ void Finestre::PrendiPosto(const Evento& evento) {
     controllo->Top.PonDaUtente(evento.y);
 }
 
-void Finestre::Riferisci(Form& form, Controllo& controllo, const Evento& evento) {
+void Finestre::Riferisci(Controllo& controllo, const Evento& evento) {
     try {
-        Smista(form, controllo, evento);
+        Smista(controllo, evento);
     } catch (const Guasto& guasto) {
         riquadri_.MsgBox(TestoGuasto(guasto));
     } catch (const std::exception& errore) {
@@ -128,7 +155,8 @@ void Finestre::Riferisci(Form& form, Controllo& controllo, const Evento& evento)
     }
 }
 
-void Finestre::Smista(Form& form, Controllo& controllo, const Evento& evento) {
+void Finestre::Smista(Controllo& controllo, const Evento& evento) {
+    Form& form = controllo.Finestra();
     const auto chiama = [](const std::function<void()>& f) {
         if (f) f();
     };

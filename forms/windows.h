@@ -8,6 +8,7 @@
 
 #include "forms/boxes.h"
 #include "forms/form.h"
+#include "forms/held_buttons.h"
 #include "forms/keys.h"
 #include "forms/pump.h"
 
@@ -51,11 +52,18 @@ private:
     void Togli(Form& form);
     bool Aperta(const Form& form) const;
     void Consegna(const Evento& evento);
+    /// No key and no button is held any more.
+    void LasciaTutto();
+    /// The buttons that are down on the window's controls, or on all when null, come up.
+    void Alza(const Form* form);
+    /// The button came up, wherever that was: it comes up for the control on which it went down,
+    /// whatever has become of that one and of its window.
+    void AlzaUno(const Evento& su);
     /// Whoever is in front: a window beneath can be moved as well.
     void PrendiPosto(const Evento& evento);
     /// Runs the handler; a fault that it lets escape is shown in a box.
-    void Riferisci(Form& form, Controllo& controllo, const Evento& evento);
-    void Smista(Form& form, Controllo& controllo, const Evento& evento);
+    void Riferisci(Controllo& controllo, const Evento& evento);
+    void Smista(Controllo& controllo, const Evento& evento);
     void TastoGiu(Form& form, const Evento& tasto) const;
 
     Pompa& pompa_;
@@ -63,6 +71,7 @@ private:
     Specchio* specchio_;
     std::function<void(const Form&)> aiuto_;
     TastiPremuti tasti_;
+    BottoniPremuti bottoni_;
     std::vector<Form*> aperte_;
     std::uint32_t ultimaIdentita_ = 0;
     bool inChiusura_ = false;

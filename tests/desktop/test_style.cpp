@@ -19,7 +19,7 @@ namespace {
 
 constexpr double volte[] = {1, 1.5, 2, 3};
 
-QSlider& BarraDi(Palco& palco, const char* nome) {
+QSlider& BarraInScena(Palco& palco, const char* nome) {
     return dynamic_cast<QSlider&>(Trova(palco.scrivania, nome));
 }
 
@@ -38,7 +38,7 @@ TEST(Stile, TheHandleOfASliderGrowsAndIsWholeAtBothEnds) {
     for (const char* nome : {"barra", "ritta"})
         for (const double scala : volte) {
             Ingrandisci(*palco.scrivania.Davanti(), scala);
-            QSlider& barra = BarraDi(palco, nome);
+            QSlider& barra = BarraInScena(palco, nome);
             const int diametro = qRound(13 * scala);
             for (const int valore :
                  {barra.minimum(), (barra.minimum() + barra.maximum()) / 2, barra.maximum()}) {
@@ -56,7 +56,7 @@ TEST(Stile, TheHandleOfASliderIsGrabbedAllOver) {
     Palco palco;
     for (const double scala : volte) {
         Ingrandisci(*palco.scrivania.Davanti(), scala);
-        QSlider& barra = BarraDi(palco, "barra");
+        QSlider& barra = BarraInScena(palco, "barra");
         for (const int valore : {20, 80, 140}) {
             barra.setValue(valore);
             const QRect disco = Disco(barra);
