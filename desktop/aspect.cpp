@@ -53,6 +53,7 @@ void Poni(Aspetto& a, Nome nome, const Valore& valore) {
         case Nome::HelpContextID: return Prendi(a.helpContext, valore);
         case Nome::BackStyle: return Prendi(a.fondoStile, valore);
         case Nome::MousePointer: return Prendi(a.puntatore, valore);
+        case Nome::Ascolti: return Prendi(a.ascolti, valore);
     }
 }
 

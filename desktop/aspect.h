@@ -25,8 +25,11 @@ struct Aspetto {
     int value = 0, min = 0, max = 100, listIndex = -1;
     int helpContext = 0;
     int puntatore = puntatoreNormale;
+    int ascolti = 0;
 
     QRect Twips() const { return {left, top, width, height}; }
+    /// `quale` is one of the bits `ascolta...`.
+    bool Ascolta(int quale) const { return (ascolti & quale) != 0; }
     bool Ha(const char* parola) const { return stile.contains(QLatin1String(parola)); }
 };
 

@@ -21,9 +21,6 @@ struct CopiaControllo {
     std::string nome;
     std::string stile;
     std::vector<std::pair<Nome, Valore>> proprieta;
-    bool ascoltaClick = false;
-    bool ascoltaPressione = false;
-    bool ascoltaMossa = false;
     int lunghezzaMassima = 0;  ///< characters that a text box takes, 0 for no limit
     int passoGrande = 0;       ///< what a click beside the thumb of a slider moves it by
     char32_t (*filtro)(char32_t) = nullptr;

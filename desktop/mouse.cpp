@@ -75,7 +75,7 @@ void Mouse::Manda(Fatto fatto, const QMouseEvent& mouse) const {
 }
 
 void Mouse::Muovi(const QMouseEvent& mouse) const {
-    if (vista_.Origine().ascoltaMossa)
+    if (vista_.Stato().Ascolta(ascoltaMossa))
         Manda(Fatto::MouseMove, mouse);
     else
         vista_.MuoviFinestra();
@@ -83,7 +83,7 @@ void Mouse::Muovi(const QMouseEvent& mouse) const {
 
 void Mouse::Esci() const {
     // What sank under the pointer comes up even when only deaf controls lie beside it.
-    if (vista_.Origine().ascoltaMossa) vista_.MuoviFinestra();
+    if (vista_.Stato().Ascolta(ascoltaMossa)) vista_.MuoviFinestra();
 }
 
 bool Mouse::Raddoppia(const QMouseEvent& mouse) const {

@@ -77,7 +77,8 @@ VistaDipinta::VistaDipinta(const CopiaControllo& copia, Mittente mittente, QWidg
 
 bool VistaDipinta::Cliccabile() const {
     // One that lies behind another has what is clicked before it.
-    return Origine().ascoltaClick && Origine().tipo != Genere::Casella && !Stato().Ha("dietro");
+    return Stato().Ascolta(ascoltaClick) && Origine().tipo != Genere::Casella &&
+           !Stato().Ha("dietro");
 }
 
 QWidget& VistaDipinta::CreaWidget(QWidget& padre) {

@@ -6,12 +6,6 @@ namespace corvana {
 
 namespace {
 
-void CopiaMomenti(const Controllo& controllo, CopiaControllo& copia) {
-    copia.ascoltaClick = static_cast<bool>(controllo.Click);
-    copia.ascoltaPressione = static_cast<bool>(controllo.MouseDown);
-    copia.ascoltaMossa = static_cast<bool>(controllo.MouseMove);
-}
-
 void CopiaLimiti(const Controllo& controllo, CopiaControllo& copia) {
     if (const auto* casella = dynamic_cast<const Casella*>(&controllo)) {
         copia.lunghezzaMassima = casella->MaxLength;
@@ -30,7 +24,6 @@ CopiaControllo CopiaUno(const Controllo& controllo) {
     copia.stile = controllo.stile;
     for (const ProprietaBase* p : controllo.ListaProprieta())
         copia.proprieta.emplace_back(p->NomeProprieta(), p->Leggi());
-    CopiaMomenti(controllo, copia);
     CopiaLimiti(controllo, copia);
     return copia;
 }

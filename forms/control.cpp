@@ -15,6 +15,12 @@ void ProprietaBase::Annuncia() {
     padrone_.Finestra().Annuncia(padrone_, *this);
 }
 
+void GestoreBase::Annuncia(bool presente) {
+    if (ascolto_ == 0) return;
+    const int altri = padrone_.Ascolti & ~ascolto_;
+    padrone_.Ascolti = presente ? altri | ascolto_ : altri;
+}
+
 Controllo::Controllo(Form& form, std::string nome, Genere genere, Controllo* padre)
     : Name(std::move(nome)), tipo(genere), form_(form), padre_(padre ? padre : &form) {
     numero_ = form.Iscrivi(*this);
@@ -60,7 +66,7 @@ void Lista::Clear() {
 
 void Lista::Seleziona(int indice) {
     ListIndex = indice;
-    if (Click) Click();
+    Click();
 }
 
 void Lista::Accogli(const Evento& e) {
@@ -92,7 +98,7 @@ void Barra::PonValore(int valore) {
     if (!Contiene(valore)) throw Guasto(guastoProprieta, "Invalid property value");
     if (valore == Value()) return;
     Value = valore;
-    if (Change) Change();
+    Change();
 }
 
 void Barra::Accogli(const Evento& e) {

@@ -3,11 +3,11 @@
 // Logic thread. A control must not outlive its form.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
 #include "forms/event.h"
+#include "forms/handler.h"
 #include "forms/property.h"
 
 namespace corvana {
@@ -57,13 +57,15 @@ public:
     Proprieta<int, Nome::BorderStyle> BorderStyle{*this, 0};
     Proprieta<Sfumatura, Nome::Sfondo> Sfondo{*this, {}};
 
-    std::function<void()> Click;
-    std::function<void()> DblClick;
-    std::function<void()> Change;
-    std::function<void()> Scroll;
-    std::function<void(const Evento&)> MouseDown;
-    std::function<void(const Evento&)> MouseUp;
-    std::function<void(const Evento&)> MouseMove;
+    /// Which of these somebody listens to: the bits `ascolta...`.
+    Proprieta<int, Nome::Ascolti> Ascolti{*this, 0};
+    Gestore<> Click{*this, ascoltaClick};
+    Gestore<> DblClick{*this};
+    Gestore<> Change{*this};
+    Gestore<> Scroll{*this};
+    Gestore<const Evento&> MouseDown{*this, ascoltaPressione};
+    Gestore<const Evento&> MouseUp{*this};
+    Gestore<const Evento&> MouseMove{*this, ascoltaMossa};
 
     Form& Finestra() const { return form_; }
     Controllo* Padre() const { return padre_; }

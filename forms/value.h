@@ -36,6 +36,11 @@ constexpr int fondoOpaco = 1;
 constexpr int puntatoreNormale = 0;
 constexpr int puntatoreAttesa = 11;
 
+/// Bits of `Ascolti`.
+constexpr int ascoltaClick = 1;
+constexpr int ascoltaPressione = 2;
+constexpr int ascoltaMossa = 4;
+
 /// A band of colour painted on a control: see `Gradiente`.
 struct Sfumatura {
     Colore inizio = coloreDiSistema;
@@ -71,6 +76,7 @@ enum class Nome : std::uint8_t {
     HelpContextID,
     BackStyle,
     MousePointer,
+    Ascolti,
 };
 
 using Righe = std::vector<std::string>;

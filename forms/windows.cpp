@@ -157,20 +157,14 @@ void Finestre::Riferisci(Controllo& controllo, const Evento& evento) {
 
 void Finestre::Smista(Controllo& controllo, const Evento& evento) {
     Form& form = controllo.Finestra();
-    const auto chiama = [](const std::function<void()>& f) {
-        if (f) f();
-    };
-    const auto mouse = [&](const std::function<void(const Evento&)>& f) {
-        if (f) f(evento);
-    };
     switch (evento.fatto) {
-        case Fatto::Click: return chiama(controllo.Click);
-        case Fatto::DblClick: return chiama(controllo.DblClick);
-        case Fatto::Change: return chiama(controllo.Change);
-        case Fatto::Scroll: return chiama(controllo.Scroll);
-        case Fatto::MouseDown: return mouse(controllo.MouseDown);
-        case Fatto::MouseUp: return mouse(controllo.MouseUp);
-        case Fatto::MouseMove: return mouse(controllo.MouseMove);
+        case Fatto::Click: return controllo.Click();
+        case Fatto::DblClick: return controllo.DblClick();
+        case Fatto::Change: return controllo.Change();
+        case Fatto::Scroll: return controllo.Scroll();
+        case Fatto::MouseDown: return controllo.MouseDown(evento);
+        case Fatto::MouseUp: return controllo.MouseUp(evento);
+        case Fatto::MouseMove: return controllo.MouseMove(evento);
         case Fatto::KeyDown: return TastoGiu(form, evento);
         case Fatto::KeyUp: return form.Form_KeyUp(evento);
         case Fatto::Chiudi: Scarica(form); return;

@@ -90,7 +90,7 @@ TEST(Proprieta, AControlListsItsOwnInTheOrderInWhichTheyWereMade) {
     const std::vector<Nome> comuni = {Nome::Visible,     Nome::Enabled,     Nome::BackColor,
                                       Nome::ForeColor,   Nome::ToolTipText, Nome::Left,
                                       Nome::Top,         Nome::Width,       Nome::Height,
-                                      Nome::BorderStyle, Nome::Sfondo};
+                                      Nome::BorderStyle, Nome::Sfondo,      Nome::Ascolti};
     EXPECT_EQ(NomiDi(finestra.figura), comuni);
     auto conCaption = comuni;
     conCaption.push_back(Nome::Caption);

@@ -95,7 +95,7 @@ TEST(TastiDellaLista, NoKeySelectsASeparatorAndAnswersSelectNothing) {
     BancoPrincipale b;
     int scelte = 0;
     b.Quando(2.9, [&] {
-        auto di = b.finestra.difficolt.Click;
+        auto di = b.finestra.difficolt.Click.Attuale();
         b.finestra.difficolt.Click = [&scelte, di] {
             ++scelte;
             di();
