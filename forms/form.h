@@ -22,8 +22,15 @@ public:
     Proprieta<int, Nome::MousePointer> MousePointer{*this, puntatoreNormale};
 
     virtual void Form_Load() {}
-    /// Each time that the window comes to the front of the program's windows.
+    /// Each time that the window comes to the front of the program's windows. A fault that it lets
+    /// escape is shown in a box.
     virtual void Form_Activate() {}
+    /// A loop that goes on while the window is open, waiting with the pump: it is to return when
+    /// the window has closed. Runs after the first activation. A later one leaves it running where
+    /// it is, beneath the handler that opened the window from which the user comes back; it is only
+    /// begun anew when it had returned. A fault that it lets escape is shown in a box, and it
+    /// begins anew at the next event.
+    virtual void CicloResidente() {}
     /// Setting `Cancel` keeps the window open.
     virtual void Form_Unload(bool& Cancel) { static_cast<void>(Cancel); }
     virtual void Form_KeyDown(const Evento& tasto) { static_cast<void>(tasto); }
@@ -60,6 +67,7 @@ private:
     std::unordered_map<std::string_view, Controllo*> perNome_;
     Specchio* specchio_ = nullptr;
     std::uint32_t identita_ = 0;
+    std::uint32_t inCiclo_ = 0;  ///< identity of the showing whose loop runs
     bool collocata_ = false;
 };
 

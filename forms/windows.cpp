@@ -1,6 +1,7 @@
 #include "forms/windows.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "forms/fault.h"
 
@@ -19,6 +20,20 @@ Controllo* Destinatario(const std::vector<Form*>& aperte, const Evento& evento) 
         evento.controllo >= 0 && evento.controllo < static_cast<int>(controlli.size());
     return esiste ? controlli[static_cast<std::size_t>(evento.controllo)] : nullptr;
 }
+
+/// The field holds the value until the block is left.
+class PerOra {
+public:
+    PerOra(std::uint32_t& campo, std::uint32_t valore)
+        : campo_(campo), prima_(std::exchange(campo, valore)) {}
+    PerOra(const PerOra&) = delete;
+    PerOra& operator=(const PerOra&) = delete;
+    ~PerOra() { campo_ = prima_; }
+
+private:
+    std::uint32_t& campo_;
+    const std::uint32_t prima_;
+};
 
 /// A button of the mouse goes down: of a double click the second time.
 bool Preme(const Evento& evento) {
@@ -45,7 +60,7 @@ void Finestre::MostraModale(Form& form) {
         Congeda(form);
         throw;
     }
-    if (Form* sotto = Davanti()) sotto->Form_Activate();
+    if (Form* sotto = Davanti()) Attiva(*sotto);
 }
 
 bool Finestre::Apri(Form& form, bool modale) {
@@ -57,8 +72,18 @@ bool Finestre::Apri(Form& form, bool modale) {
     aperte_.push_back(&form);
     form.specchio_ = specchio_;
     if (specchio_) specchio_->Mostra(form, modale);
-    form.Form_Activate();
+    Attiva(form);
     return true;
+}
+
+void Finestre::Attiva(Form& form) {
+    const std::uint32_t questa = form.identita_;
+    Proteggi([&] { form.Form_Activate(); });
+    if (form.inCiclo_ == questa) return;
+    const PerOra cicla(form.inCiclo_, questa);
+    const auto aperta = [&] { return form.identita_ == questa; };
+    while (aperta() && !Proteggi([&] { form.CicloResidente(); }) && aperta())
+        pompa_.AttendiEvento(perSempre);
 }
 
 bool Finestre::Aperta(const Form& form) const {
@@ -145,14 +170,20 @@ void Finestre::PrendiPosto(const Evento& evento) {
     controllo->Top.PonDaUtente(evento.y);
 }
 
-void Finestre::Riferisci(Controllo& controllo, const Evento& evento) {
+bool Finestre::Proteggi(const std::function<void()>& cosa) {
     try {
-        Smista(controllo, evento);
+        cosa();
+        return true;
     } catch (const Guasto& guasto) {
         riquadri_.MsgBox(TestoGuasto(guasto));
     } catch (const std::exception& errore) {
         riquadri_.MsgBox(TestoGuasto(Guasto(guastoInterno, errore.what())));
     }
+    return false;
+}
+
+void Finestre::Riferisci(Controllo& controllo, const Evento& evento) {
+    Proteggi([&] { Smista(controllo, evento); });
 }
 
 void Finestre::Smista(Controllo& controllo, const Evento& evento) {

@@ -47,6 +47,7 @@ public:
 
 private:
     bool Apri(Form& form, bool modale);
+    void Attiva(Form& form);
     /// Gone it is, whatever it does while it is unloaded.
     void Congeda(Form& form);
     void Togli(Form& form);
@@ -61,7 +62,8 @@ private:
     void AlzaUno(const Evento& su);
     /// Whoever is in front: a window beneath can be moved as well.
     void PrendiPosto(const Evento& evento);
-    /// Runs the handler; a fault that it lets escape is shown in a box.
+    /// A fault that `cosa` lets escape is shown in a box; then it is false.
+    bool Proteggi(const std::function<void()>& cosa);
     void Riferisci(Controllo& controllo, const Evento& evento);
     void Smista(Controllo& controllo, const Evento& evento);
     void TastoGiu(Form& form, const Evento& tasto) const;
