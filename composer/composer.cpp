@@ -115,7 +115,6 @@ void frmComposer::Form_Unload(bool& Cancel) {
     a_.impostazioni.ScriviValore("LastDir", a_.globali.percorsoCorrente);
     a_.suono.CambiaStrumento(a_.globali.StrumentoGlobale, 0);
     a_.globali.ComposerAperto = false;
-    a_.globali.hover.HoverNome.clear();
 }
 
 void frmComposer::Slider1_Scroll() {

@@ -2,9 +2,9 @@
 // Logic thread.
 #pragma once
 
+#include <string>
 #include <string_view>
 
-#include "core/globals.h"
 #include "forms/form.h"
 
 namespace corvana {
@@ -18,6 +18,16 @@ void Gradiente(Controllo& oggetto, int r1, int g1, int b1, int r2, int g2, int b
 /// `orientamento` "v"; any other does nothing.
 void ImpostaBarra(Controllo& barra, const Controllo& fondo, float rapporto,
                   std::string_view orientamento);
+
+/// What the pictures of a window need to sink under the pointer and to come back.
+struct StatoHover {
+    std::string
+        HoverNome;  ///< lower-case name of what is highlighted, or "ShToolbar"; empty for none
+    bool HoverAttivo = false;  ///< a control is displaced
+    Controllo* HoverControllo = nullptr;
+    int HoverTop = 0;  ///< its place at rest, in twips
+    int HoverLeft = 0;
+};
 
 /// "over" sinks the control by 10 twips, once; "out" puts back the control that sank, whichever
 /// control is named.

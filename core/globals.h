@@ -14,16 +14,6 @@
 
 namespace corvana {
 
-/// What the toolbar pictures need to sink under the pointer and to come back.
-struct StatoHover {
-    std::string
-        HoverNome;  ///< lower-case name of what is highlighted, or "ShToolbar"; empty for none
-    bool HoverAttivo = false;  ///< a control is displaced
-    Controllo* HoverControllo = nullptr;
-    int HoverTop = 0;  ///< its place at rest, in twips
-    int HoverLeft = 0;
-};
-
 /// Texts that the language file fills; empty until the rows of their window were applied.
 struct TestiLingua {
     std::string TxtRisposteEsatte, TxtRisposteErrate, TxtRisposteDate, TxtPercentuale;
@@ -84,7 +74,6 @@ struct Globali {
     StatoMetronomo metronomo;
     std::int32_t ContestoInto = 0;     ///< help page that the ear trainer opens with
     std::array<bool, 5> PaginaInto{};  ///< the page that the ear trainer opens on
-    StatoHover hover;
     TestiLingua testi;
 };
 

@@ -16,6 +16,7 @@
 #include <string_view>
 
 #include "core/globals.h"
+#include "core/hover.h"
 #include "forms/form.h"
 #include "trainer/positions.h"
 
@@ -194,9 +195,6 @@ private:
     void ApriInto(std::optional<std::int32_t> contesto, std::size_t pagina);
     void EsegueToolButton(int numero);
     void PonStrumento(std::int32_t programma);
-    void EntraHover(const std::string& nome);
-    void LasciaHover();
-    void MostraHover(std::string_view stato);
 
     void Riprendi(const std::string& testo);
     void SelezionaRigaDiPartenza();
@@ -221,6 +219,7 @@ private:
 
     Ambiente a_;
     Secondarie secondarie_;
+    HoverFinestra hover_;
     bool primaAttivazione_ = true;
     std::uint32_t corsa_ = 0;  ///< number of the run, so that a loop knows whether it is its own
 };

@@ -1,6 +1,5 @@
 // What sinks or lights up under the pointer in the main window.
 #include "core/effects.h"
-#include "core/text.h"
 #include "trainer/corvana_main.h"
 
 namespace corvana {
@@ -9,9 +8,6 @@ namespace {
 
 constexpr Colore rosso = 255;
 constexpr Colore blu = 0xFF0000;
-constexpr const char* nomeEsci = "cmdesci";
-constexpr const char* nomeAiuto = "lblmn";
-constexpr const char* nomeStriscia = "ShToolbar";
 
 void DipingiStriscia(Controllo& striscia, bool evidenziata) {
     if (evidenziata)
@@ -23,40 +19,13 @@ void DipingiStriscia(Controllo& striscia, bool evidenziata) {
 }  // namespace
 
 void CorvanaMainF::CollegaHover() {
-    const auto entra = [this](Controllo& controllo, const std::string& nome) {
-        controllo.MouseMove = [this, nome](const Evento&) { EntraHover(nome); };
-    };
     for (Figura& bottone : ToolButton)
-        entra(bottone, Minuscolo(bottone.Name));
-    entra(cmdEsci, nomeEsci);
-    entra(cmdEscibg, nomeEsci);
-    entra(lblMn, nomeAiuto);
-    entra(ShToolbar, nomeStriscia);
-    const auto lascia = [this](const Evento&) { LasciaHover(); };
-    MouseMove = img.MouseMove = Regolo.MouseMove = frToolBar.MouseMove = lascia;
-}
-
-void CorvanaMainF::EntraHover(const std::string& nome) {
-    StatoHover& hover = a_.globali.hover;
-    if (hover.HoverNome != nome) LasciaHover();
-    hover.HoverNome = nome;
-    MostraHover("over");
-}
-
-void CorvanaMainF::LasciaHover() {
-    MostraHover("out");
-    a_.globali.hover.HoverNome.clear();
-}
-
-void CorvanaMainF::MostraHover(std::string_view stato) {
-    StatoHover& hover = a_.globali.hover;
-    const bool sopra = stato == "over";
-    for (Figura& bottone : ToolButton)
-        if (hover.HoverNome == Minuscolo(bottone.Name)) EffettoImmagine(hover, bottone, stato);
-    if (hover.HoverNome == nomeEsci)
-        EffettoPulsante(hover, cmdEscibg, cmdEsci, stato, sopra ? rosso : blu);
-    if (hover.HoverNome == nomeAiuto) lblMn.BorderStyle = sopra ? 1 : 0;
-    if (hover.HoverNome == nomeStriscia) DipingiStriscia(ShToolbar, sopra);
+        hover_.Affonda(bottone);
+    hover_.Affonda(cmdEscibg, cmdEsci, rosso, blu);
+    hover_.Evidenzia(lblMn, "lblmn", [this](bool sopra) { lblMn.BorderStyle = sopra ? 1 : 0; });
+    hover_.Evidenzia(ShToolbar, "ShToolbar",
+                     [this](bool sopra) { DipingiStriscia(ShToolbar, sopra); });
+    hover_.LasciaSu({this, &img, &Regolo, &frToolBar});
 }
 
 void CorvanaMainF::DipingiSfondi() {

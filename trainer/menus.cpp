@@ -68,7 +68,7 @@ void CorvanaMainF::ToolButton_Click(int numero) {
     if (!ammesso) return;
     // A modal window swallows the pointer: the picture would stay sunk behind it.
     const bool apreModale = numero != 3 && numero != 6;
-    if (apreModale) LasciaHover();
+    if (apreModale) hover_.Lascia();
     EsegueToolButton(numero);
 }
 

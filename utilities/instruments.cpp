@@ -4,7 +4,6 @@
 #include <array>
 
 #include "core/effects.h"
-#include "core/language.h"
 #include "core/notation.h"
 #include "forms/keys.h"
 
@@ -36,12 +35,13 @@ frmStrum::frmStrum(const Ambiente& ambiente) : Form("frmStrum"), a_(ambiente) {
     cmdEsci.Click = cmdEscibg.Click = [this] { cmdEsci_Click(); };
     cmdTest.Click = [this] { cmdTest_Click(); };
     MouseDown = [this](const Evento& e) { Form_MouseDown(e.codice); };
-    CollegaHover();
+    hover_.Affonda(cmdEscibg, cmdEsci, rosso, blu);
+    hover_.Affonda(cmdTest);
+    hover_.LasciaSu({this});
 }
 
 void frmStrum::Form_Load() {
     a_.globali.PickerAperto = true;
-    a_.globali.hover = {};
     RitagliaForm(*this, 283, 210);
     Gradiente(*this, 191, 255, 0, 255, 255, 0, "ds", "i");
     Righe righe;
@@ -79,29 +79,6 @@ void frmStrum::Form_MouseDown(int Button) {
 
 void frmStrum::Form_Unload(bool& /*Cancel*/) {
     a_.globali.PickerAperto = false;
-    a_.globali.hover = {};
-}
-
-void frmStrum::CollegaHover() {
-    StatoHover& hover = a_.globali.hover;
-    cmdEsci.MouseMove = cmdEscibg.MouseMove = [this, &hover](const Evento&) {
-        if (hover.HoverNome != "cmdesci") LasciaHover();
-        hover.HoverNome = "cmdesci";
-        EffettoPulsante(hover, cmdEscibg, cmdEsci, "over", rosso);
-    };
-    cmdTest.MouseMove = [this, &hover](const Evento&) {
-        if (hover.HoverNome != "cmdtest") LasciaHover();
-        hover.HoverNome = "cmdtest";
-        EffettoImmagine(hover, cmdTest, "over");
-    };
-    MouseMove = [this](const Evento&) { LasciaHover(); };
-}
-
-void frmStrum::LasciaHover() {
-    StatoHover& hover = a_.globali.hover;
-    if (hover.HoverNome == "cmdesci") EffettoPulsante(hover, cmdEscibg, cmdEsci, "out", blu);
-    if (hover.HoverNome == "cmdtest") EffettoImmagine(hover, cmdTest, "out");
-    hover.HoverNome.clear();
 }
 
 }  // namespace corvana

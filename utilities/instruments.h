@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/globals.h"
+#include "core/hover.h"
 #include "forms/form.h"
 
 namespace corvana {
@@ -27,10 +28,8 @@ public:
     void cmdTest_Click();
 
 private:
-    void CollegaHover();
-    void LasciaHover();
-
     Ambiente a_;
+    HoverFinestra hover_;
 };
 
 }  // namespace corvana

@@ -26,14 +26,12 @@ TEST(ChiusuraComposer, AnUnmodifiedMelodyClosesWithoutAQuestionAndTheFolderIsKep
     BancoComposer b;
     b.globali.percorsoCorrente = "/home/mine/";
     b.globali.StrumentoGlobale = programmaViolino;
-    b.globali.hover.HoverNome = "toolbutton1";
     b.uscita.messaggi.clear();
     EXPECT_TRUE(b.finestre.Scarica(b.finestra));
     EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_EQ(b.impostazioni.LeggiValore("LastDir"), "/home/mine/");
     EXPECT_EQ(b.Programmi(), (std::vector<std::pair<int, int>>{{1, programmaViolino}}));
     EXPECT_FALSE(b.globali.ComposerAperto);
-    EXPECT_EQ(b.globali.hover.HoverNome, "");
 }
 
 TEST(ChiusuraComposer, ANoKeepsAModifiedMelodyOpenAndChangesNothing) {

@@ -104,7 +104,6 @@ TEST(Globali, StartWithTheOrganAndLatinNames) {
     EXPECT_FALSE(globali.ComposerAperto);
     EXPECT_EQ(globali.ContestoInto, 0);
     EXPECT_EQ(globali.PaginaInto, (std::array<bool, 5>{}));
-    EXPECT_EQ(globali.hover.HoverNome, "");
     EXPECT_EQ(globali.testi.TxtRisposteEsatte, "");
 }
 

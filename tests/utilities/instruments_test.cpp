@@ -99,27 +99,36 @@ TEST(Strumenti, ItTellsThatItIsOpenFromItsLoadToItsEnd) {
     EXPECT_FALSE(b.globali.PickerAperto);
 }
 
-TEST(Strumenti, WhatWasHighlightedBeforeIsForgottenAtLoad) {
+TEST(Strumenti, WhatIsSunkInTheMainWindowHindersNothingHereAndComesBackAfterwards) {
     BancoStrumenti b;
+    const int riposo = b.finestra.ToolButton[2].Top();
     b.Fa(2.8, Fatto::MouseMove, "ToolButton3");
-    b.Quando(2.9, [&] { EXPECT_TRUE(b.globali.hover.HoverAttivo); });
-    b.Quando(4, [&] {
-        EXPECT_EQ(b.globali.hover.HoverNome, "");
-        EXPECT_FALSE(b.globali.hover.HoverAttivo);
+    b.Fa(4, Fatto::MouseMove, "cmdTest");
+    b.Quando(4.5, [&] {
+        EXPECT_EQ(b.finestra.ToolButton[2].Top(), riposo + 10);
+        EXPECT_EQ(b.Scelta().cmdTest.Top(), 310);
     });
-    b.Vai(5);
+    b.Tasto(5, 27);
+    b.Fa(6, Fatto::MouseMove, "");
+    b.Vai(7);
+    EXPECT_EQ(b.finestra.ToolButton[2].Top(), riposo);
 }
 
-TEST(Strumenti, WhatIsHighlightedInItIsForgottenWhenItCloses) {
-    for (const char* controllo : {"cmdEsci", "cmdTest"}) {
-        BancoStrumenti b;
-        b.Fa(4, Fatto::MouseMove, controllo);
-        b.Quando(4.5, [&] { EXPECT_TRUE(b.globali.hover.HoverAttivo); });
-        b.Tasto(5, 27);
-        b.Vai(6);
-        EXPECT_EQ(b.globali.hover.HoverNome, "");
-        EXPECT_FALSE(b.globali.hover.HoverAttivo);
-    }
+TEST(Strumenti, ItsPictureAndItsExitSinkUnderThePointerAndComeBack) {
+    BancoStrumenti b;
+    b.Fa(4, Fatto::MouseMove, "cmdTest");
+    b.Fa(5, Fatto::MouseMove, "cmdEsci");
+    b.Quando(5.5, [&] {
+        EXPECT_EQ(b.Scelta().cmdTest.Top(), 300);
+        EXPECT_EQ(b.Scelta().cmdEscibg.Top(), 2485);
+        EXPECT_EQ(b.Scelta().cmdEsci.ForeColor(), 255);
+    });
+    b.Fa(6, Fatto::MouseMove, "");
+    b.Quando(6.5, [&] {
+        EXPECT_EQ(b.Scelta().cmdEscibg.Top(), 2475);
+        EXPECT_EQ(b.Scelta().cmdEsci.ForeColor(), 0xFF0000);
+    });
+    b.Vai(7);
 }
 
 TEST(Strumenti, TheTestSoundsThePhraseOnChannelOne) {
