@@ -1,8 +1,10 @@
 #include "desktop/text_box_view.h"
 
+#include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -97,12 +99,28 @@ VistaCasella::VistaCasella(const CopiaControllo& copia, Mittente mittente, QWidg
     casella_->setAlignment(Allineamento(Stato().stile) & Qt::AlignHorizontal_Mask);
     PonColori();
     PonTesto();
+    Collega();
+}
+
+void VistaCasella::Collega() {
     QObject::connect(casella_, &QLineEdit::textEdited, casella_, [this](const QString& testo) {
         Evento evento;
         evento.fatto = Fatto::Change;
         evento.testo = testo.toStdString();
         Manda(std::move(evento));
     });
+    QObject::connect(casella_, &QLineEdit::returnPressed, casella_,
+                     [this] { Manda(Fatto::Invio); });
+    QObject::connect(qApp, &QApplication::focusChanged, casella_,
+                     [this](QWidget*, QWidget* preso) { SegnaFuoco(preso); });
+}
+
+void VistaCasella::SegnaFuoco(const QWidget* preso) {
+    if (preso == casella_) scrive_ = true;
+    if (!scrive_ || !preso || preso == casella_) return;
+    if (preso->window() != casella_->window() || qobject_cast<const QMenuBar*>(preso)) return;
+    scrive_ = false;
+    Manda(Fatto::LostFocus);
 }
 
 void VistaCasella::PonTesto() {

@@ -1,4 +1,6 @@
-// Text boxes: the filter and the limit work at the keystroke. GUI thread.
+// Text boxes: the filter and the limit work at the keystroke. One has lost the focus when another
+// control of its window has it; an open menu, another window or another program only borrow it.
+// GUI thread.
 #pragma once
 
 #include "desktop/view.h"
@@ -19,11 +21,14 @@ protected:
     void Riscala() override;
 
 private:
+    void Collega();
+    void SegnaFuoco(const QWidget* preso);
     void PonTesto();
     void PonBlocco();
     void PonColori();
 
     QLineEdit* casella_;
+    bool scrive_ = false;  ///< it has the focus, as far as the logic knows
 };
 
 }  // namespace corvana

@@ -63,6 +63,8 @@ public:
     Gestore<> DblClick{*this};
     Gestore<> Change{*this};
     Gestore<> Scroll{*this};
+    Gestore<> Invio{*this};
+    Gestore<> LostFocus{*this};
     Gestore<const Evento&> MouseDown{*this, ascoltaPressione};
     Gestore<const Evento&> MouseUp{*this};
     Gestore<const Evento&> MouseMove{*this, ascoltaMossa};

@@ -15,6 +15,8 @@ enum class Fatto : std::uint8_t {
     KeyDown,  ///< of the window: `codice`, `shift`, `ripetuto`
     KeyUp,
     Change,      ///< a slider let go (`valore`), a text edited (`testo`)
+    Invio,       ///< Enter in a text box
+    LostFocus,   ///< of a text box: the keyboard has gone to another control of the window
     Scroll,      ///< a slider's thumb on its way (`valore`)
     Chiudi,      ///< a request to close the window
     FuocoPerso,  ///< the program lost the keyboard: no key and no button is held any more

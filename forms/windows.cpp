@@ -140,6 +140,8 @@ void Finestre::Consegna(const Evento& evento) {
     if (Preme(evento)) AlzaUno(evento);
     Controllo* controllo = Destinatario(aperte_, evento);
     if (!controllo) return;
+    // What has been typed is to be looked at, whatever has become of the box since.
+    if (evento.fatto == Fatto::LostFocus) return Riferisci(*controllo, evento);
     if (&controllo->Finestra() != Davanti() || !controllo->Utilizzabile())
         return controllo->Ripeti();
     if (evento.fatto == Fatto::KeyDown) tasti_.Segna(evento.codice, true);
@@ -193,6 +195,8 @@ void Finestre::Smista(Controllo& controllo, const Evento& evento) {
         case Fatto::DblClick: return controllo.DblClick();
         case Fatto::Change: return controllo.Change();
         case Fatto::Scroll: return controllo.Scroll();
+        case Fatto::Invio: return controllo.Invio();
+        case Fatto::LostFocus: return controllo.LostFocus();
         case Fatto::MouseDown: return controllo.MouseDown(evento);
         case Fatto::MouseUp: return controllo.MouseUp(evento);
         case Fatto::MouseMove: return controllo.MouseMove(evento);

@@ -53,6 +53,8 @@ FormDiProva::FormDiProva(Finestre& f, Riquadri& d, Diario diario)
             c != &staff)
             Ascolta(*c);
     Regolo.MouseDown = [this](const Evento& e) { diario_("Regolo " + std::to_string(e.y)); };
+    casella.Invio = [this] { diario_("casella invio"); };
+    casella.LostFocus = [this] { diario_("casella lasciata"); };
     icona.MouseMove = [this](const Evento&) { diario_("icona mossa"); };
     MouseMove = [this](const Evento&) { diario_("finestra mossa"); };
     sopra.ok.Click = [this] { finestre.Scarica(sopra); };

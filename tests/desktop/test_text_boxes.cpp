@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QTest>
 
 #include "desktop/text_box_view.h"
 #include "tests/desktop/stage.h"
@@ -76,6 +77,87 @@ TEST(Casella, ALockedOneShowsAndTakesNothing) {
     palco.NellaLogica([](FormDiProva& form) { form.casella.Text = "50.00%"; });
     EXPECT_EQ(casella.text(), "50.00%");
     EXPECT_EQ(palco.Diario(), (Righe{"giu 51", "su 51"}));
+}
+
+TEST(Casella, EnterIsToldBetweenItsPressAndItsRelease) {
+    Palco palco;
+    CasellaDi(palco);
+    Batti(palco.scrivania, Qt::Key_Return);
+    Batti(palco.scrivania, Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(palco.Diario(),
+              (Righe{"giu 13", "casella invio", "su 13", "giu 13", "casella invio", "su 13"}));
+}
+
+TEST(Casella, AClickOnAButtonTakesTheFocusBeforeItIsAClick) {
+    Palco palco;
+    CasellaDi(palco);
+    Batti(palco.scrivania, Qt::Key_A);
+    Clicca(palco.scrivania, "bottone");
+    EXPECT_EQ(palco.Diario(), (Righe{"giu 65", "casella change", "su 65", "casella lasciata",
+                                     "bottone giu", "bottone su", "bottone click"}));
+}
+
+TEST(Casella, TheTabKeyAndTheLogicTakeTheFocusToo) {
+    Palco palco;
+    CasellaDi(palco);
+    Batti(palco.scrivania, Qt::Key_Tab);
+    EXPECT_EQ(palco.Diario(), (Righe{"giu 9", "casella lasciata", "su 9"}));
+    CasellaDi(palco);
+    palco.NellaLogica([](FormDiProva& form) { form.secondo.SetFocus(); });
+    EXPECT_EQ(palco.Diario(), (Righe{"casella lasciata"}));
+}
+
+TEST(Casella, ALabelThatIsClickedLeavesItTheFocus) {
+    Palco palco;
+    CasellaDi(palco);
+    Clicca(palco.scrivania, "toccabile");
+    EXPECT_EQ(palco.Diario(), (Righe{"toccabile giu", "toccabile su", "toccabile click"}));
+}
+
+TEST(Casella, OneThatIsDisabledOrHiddenHasLostTheFocus) {
+    for (const bool nascosta : {false, true}) {
+        Palco palco;
+        CasellaDi(palco);
+        palco.NellaLogica([=](FormDiProva& form) {
+            nascosta ? form.casella.Visible = false : form.casella.Enabled = false;
+        });
+        EXPECT_EQ(palco.Diario(), (Righe{"casella lasciata"})) << nascosta;
+    }
+}
+
+TEST(Casella, AMenuABoxAndAnotherWindowOnlyBorrowTheFocus) {
+    Palco palco;
+    CasellaDi(palco);
+    Batti(palco.scrivania, Qt::Key_F10);
+    ASSERT_TRUE(Aspetta([] { return QApplication::activePopupWidget() != nullptr; }));
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    // The bar, which has the keyboard by now, gives it back.
+    EXPECT_FALSE(Trova(palco.scrivania, "casella").hasFocus());
+    Batti(palco.scrivania, Qt::Key_Escape);
+    palco.Ordina([](FormDiProva& form) { form.riquadri.MsgBox("ecco"); });
+    ASSERT_TRUE(Aspetta([&] { return palco.scrivania.Riquadro() != nullptr; }));
+    palco.scrivania.Riquadro()->accept();
+    palco.Ordina([](FormDiProva& form) { form.finestre.MostraModale(form.sopra); });
+    AspettaFinestra(palco.scrivania, "FormSopra");
+    Clicca(palco.scrivania, "ok");
+    AspettaFinestra(palco.scrivania, "FormDiProva");
+    const Righe diario = palco.Diario();
+    EXPECT_EQ(std::count(diario.begin(), diario.end(), "casella lasciata"), 0);
+    EXPECT_TRUE(Trova(palco.scrivania, "casella").hasFocus());
+}
+
+TEST(Casella, TheFocusThatWasTakenWhileTheWindowWasntActiveIsLostWhenItIsAgain) {
+    Palco palco;
+    CasellaDi(palco);
+    QWidget altra;
+    altra.show();
+    altra.activateWindow();
+    ASSERT_TRUE(Aspetta([&] { return altra.isActiveWindow(); }));
+    palco.NellaLogica([](FormDiProva& form) { form.secondo.SetFocus(); });
+    EXPECT_EQ(palco.Diario(), Righe{});
+    palco.scrivania.Davanti()->Finestra().activateWindow();
+    AspettaFinestra(palco.scrivania, "FormDiProva");
+    EXPECT_EQ(palco.Diario(), (Righe{"casella lasciata"}));
 }
 
 }  // namespace

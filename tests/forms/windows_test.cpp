@@ -142,6 +142,39 @@ TEST(Consegna, AnEventForNoWindowOrNoControlIsDropped) {
     b.Consegna();
 }
 
+TEST(Consegna, WhatWasTypedThenTheLossOfTheFocusThenTheClickThatTookIt) {
+    BancoConsegna b;
+    Evento battuto;
+    battuto.fatto = Fatto::Change;
+    battuto.testo = "12";
+    b.finestra.casella.LostFocus = [&] {
+        b.Visto().push_back("left " + b.finestra.casella.Text());
+    };
+    b.finestra.casella.Invio = [&] { b.Visto().emplace_back("enter"); };
+    b.coda.Aggiungi(b.Fatta(battuto, "casella"));
+    b.Accoda(Fatto::Invio, "casella");
+    b.Accoda(Fatto::LostFocus, "casella");
+    b.Accoda(Fatto::Click, "bottone");
+    b.Consegna();
+    EXPECT_EQ(b.Visto(), (Diario{"text 12", "enter", "left 12", "click"}));
+}
+
+TEST(Consegna, ABoxThatCantBeUsedAnyMoreHasLostTheFocusAllTheSame) {
+    BancoConsegna b;
+    b.finestra.casella.LostFocus = [&] { b.Visto().emplace_back("left"); };
+    b.finestra.casella.Invio = [&] { b.Visto().emplace_back("enter"); };
+    b.finestra.casella.Enabled = false;
+    b.Accoda(Fatto::Invio, "casella");
+    b.Accoda(Fatto::LostFocus, "casella");
+    FinestraProva sopra("frmSopra");
+    b.Consegna();
+    b.Accoda(Fatto::LostFocus, "casella");
+    b.finestre.Mostra(sopra);
+    b.Consegna();
+    EXPECT_EQ(b.Visto(), (Diario{"left", "left"}));
+    b.finestre.Scarica(sopra);
+}
+
 TEST(Consegna, AFaultThatEscapesAHandlerIsShownAndTheProgramGoesOn) {
     BancoConsegna b;
     b.finestra.dentro.Click = [] { throw Guasto(6, "Overflow"); };
