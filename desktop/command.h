@@ -54,6 +54,12 @@ struct TrascinaFinestra {
     std::uint32_t finestra;
 };
 
+/// The context menu is to be opened where the user asked for it.
+struct ApriMenu {
+    std::uint32_t finestra;
+    int controllo;
+};
+
 /// The help is to be shown: `file` names it, `contesto` the page.
 struct MostraAiuto {
     std::string file;
@@ -72,6 +78,6 @@ struct ApriRiquadro {
 struct FineLogica {};
 
 using Comando = std::variant<MostraFinestra, CambiaProprieta, DaiFuoco, ChiudiFinestra,
-                             TrascinaFinestra, MostraAiuto, ApriRiquadro, FineLogica>;
+                             TrascinaFinestra, ApriMenu, MostraAiuto, ApriRiquadro, FineLogica>;
 
 }  // namespace corvana

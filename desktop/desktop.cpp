@@ -127,6 +127,10 @@ void Scrivania::Fai(const TrascinaFinestra& comando) {
         finestra->Finestra().windowHandle()->startSystemMove();
 }
 
+void Scrivania::Fai(const ApriMenu& comando) {
+    if (VistaFinestra* finestra = Cerca(comando.finestra)) finestra->ApriMenu(comando.controllo);
+}
+
 void Scrivania::Fai(const MostraAiuto& comando) {
     if (!aiuto_)
         aiuto_ = std::make_unique<FinestraAiuto>([this] {

@@ -63,6 +63,7 @@ private:
     void Fai(const DaiFuoco& comando);
     void Fai(const ChiudiFinestra& comando);
     void Fai(const TrascinaFinestra& comando);
+    void Fai(const ApriMenu& comando);
     void Fai(const MostraAiuto& comando);
     void Fai(const ApriRiquadro& comando);
     void Fai(const FineLogica& comando);

@@ -28,7 +28,7 @@ VistaVoce::VistaVoce(const CopiaControllo& copia, Mittente mittente, const Menu&
 
 void VistaVoce::Crea(QMenuBar& sbarra, VistaVoce* padre, bool haVoci) {
     QWidget* sopra = padre ? static_cast<QWidget*>(padre->menu_) : &sbarra;
-    if (haVoci) {
+    if (haVoci || Origine().tipo == Genere::MenuContestuale) {
         menu_ = new QMenu(sopra);
         // Its letters grow with the bar's.
         menu_->setAttribute(Qt::WA_WindowPropagation);
@@ -37,7 +37,11 @@ void VistaVoce::Crea(QMenuBar& sbarra, VistaVoce* padre, bool haVoci) {
         azione_ = new QAction(sopra);
         azione_->setSeparator(Stato().caption.isEmpty());
     }
-    sopra->addAction(azione_);
+    if (Origine().tipo != Genere::MenuContestuale) sopra->addAction(azione_);
+}
+
+void VistaVoce::Apri(QPoint dove) {
+    if (menu_ && !menu_->isEmpty()) menu_->popup(dove);
 }
 
 void VistaVoce::Rinfresca(Nome nome) {

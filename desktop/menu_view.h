@@ -1,5 +1,5 @@
 // An entry of the menu bar, or of a menu. One that has entries of its own is a menu; opening it is
-// a click on it. GUI thread.
+// a click on it. A context menu stands in no bar. GUI thread.
 #pragma once
 
 #include <functional>
@@ -26,6 +26,8 @@ public:
               bool haVoci);
 
     QAction& Azione() const { return *azione_; }
+    /// Of a menu: opens it there on the screen.
+    void Apri(QPoint dove);
 
 protected:
     void Rinfresca(Nome nome) override;

@@ -1,7 +1,10 @@
 #include "desktop/mouse.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCursor>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QWidget>
 #include <QWindow>
@@ -16,6 +19,14 @@ namespace {
 int NumeroBottone(Qt::MouseButton bottone) {
     if (bottone == Qt::LeftButton) return bottoneSinistro;
     return bottone == Qt::RightButton ? bottoneDestro : 0;
+}
+
+/// A text box has a menu of its own.
+bool ChiedeMenu(const QKeyEvent& tasto) {
+    const bool chiede = tasto.key() == Qt::Key_Menu ||
+                        (tasto.key() == Qt::Key_F10 && tasto.modifiers() == Qt::ShiftModifier);
+    return chiede && !tasto.isAutoRepeat() && !QApplication::activePopupWidget() &&
+           !qobject_cast<QLineEdit*>(QApplication::focusWidget());
 }
 
 /// The event at that place of the control's widget.
@@ -93,47 +104,69 @@ bool Mouse::Raddoppia(const QMouseEvent& mouse) const {
     return Dipinta(vista_);
 }
 
-Rilasci::Rilasci(QWindow& finestra, const Vista& faccia)
+TopoFinestra::TopoFinestra(QWindow& finestra, const Vista& faccia)
     : QObject(&finestra), finestra_(finestra), faccia_(faccia) {
     finestra.installEventFilter(this);
 }
 
-bool Rilasci::eventFilter(QObject*, QEvent* evento) {
+bool TopoFinestra::eventFilter(QObject*, QEvent* evento) {
     // Of the other kinds it is no mouse event.
     const auto mouse = [evento]() -> const QMouseEvent& {
         return static_cast<const QMouseEvent&>(*evento);
     };
     switch (evento->type()) {
         case QEvent::MouseButtonPress:
-        case QEvent::MouseButtonDblClick: giu_ |= mouse().button(); break;
+        case QEvent::MouseButtonDblClick:
+            daTasto_.reset();
+            giu_ |= mouse().button();
+            break;
         case QEvent::MouseButtonRelease:
             Alza(mouse().button(), mouse().scenePosition(), BitMaiuscole(mouse().modifiers()));
             break;
         case QEvent::MouseMove: Confronta(mouse()); break;
         case QEvent::WindowBlocked:
         case QEvent::Hide: Alza(giu_, finestra_.mapFromGlobal(QCursor::pos()), 0); break;
+        case QEvent::KeyPress:
+            if (ChiedeMenu(static_cast<const QKeyEvent&>(*evento))) ChiediMenu();
+            break;
         default: break;
     }
     return false;
 }
 
-void Rilasci::Alza(Qt::MouseButtons bottoni, QPointF dove, int shift) {
+void TopoFinestra::Alza(Qt::MouseButtons bottoni, QPointF dove, int shift) {
     giu_ &= ~bottoni;
-    const QWidget& faccia = *faccia_.Widget();
-    Evento evento =
-        FattoMouse(faccia_, Fatto::MouseUp, dove - faccia.mapTo(faccia.window(), QPointF()));
-    evento.shift = shift;
     for (const auto bottone :
-         {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton, Qt::BackButton, Qt::ForwardButton}) {
-        if (!bottoni.testFlag(bottone)) continue;
-        evento.codice = NumeroBottone(bottone);
-        faccia_.Manda(evento);
-    }
+         {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton, Qt::BackButton, Qt::ForwardButton})
+        if (bottoni.testFlag(bottone)) Manda(Fatto::MouseUp, NumeroBottone(bottone), dove, shift);
 }
 
-void Rilasci::Confronta(const QMouseEvent& mouse) {
+void TopoFinestra::Confronta(const QMouseEvent& mouse) {
     const Qt::MouseButtons saliti = giu_ & ~mouse.buttons();
     if (saliti) Alza(saliti, mouse.scenePosition(), BitMaiuscole(mouse.modifiers()));
+}
+
+void TopoFinestra::ChiediMenu() {
+    const QWidget& faccia = *faccia_.Widget();
+    const QWidget* fuoco = faccia.window()->focusWidget();
+    if (!fuoco) fuoco = &faccia;
+    const QRect dove = fuoco->inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    daTasto_ = fuoco->mapToGlobal(dove.center());
+    const QPointF posto = fuoco->mapTo(fuoco->window(), QPointF(dove.center()));
+    Manda(Fatto::MouseDown, bottoneDestro, posto, 0);
+    Manda(Fatto::MouseUp, bottoneDestro, posto, 0);
+}
+
+QPoint TopoFinestra::PostoMenu() const {
+    return daTasto_.value_or(QCursor::pos());
+}
+
+void TopoFinestra::Manda(Fatto fatto, int codice, QPointF dove, int shift) const {
+    const QWidget& faccia = *faccia_.Widget();
+    Evento evento = FattoMouse(faccia_, fatto, dove - faccia.mapTo(faccia.window(), QPointF()));
+    evento.codice = codice;
+    evento.shift = shift;
+    faccia_.Manda(std::move(evento));
 }
 
 }  // namespace corvana

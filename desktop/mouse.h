@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QObject>
+#include <QPoint>
+#include <optional>
 
 #include "forms/event.h"
 
@@ -31,24 +33,32 @@ private:
     const bool inerte_;  ///< the widget itself does nothing with the mouse
 };
 
-/// Of one native window: each button that went down in it comes up, wherever the pointer is by then
-/// and whatever became of the widget on which it went down; also when the release itself never
-/// comes, since a modal window or a menu took the mouse away. The logic knows which control is
-/// meant. Dies with the window.
-class Rilasci final : public QObject {
+/// Of one native window as a whole. Each button that went down in it comes up, wherever the pointer
+/// is by then and whatever became of the control on which it went down; also when the release
+/// itself never comes, since a modal window or a menu took the mouse away. The logic knows which
+/// control is meant. The keys that ask for a context menu, where what has the focus has none of its
+/// own, are a press of the right button on the window, at the focus. Dies with the window.
+class TopoFinestra final : public QObject {
 public:
     /// `faccia` is the view of the window itself.
-    Rilasci(QWindow& finestra, const Vista& faccia);
+    TopoFinestra(QWindow& finestra, const Vista& faccia);
     bool eventFilter(QObject* oggetto, QEvent* evento) override;
+
+    /// Where on the screen a context menu is asked for: at the pointer, or at the focus.
+    QPoint PostoMenu() const;
 
 private:
     void Alza(Qt::MouseButtons bottoni, QPointF dove, int shift);
     /// Those that are no longer down, though nobody said so.
     void Confronta(const QMouseEvent& mouse);
+    void ChiediMenu();
+    /// `dove` lies in the window.
+    void Manda(Fatto fatto, int codice, QPointF dove, int shift) const;
 
     QWindow& finestra_;
     const Vista& faccia_;
     Qt::MouseButtons giu_;
+    std::optional<QPoint> daTasto_;
 };
 
 }  // namespace corvana

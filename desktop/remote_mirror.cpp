@@ -55,6 +55,10 @@ void SpecchioRemoto::Trascina(const Form& form) {
     cassetta_.Metti(TrascinaFinestra{form.Identita()});
 }
 
+void SpecchioRemoto::PopupMenu(const Controllo& menu) {
+    cassetta_.Metti(ApriMenu{menu.Finestra().Identita(), menu.Numero()});
+}
+
 void SpecchioRemoto::Aiuto(const Form& form, const std::string& file) {
     cassetta_.Metti(MostraAiuto{file, form.HelpContextID});
 }

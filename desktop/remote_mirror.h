@@ -27,6 +27,7 @@ public:
     void Cambiato(const Controllo& controllo, Nome nome, const Valore& valore) override;
     void Fuoco(const Controllo& controllo) override;
     void Trascina(const Form& form) override;
+    void PopupMenu(const Controllo& menu) override;
     void Aiuto(const Form& form, const std::string& file) override;
     void Chiudi(const Form& form) override;
 

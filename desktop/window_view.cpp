@@ -136,7 +136,7 @@ VistaFinestra::~VistaFinestra() = default;
 
 void VistaFinestra::CreaTutti(const std::vector<CopiaControllo>& controlli, Tastiera& tastiera) {
     const std::set<int> padri = Padri(controlli);
-    const bool conMenu = !padri.empty();
+    const bool conMenu = padri.contains(0);
     const Menu menu{*finestra_->menuBar(), [&tastiera] { tastiera.Perdi(); }};
     menu.sbarra.setVisible(conMenu);
     auto* effeDieci = new QShortcut(Qt::Key_F10, finestra_.get());
@@ -193,7 +193,7 @@ void VistaFinestra::Colloca(bool detto, const VistaFinestra* finestraSotto) {
 
 void VistaFinestra::Crea(const CopiaControllo& copia, const Menu& menu, bool haVoci) {
     Vista* padre = Controllo(copia.padre);
-    if (copia.tipo == Genere::VoceMenu) {
+    if (copia.tipo == Genere::VoceMenu || copia.tipo == Genere::MenuContestuale) {
         viste_.push_back(std::make_unique<VistaVoce>(copia, mittente_, menu,
                                                      dynamic_cast<VistaVoce*>(padre), haVoci));
         return;
@@ -270,7 +270,7 @@ void VistaFinestra::Apri(bool modale, const VistaFinestra* sotto) {
     finestra_->winId();
     if (sotto) finestra_->windowHandle()->setTransientParent(sotto->finestra_->windowHandle());
     finestra_->windowHandle()->installEventFilter(finestra_.get());
-    new Rilasci(*finestra_->windowHandle(), *viste_.front());
+    topo_ = new TopoFinestra(*finestra_->windowHandle(), *viste_.front());
     finestra_->show();
     finestra_->raise();
     finestra_->activateWindow();
@@ -321,6 +321,10 @@ void VistaFinestra::PonPuntatore() {
 void VistaFinestra::DaiFuoco(int numero) {
     Vista* vista = Controllo(numero);
     if (vista && vista->Widget()) vista->Widget()->setFocus(Qt::OtherFocusReason);
+}
+
+void VistaFinestra::ApriMenu(int numero) {
+    if (auto* menu = dynamic_cast<VistaVoce*>(Controllo(numero))) menu->Apri(topo_->PostoMenu());
 }
 
 }  // namespace corvana

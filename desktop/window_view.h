@@ -33,6 +33,8 @@ public:
 
     void Cambia(int numero, Nome nome, const Valore& valore);
     void DaiFuoco(int numero);
+    /// Opens the context menu of that number.
+    void ApriMenu(int numero);
     void ChiediChiusura() const { mittente_.Manda(0, Fatto::Chiudi); }
 
 private:
@@ -66,6 +68,7 @@ private:
     std::unique_ptr<Nominatore> nomi_;
     class VistaPentagramma* pentagramma_ = nullptr;
     std::unique_ptr<QMainWindow> finestra_;
+    class TopoFinestra* topo_ = nullptr;
     double scala_ = 0;       ///< not laid out yet
     QPoint posto_;           ///< twips, as the logic knows it
     bool intera_ = false;    ///< it was made sure that it lies on the screen as a whole

@@ -26,6 +26,7 @@ enum class Genere : std::uint8_t {
     Cornice,
     Figura,
     VoceMenu,
+    MenuContestuale,
 };
 
 struct Controllo {
@@ -198,6 +199,12 @@ struct VoceMenu : ConCaption {
     VoceMenu(Form& form, std::string nome, Controllo* padre = nullptr)
         : ConCaption(form, std::move(nome), Genere::VoceMenu, padre) {}
     Proprieta<bool, Nome::Checked> Checked{*this, false};
+};
+
+/// A menu that stands in no bar: `Form::PopupMenu` opens it.
+struct MenuContestuale : ConCaption {
+    MenuContestuale(Form& form, std::string nome)
+        : ConCaption(form, std::move(nome), Genere::MenuContestuale) {}
 };
 
 }  // namespace corvana

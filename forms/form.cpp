@@ -30,6 +30,10 @@ void Form::Trascina() const {
     if (specchio_) specchio_->Trascina(*this);
 }
 
+void Form::PopupMenu(const MenuContestuale& menu) const {
+    if (specchio_ && menu.Utilizzabile()) specchio_->PopupMenu(menu);
+}
+
 void Form::ApriAiuto(const std::string& file) const {
     if (specchio_) specchio_->Aiuto(*this, file);
 }

@@ -52,6 +52,9 @@ public:
 
     /// Lets the pointer drag the window, while its left button is down.
     void Trascina() const;
+    /// Opens the menu at the pointer, or at what has the focus when the user asked for it with the
+    /// keyboard. Returns at once; an entry that is chosen is a `Click` like any other.
+    void PopupMenu(const MenuContestuale& menu) const;
     /// Shows the help in `file` at the page for the window's context.
     void ApriAiuto(const std::string& file) const;
 

@@ -24,6 +24,8 @@ public:
     virtual void Fuoco(const Controllo& controllo) = 0;
     /// The pointer, whose left button is down on the form, drags the window from now on.
     virtual void Trascina(const Form& form) { static_cast<void>(form); }
+    /// The menu is to be opened where the user asked for it.
+    virtual void PopupMenu(const Controllo& menu) { static_cast<void>(menu); }
     /// The help is to be shown, from `file`, at the page for the form's context. The user goes on
     /// working beside it.
     virtual void Aiuto(const Form& form, const std::string& file) {

@@ -11,6 +11,7 @@ constexpr std::array posti = {
     Posto{"Apri", 0, 0, 0, 0, "&Apri"},
     Posto{"Altro", 0, 0, 0, 0, "A&ltro"},
     Posto{"Uno", 0, 0, 0, 0, "&Uno"},
+    Posto{"Copia", 0, 0, 0, 0, "&Copia"},
     Posto{"Aiuto", 0, 0, 0, 0, "A&iuto"},
     Posto{"scritta", 150, 150, 1500, 300, "Una &scritta"},
     Posto{"toccabile", 150, 600, 1500, 300, "?", "Mostra il nome"},

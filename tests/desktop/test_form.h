@@ -25,6 +25,8 @@ public:
 
     VoceMenu File{*this, "File"}, Apri{*this, "Apri", &File}, Riga{*this, "Riga", &File},
         Altro{*this, "Altro", &File}, Uno{*this, "Uno", &Altro}, Aiuto{*this, "Aiuto"};
+    MenuContestuale contestuale{*this, "contestuale"};
+    VoceMenu Copia{*this, "Copia", &contestuale};
     Etichetta scritta{*this, "scritta"}, toccabile{*this, "toccabile"};
     Bottone bottone{*this, "bottone"}, secondo{*this, "secondo"};
     Casella casella{*this, "casella"};

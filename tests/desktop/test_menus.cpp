@@ -3,6 +3,8 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTest>
+#include <QWindow>
 
 #include "tests/desktop/stage.h"
 
@@ -67,6 +69,93 @@ TEST(Menu, AWindowWithoutEntriesHasNoBar) {
     EXPECT_FALSE(palco.scrivania.Davanti()->Finestra().menuBar()->isVisible());
     Clicca(palco.scrivania, "ok");
     AspettaFinestra(palco.scrivania, "FormDiProva");
+}
+
+void ConMenu(FormDiProva& form) {
+    form.MouseDown = [&form](const Evento& e) {
+        if (e.codice == bottoneDestro) form.PopupMenu(form.contestuale);
+    };
+}
+
+/// Where no control lies.
+QPoint Terra(Palco& palco) {
+    const QWidget& scritta = Trova(palco.scrivania, "scritta");
+    return scritta.mapTo(scritta.window(), QPoint(2, -5));
+}
+
+QMenu* MenuAperto() {
+    Aspetta([] { return QApplication::activePopupWidget() != nullptr; });
+    return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+}
+
+TEST(MenuContestuale, StandsInNoBar) {
+    Palco palco;
+    for (const QAction* voce : palco.scrivania.Davanti()->Finestra().menuBar()->actions()) {
+        EXPECT_NE(voce->objectName(), "contestuale");
+        EXPECT_NE(voce->objectName(), "Copia");
+    }
+    EXPECT_EQ(TrovaVoce(palco.scrivania, "Copia").text(), "&Copia");
+}
+
+TEST(MenuContestuale, OpensAtThePointerAndTellsWhatWasChosen) {
+    Palco palco(ConMenu);
+    QWindow& finestra = *palco.scrivania.Davanti()->Finestra().windowHandle();
+    const QPoint punto = finestra.mapToGlobal(Terra(palco));
+    QCursor::setPos(punto);
+    QTest::mousePress(&finestra, Qt::RightButton, {}, Terra(palco));
+    QMenu* menu = MenuAperto();
+    ASSERT_TRUE(menu);
+    EXPECT_EQ(menu->pos(), punto);
+    QTest::mouseRelease(menu, Qt::RightButton, {}, QPoint(-3, -3));
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->rect().center());
+    EXPECT_FALSE(menu->isVisible());
+    EXPECT_EQ(palco.Diario(), (Righe{"contestuale click", "Copia click"}));
+}
+
+TEST(MenuContestuale, TheKeyboardAsksForItAtTheFocus) {
+    using Tasto = std::pair<Qt::Key, Qt::KeyboardModifiers>;
+    for (const auto& [tasto, maiusc] :
+         {Tasto{Qt::Key_Menu, Qt::NoModifier}, Tasto{Qt::Key_F10, Qt::ShiftModifier}}) {
+        Palco palco(ConMenu);
+        QWidget& secondo = Trova(palco.scrivania, "secondo");
+        secondo.setFocus();
+        QCursor::setPos(3, 3);
+        Batti(palco.scrivania, tasto, maiusc);
+        QMenu* menu = MenuAperto();
+        ASSERT_TRUE(menu) << tasto;
+        EXPECT_TRUE(QRect(secondo.mapToGlobal(QPoint()), secondo.size()).contains(menu->pos()));
+        QTest::keyClick(menu, Qt::Key_Down);
+        QTest::keyClick(menu, Qt::Key_Return);
+        const Righe diario = palco.Diario();
+        EXPECT_EQ(std::count(diario.begin(), diario.end(), "Copia click"), 1) << tasto;
+        EXPECT_EQ(secondo.window()->focusWidget(), &secondo);
+    }
+}
+
+TEST(MenuContestuale, ATextBoxKeepsItsOwn) {
+    Palco palco(ConMenu);
+    Trova(palco.scrivania, "casella").setFocus();
+    Batti(palco.scrivania, Qt::Key_Menu);
+    const Righe diario = palco.Diario();
+    EXPECT_EQ(std::count(diario.begin(), diario.end(), "contestuale click"), 0);
+}
+
+TEST(MenuContestuale, ItsLettersGrowWithTheFace) {
+    Palco palco(ConMenu);
+    const auto alta = [&] {
+        QTest::mouseClick(palco.scrivania.Davanti()->Finestra().windowHandle(), Qt::RightButton, {},
+                          Terra(palco));
+        QMenu* menu = MenuAperto();
+        const std::pair misure(menu->fontMetrics().height(), menu->height());
+        menu->close();
+        palco.Diario();
+        return misure;
+    };
+    const auto [lettere, altezza] = alta();
+    Ingrandisci(*palco.scrivania.Davanti(), 2);
+    const auto [lettereDoppie, altezzaDoppia] = alta();
+    EXPECT_NEAR(lettereDoppie, 2 * lettere, 3);
+    EXPECT_GT(altezzaDoppia, altezza * 8 / 5);
 }
 
 }  // namespace

@@ -105,4 +105,14 @@ TEST(Form, HasTheNormalPointerUntilItIsGivenAnother) {
     EXPECT_EQ(b.specchio.cambi, attesi);
 }
 
+TEST(Form, AMenuIsOpenedByTheMirrorUnlessItCantBeUsed) {
+    BancoFinestra b;
+    MenuContestuale menu(b.finestra, "mnuContestuale");
+    b.finestra.PopupMenu(menu);
+    EXPECT_EQ(b.specchio.menuAperti, (std::vector<std::string>{"mnuContestuale"}));
+    menu.Enabled = false;
+    b.finestra.PopupMenu(menu);
+    EXPECT_EQ(b.specchio.menuAperti.size(), 1U);
+}
+
 }  // namespace corvana::prova

@@ -23,6 +23,7 @@ public:
     std::vector<std::string> mostrate;  ///< names, a modal one behind "modal "
     std::vector<std::string> chiuse;
     std::vector<std::string> trascinate;
+    std::vector<std::string> menuAperti;
     std::vector<std::string> aiuti;  ///< context and file of each help that was asked for
     std::vector<std::uint32_t> identitaChiuse;  ///< as the closed windows had it at that moment
 
@@ -34,6 +35,7 @@ public:
     }
     void Fuoco(const Controllo& controllo) override { fuochi.push_back(controllo.Name); }
     void Trascina(const Form& form) override { trascinate.push_back(form.Name); }
+    void PopupMenu(const Controllo& menu) override { menuAperti.push_back(menu.Name); }
     void Aiuto(const Form& form, const std::string& file) override {
         aiuti.push_back(std::to_string(form.HelpContextID()) + ' ' + file);
     }
