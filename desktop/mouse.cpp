@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QStyleHints>
 #include <QWidget>
 #include <QWindow>
 
@@ -65,7 +66,7 @@ bool Mouse::eventFilter(QObject*, QEvent* evento) {
         return static_cast<const QMouseEvent&>(*evento);
     };
     switch (evento->type()) {
-        case QEvent::MouseButtonPress: Manda(Fatto::MouseDown, mouse()); return inerte_;
+        case QEvent::MouseButtonPress: return Premi(mouse());
         case QEvent::MouseButtonRelease: return inerte_;
         case QEvent::MouseButtonDblClick: return Raddoppia(mouse());
         case QEvent::MouseMove:
@@ -97,10 +98,21 @@ void Mouse::Esci() const {
     if (vista_.Stato().Ascolta(ascoltaMossa)) vista_.MuoviFinestra();
 }
 
-bool Mouse::Raddoppia(const QMouseEvent& mouse) const {
+bool Mouse::Premi(const QMouseEvent& mouse) {
+    premuto_ = mouse.timestamp();
+    Manda(Fatto::MouseDown, mouse);
+    return inerte_;
+}
+
+bool Mouse::Raddoppia(const QMouseEvent& mouse) {
+    // The second of two quick presses on different controls is the first on its own.
+    const quint64 pausa = mouse.timestamp() - premuto_;
+    const auto quanto =
+        static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
     // A push button knows no double click: each press is a press.
-    const bool bottone = vista_.Origine().tipo == Genere::Bottone;
-    Manda(bottone ? Fatto::MouseDown : Fatto::DblClick, mouse);
+    const Genere tipo = vista_.Origine().tipo;
+    if (tipo == Genere::Bottone || tipo == Genere::Spunta || pausa > quanto) return Premi(mouse);
+    Manda(Fatto::DblClick, mouse);
     return Dipinta(vista_);
 }
 

@@ -26,11 +26,13 @@ private:
     void Manda(Fatto fatto, const QMouseEvent& mouse) const;
     void Muovi(const QMouseEvent& mouse) const;
     void Esci() const;
-    bool Raddoppia(const QMouseEvent& mouse) const;
+    bool Premi(const QMouseEvent& mouse);
+    bool Raddoppia(const QMouseEvent& mouse);
 
     QWidget& widget_;
     const Vista& vista_;
-    const bool inerte_;  ///< the widget itself does nothing with the mouse
+    const bool inerte_;    ///< the widget itself does nothing with the mouse
+    quint64 premuto_ = 0;  ///< when a button last went down on it, in milliseconds
 };
 
 /// Of one native window as a whole. Each button that went down in it comes up, wherever the pointer

@@ -95,5 +95,58 @@ TEST(Mouse, TheReleaseTellsItsPlaceInTheControlAtEverySizeOfTheWindow) {
     }
 }
 
+/// Writes down all that can be done to it with the mouse; to be read when the logic has served.
+void Annota(Controllo& c, Righe& visto) {
+    const auto scrivi = [&visto](const char* cosa) {
+        return [&visto, cosa] { visto.push_back(cosa); };
+    };
+    const auto del = [&visto](const char* cosa) {
+        return [&visto, cosa](const Evento&) { visto.push_back(cosa); };
+    };
+    c.MouseDown = del("down");
+    c.MouseUp = del("up");
+    c.Click = scrivi("click");
+    c.DblClick = scrivi("double click");
+}
+
+const Righe doppio = {"down", "up", "click", "double click", "up"};
+const Righe dueVolte = {"down", "up", "click", "down", "up", "click"};
+
+TEST(Mouse, ADoubleClickIsTheSameOnEveryKindAndTwoClicksOnAButton) {
+    const std::pair<const char*, Righe> generi[] = {{"toccabile", doppio}, {"icona", doppio},
+                                                    {"cornice", doppio},   {"lista", doppio},
+                                                    {"bottone", dueVolte}, {"spunta", dueVolte}};
+    for (const auto& [nome, atteso] : generi) {
+        Righe visto;
+        Palco palco([&, n = nome](FormDiProva& form) {
+            form.dentro.Visible = false;
+            Annota(*form.Trova(n), visto);
+        });
+        QWindow& finestra = *palco.scrivania.Davanti()->Finestra().windowHandle();
+        QTest::mouseDClick(&finestra, Qt::LeftButton, {}, Mezzo(palco, nome));
+        palco.Diario();
+        EXPECT_EQ(visto, atteso) << nome;
+    }
+}
+
+TEST(Mouse, TwoQuickPressesOnTwoControlsAreNoDoubleClick) {
+    Righe sopra, sotto;
+    Palco palco([&](FormDiProva& form) {
+        form.scritta.Top = form.toccabile.Top - form.scritta.Height;
+        Annota(form.scritta, sopra);
+        Annota(form.toccabile, sotto);
+    });
+    const QPoint confine =
+        Mezzo(palco, "scritta") + QPoint(0, Trova(palco.scrivania, "scritta").height() / 2);
+    for (const int passo : {-2, 2}) {
+        Sinistro(palco).Giu(confine + QPoint(0, passo));
+        Sinistro(palco).Su(confine + QPoint(0, passo));
+        QTest::lastMouseTimestamp -= QTest::mouseDoubleClickInterval;
+    }
+    palco.Diario();
+    EXPECT_EQ(sopra, (Righe{"down", "up", "click"}));
+    EXPECT_EQ(sotto, (Righe{"down", "up", "click"}));
+}
+
 }  // namespace
 }  // namespace corvana::prova
