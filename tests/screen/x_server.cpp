@@ -204,6 +204,16 @@ void Schermo::Clicca(Punto dove) {
     Xdotool({"mousemove", std::to_string(dove.x), std::to_string(dove.y), "click", "1"});
 }
 
+void Schermo::Premi(Punto dove, int bottone) {
+    Xdotool({"mousemove", std::to_string(dove.x), std::to_string(dove.y), "mousedown",
+             std::to_string(bottone)});
+}
+
+void Schermo::Lascia(Punto dove, int bottone) {
+    Xdotool({"mousemove", std::to_string(dove.x), std::to_string(dove.y), "mouseup",
+             std::to_string(bottone)});
+}
+
 void Schermo::Batti(const std::string& tasto) {
     Xdotool({"key", tasto});
 }

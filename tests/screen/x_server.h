@@ -60,6 +60,9 @@ public:
     std::vector<std::uint8_t> Immagine(const Rettangolo& dove);
 
     void Clicca(Punto dove);
+    /// One half of a click, with the left button, 1, or the right one, 3.
+    void Premi(Punto dove, int bottone);
+    void Lascia(Punto dove, int bottone);
     void Batti(const std::string& tasto);
     void Sposta(xcb_window_t finestra, Punto dove);
     void Riduci(xcb_window_t finestra);
