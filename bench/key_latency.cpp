@@ -38,7 +38,7 @@ public:
     int midiOutShortMsg(HandleDispositivo, std::uint32_t messaggio) override {
         constexpr std::uint32_t notaAccesa = 0x640090;  // channel 1 at the drill's velocity
         if ((messaggio & 0xFF00FF) != notaAccesa) return 0;
-        const auto& giuste = tavolo_.finestra->RispostaGiusta;
+        const auto& giuste = tavolo_.finestra->esercizio.RispostaGiusta;
         const auto giusta = std::find(giuste.begin(), giuste.end(), true);
         tavolo_.giusta = static_cast<int>(giusta - giuste.begin()) + 1;
         tavolo_.suonata = orologio_.Adesso();

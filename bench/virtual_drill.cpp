@@ -34,5 +34,6 @@ int main() {
     });
     const double durata = Secondi() - inizio;
     std::printf("%-52s %.0f hours a second (%d notes in %.2f s)\n",
-                "automatic drill on the virtual clock", ore / durata, finestra.Mostrate, durata);
+                "automatic drill on the virtual clock", ore / durata,
+                finestra.esercizio.punteggio.Mostrate, durata);
 }

@@ -1,7 +1,9 @@
 #include "trainer/corvana_main.h"
 
 #include "core/language.h"
+#include "trainer/answer_keys.h"
 #include "trainer/main_rows.h"
+#include "trainer/shown_notes.h"
 #include "trainer/state.h"
 
 namespace corvana {
@@ -9,6 +11,8 @@ namespace corvana {
 namespace {
 
 constexpr int aiutoTrainer = 2;
+constexpr Colore rosso = 255;
+constexpr Colore blu = 0xFF0000;
 constexpr double pausaPrimaDellaSigla = 0.5;
 constexpr std::int16_t canaleSigla = 1;
 constexpr std::int32_t canaliConStrumento = 4;
@@ -23,56 +27,52 @@ constexpr const char* avvisoSenzaSuono =
 
 CorvanaMainF::CorvanaMainF(const Ambiente& ambiente, Secondarie secondarie)
     : Form("CorvanaMainF"), a_(ambiente), secondarie_(std::move(secondarie)) {
-    for (const Posizione& p : Posizioni())
-        n.emplace_back(*this, "n" + std::to_string(p.numero), &img);
     DisponiPrincipale(*this);
     HelpContextID = aiutoTrainer;
-    CollegaMenu();
-    CollegaControlli();
-    CollegaHover();
+    hover_.Affonda(cmdEscibg, cmdEsci, rosso, blu);
+    hover_.LasciaSu({this});
+    menu.Esci.Click = cmdEsci.Click = cmdEscibg.Click = [this] { Esci_Click(); };
+    menu.mnuNormale.Click = [this] { mnuNormale_Click(); };
+    menu.mnuAutomatico.Click = [this] { mnuAutomatico_Click(); };
+    menu.Nominote1.Click = [this] { Nominote1_Click(); };
+    menu.Nominote2.Click = [this] { Nominote2_Click(); };
+    menu.mnuIt.Click = [this] { mnuIt_Click(); };
+    menu.mnuEn.Click = [this] { mnuEn_Click(); };
 }
 
-void CorvanaMainF::CollegaControlli() {
-    Start.Click = [this] { Start_Click(); };
-    difficolt.Click = [this] { difficolt_Click(); };
-    Regolo.MouseDown = [this](const Evento& e) { Regolo_MouseDown(e.codice, e.shift, e.x, e.y); };
-    lblMn.Click = [this] { lblMn_Click(); };
-    ShToolbar.Click = [this] { ShToolbar_Click(); };
-    Slider1.Change = [this] { Slider1_Change(); };
-    Slider1.Scroll = [this] { Slider1_Scroll(); };
-    int nome = 0;
-    for (Bottone* bottone : Risposte())
-        bottone->Click = [this, r = ++nome] { DaiRisposta(r); };
-    int numero = 0;
-    for (Figura& bottone : ToolButton)
-        bottone.Click = [this, b = ++numero] { ToolButton_Click(b); };
+BarraStrumenti::Azioni CorvanaMainF::AzioniDellaBarra() {
+    BarraStrumenti::Azioni azioni;
+    if (secondarie_.frmInto) azioni[0] = [this] { ApriInto(a_.globali, secondarie_, 3, 0); };
+    azioni[1] = secondarie_.frmComposer;
+    azioni[2] = secondarie_.metronomo.alterna;
+    azioni[3] = secondarie_.frmOptions;
+    azioni[4] = secondarie_.frmStrum;
+    azioni[5] = [this] { PonModo(menu.mnuNormale.Checked); };
+    azioni[6] = secondarie_.aiuto;
+    return azioni;
 }
 
 void CorvanaMainF::Form_Load() {
     if (FileLinguaEsiste(a_)) UpdateString(a_, *this, BersagliPrincipali());
-    SuonoNota = true;
-    if (a_.globali.NomiAnglo)
-        Nominote2_Click();
-    else
-        Nominote1_Click();
-    for (Controllo* c : {static_cast<Controllo*>(&frmMetro), static_cast<Controllo*>(&frmRisultati),
-                         static_cast<Controllo*>(&Velocità), static_cast<Controllo*>(&Slider1),
-                         static_cast<Controllo*>(&lblAuto1), static_cast<Controllo*>(&lblAuto2)})
-        c->Visible = false;
-    SecondiNota = 2;
-    CaricamentoLista = true;
-    Nascondinote();
+    stato.SuonoNota = true;
+    PonNomiRisposte(a_.globali.NomiAnglo);
+    frmMetro.Visible = false;
+    esercizio.punteggio.frmRisultati.Visible = false;
+    automatico.Mostra(false);
+    stato.SecondiNota = 2;
+    intervalli.CaricamentoLista = true;
+    Nascondinote(*this);
     primaAttivazione_ = true;
-    if (secondarie_.metronomo.carica) secondarie_.metronomo.carica();
+    Apri(secondarie_.metronomo.carica);
     RipristinaStato();
-    AbilitaRisposte(false);
-    DipingiSfondi();
+    risposte.Abilita(false);
+    esercizio.punteggio.Dipingi();
+    barra.Dipingi();
     DisabilitaAssenti();
 }
 
 void CorvanaMainF::Form_Activate() {
-    Nominote1.Checked = !a_.globali.NomiAnglo;
-    Nominote2.Checked = a_.globali.NomiAnglo;
+    menu.SpuntaNomi(a_.globali.NomiAnglo);
     if (primaAttivazione_) PrimaAttivazione();
 }
 
@@ -83,7 +83,7 @@ void CorvanaMainF::PrimaAttivazione() {
     AbilitaComandi(false);
     if (!a_.suono.HandleMidi) ApriSuono();
     AbilitaComandi(true);
-    Start.SetFocus();
+    esercizio.Start.SetFocus();
 }
 
 void CorvanaMainF::ApriSuono() {
@@ -97,26 +97,27 @@ void CorvanaMainF::ApriSuono() {
     a_.riquadri.MsgBox(avviso.empty() ? avvisoSenzaSuono : avviso);
 }
 
-void CorvanaMainF::AbilitaComandi(bool abilita) {
-    Start.Enabled = abilita;
-    mnuRint.Enabled = abilita;
-    Intonazione.Enabled = abilita;
-    cmdEsci.Enabled = abilita;
-    DisabilitaAssenti();
-}
-
 void CorvanaMainF::Form_Unload(bool& Cancel) {
     if (a_.globali.metronomo.MetroAttivo) {
         Cancel = true;
         return;
     }
-    if (Corre()) Start_Click();
+    if (esercizio.Corre()) esercizio.Start_Click();
     // What the program's end cut short has left its notes sounding.
     if (a_.finestre.InChiusura()) a_.suono.Reset();
     if (a_.suono.HandleMidi) a_.suono.ChiudiMidi();
-    a_.impostazioni.ScriviValore("CorvanaLastS",
-                                 ComponiStato({LimiteBasso, LimiteAlto, a_.globali.StrumentoGlobale,
-                                               Slider1.Value, Modo == "automatico"}));
+    a_.impostazioni.ScriviValore(
+        "CorvanaLastS",
+        ComponiStato({stato.LimiteBasso, stato.LimiteAlto, a_.globali.StrumentoGlobale,
+                      automatico.Slider1.Value, stato.Modo == "automatico"}));
+}
+
+void CorvanaMainF::Form_KeyUp(const Evento& tasto) {
+    if (esercizio.Corre()) {
+        if (const auto risposta = RispostaDaTasto(tasto.codice)) esercizio.DaiRisposta(*risposta);
+    } else if (const auto riga = RigaDaTasto(tasto.codice)) {
+        intervalli.difficolt.Seleziona(*riga);
+    }
 }
 
 }  // namespace corvana

@@ -1,126 +1,93 @@
-// A run of questions: its start and end, the answers of normal mode, the score.
-#include <algorithm>
-#include <limits>
+// A run of questions: its start and end, the notes that it asks, the answers of normal mode.
+#include "trainer/drill.h"
 
-#include "core/effects.h"
-#include "core/text.h"
-#include "trainer/answer_keys.h"
-#include "trainer/corvana_main.h"
+#include <utility>
+
+#include "core/notation.h"
+#include "trainer/exercises.h"
+#include "trainer/positions.h"
+#include "trainer/shown_notes.h"
 
 namespace corvana {
 
-namespace {
-constexpr int giorno = 24 * 3600;
-constexpr long massimoContato = std::numeric_limits<std::int32_t>::max() - 1;
-}  // namespace
+Esercizio::Esercizio(Form& finestra, const Ambiente& ambiente, StatoEsercizio& stato,
+                     Etichetta& nome, Legami legami)
+    : finestra_(finestra), a_(ambiente), stato_(stato), nome_(nome), legami_(std::move(legami)) {
+    Start.BackColor = coloreFermo;
+    Start.Click = [this] { Start_Click(); };
+}
 
-void CorvanaMainF::Start_Click() {
+void Esercizio::Start_Click() {
     if (Corre()) {
-        lblnn.Caption = "";
+        nome_.Caption = "";
         return FermaEsercizio();
     }
     Start.Caption = "Stop";
-    Start.BackColor = pdo.BackColor();
-    PonFermo(false);
-    conta.Text = "0";
-    er.Text = "0";
-    PercEs.Text = "0";
-    PonRapporto(1);
-    Nascondinote();
+    Start.BackColor = coloreRisposta;
+    legami_.fermo(false);
+    Nascondinote(finestra_);
     InCorso = true;
     ++corsa_;
-    frmRisultati.Visible = false;
-    Esatte = Errate = Mostrate = 0;
-    OraInizio = a_.pompa.OraDelGiorno();
-    if (Modo == "automatico") return CicloAutomatico();
-    AbilitaRisposte(true);
+    punteggio.Comincia(a_.pompa.OraDelGiorno());
+    if (stato_.Modo == "automatico") return CicloAutomatico();
+    legami_.abilitaRisposte(true);
     Mostranota();
 }
 
-void CorvanaMainF::FermaEsercizio() {
+void Esercizio::FermaEsercizio() {
     Start.Caption = "Start";
-    Start.BackColor = cmdEsci.BackColor();
-    PonFermo(true);
-    PrimoClick = SecondoClick = 0;
+    Start.BackColor = coloreFermo;
+    legami_.fermo(true);
     a_.suono.SuonaNota(-1);
-    AbilitaRisposte(false);
+    legami_.abilitaRisposte(false);
     InCorso = false;
-    Nascondinote();
+    Nascondinote(finestra_);
     Start.Enabled = true;
-    if (Esatte + Errate == 0) return;
-    MostraRisultati();
+    if (punteggio.Esatte + punteggio.Errate == 0) return;
+    punteggio.MostraRisultati(a_.pompa.OraDelGiorno());
     a_.suono.SuonaNota(-1);
 }
 
-void CorvanaMainF::PonFermo(bool fermo) {
-    es.Enabled = fermo;
-    Opzioni.Enabled = fermo;
-    Risorse.Enabled = fermo;
-    f1.Enabled = fermo;
-    Esci.Enabled = fermo;
-    cmdEsci.Enabled = fermo;
-    cmdEscibg.Enabled = fermo;
-    Regolo.Visible = fermo;
+void Esercizio::Mostranota() {
+    Nascondinote(finestra_);
+    do {
+        stato_.NotaCorrente =
+            PosizioneEstratta(a_.casuale.Estrai(), stato_.LimiteBasso, stato_.LimiteAlto);
+    } while (!CercaPosizione(stato_.NotaCorrente));
+    const int risposta = RispostaDi(*CercaPosizione(stato_.NotaCorrente));
+    RispostaGiusta.fill(false);
+    RispostaGiusta.at(static_cast<std::size_t>(risposta - 1)) = true;
+    VisualizzaNota(finestra_, stato_.NotaCorrente);
+    AnnunciaNota();
 }
 
-void CorvanaMainF::MostraRisultati() {
-    const TestiLingua& testi = a_.globali.testi;
-    Lresatte.Caption = testi.TxtRisposteEsatte + std::to_string(Esatte);
-    Lrerrate.Caption = testi.TxtRisposteErrate + std::to_string(Errate);
-    OraFine = a_.pompa.OraDelGiorno();
-    // Minutes and seconds as a time of day has them: whole hours are not told.
-    const int durata = (OraFine - OraInizio + giorno) % giorno;
-    Tempoimp.Caption = testi.TxtTempoImpiegato + std::to_string(durata / 60 % 60) + ":" +
-                       std::to_string(durata % 60) + " mm:ss";
-    frmRisultati.Visible = true;
+void Esercizio::AnnunciaNota() {
+    const std::int16_t valore = CercaPosizione(stato_.NotaCorrente)->valore;
+    nome_.Caption =
+        NomeNota(static_cast<std::int16_t>(valore + scartoIndiceNota), a_.globali.NomiAnglo);
+    if (stato_.SuonoNota)
+        a_.suono.SuonaNota(valore);
+    else
+        SuonaOnda(a_, "rok.wav", sndSenzaPredefinito);
 }
 
-void CorvanaMainF::DaiRisposta(int risposta) {
+void Esercizio::DaiRisposta(int risposta) {
     TastoPremuto.at(static_cast<std::size_t>(risposta - 1)) = true;
     ControllaRisposta(risposta);
 }
 
-void CorvanaMainF::ControllaRisposta(int risposta) {
-    if (Modo != "normale" || !InCorso) return;
+void Esercizio::ControllaRisposta(int risposta) {
+    if (stato_.Modo != "normale" || !InCorso) return;
     const auto indice = static_cast<std::size_t>(risposta - 1);
     if (RispostaGiusta.at(indice) && TastoPremuto.at(indice)) {
-        ++Esatte;
-        conta.Text = std::to_string(NumeroIntero(conta.Text(), 0, massimoContato) + 1);
+        punteggio.Giusta();
         Mostranota();
     } else {
-        SuonaOnda("rko.wav", sndAsincrono);
-        ++Errate;
-        er.Text = std::to_string(Errate);
+        SuonaOnda(a_, "rko.wav", sndAsincrono);
+        punteggio.Sbagliata();
     }
-    const int date = Esatte + Errate;
-    Ridate.Caption = a_.globali.testi.TxtRisposteDate + std::to_string(date);
-    MostraPunteggio(date);
-}
-
-void CorvanaMainF::MostraPunteggio(int risposte) {
-    Percentuale = Percento(Esatte, risposte);
-    Lnmostrate.Caption = a_.globali.testi.TxtPercentuale + Percentuale;
-    PercEs.Text = Percentuale;
-    PonRapporto(static_cast<float>(Esatte) / static_cast<float>(risposte));
-}
-
-void CorvanaMainF::PonRapporto(float rapporto) {
-    // Answers given by hand in an automatic run can outnumber the notes that the clock has shown.
-    Rapporto = std::min(rapporto, 1.0F);
-    ImpostaBarra(PercMet, PercBg, Rapporto, "v");
-}
-
-void CorvanaMainF::AbilitaRisposte(bool abilita) {
-    for (Bottone* bottone : Risposte())
-        bottone->Enabled = abilita;
-}
-
-void CorvanaMainF::Form_KeyUp(const Evento& tasto) {
-    if (Corre()) {
-        if (const auto risposta = RispostaDaTasto(tasto.codice)) DaiRisposta(*risposta);
-    } else if (const auto riga = RigaDaTasto(tasto.codice)) {
-        difficolt.Seleziona(*riga);
-    }
+    punteggio.MostraPunteggio(a_.globali.testi.TxtRisposteDate,
+                              punteggio.Esatte + punteggio.Errate);
 }
 
 }  // namespace corvana

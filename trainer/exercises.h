@@ -1,4 +1,5 @@
-// The exercises of the range list. Stateless; any thread.
+// The ranges that a drill can have: those of the list, and the one between two marks on the ruler.
+// Stateless; any thread.
 #pragma once
 
 #include <array>
@@ -30,6 +31,23 @@ constexpr std::array<RigaEsercizio, 11> righeEsercizio = {{
 
 /// The row of those limits.
 std::optional<int> RigaDaLimiti(int limiteBasso, int limiteAlto);
+
+/// The row that shows the limits at the start: theirs, or the first when they are no range; none
+/// for a range that was marked on the ruler.
+std::optional<int> RigaDiPartenza(int limiteBasso, int limiteAlto);
+
+/// The positions that are marked on the ruler, 0 when not set.
+struct SegniRegolo {
+    std::int16_t PrimoClick = 0;
+    std::int16_t SecondoClick = 0;
+
+    bool Nessuno() const { return PrimoClick == 0 && SecondoClick == 0; }
+    bool Completi() const { return PrimoClick != 0 && SecondoClick != 0; }
+    bool operator==(const SegniRegolo&) const = default;
+};
+
+/// With one mark more. Two that are complete stay as they are.
+SegniRegolo ConSegno(SegniRegolo segni, int posizione);
 
 /// A position drawn from a range by `r`, uniform from 0 to 1: single precision may round the sum up
 /// to the next number, which is never above `limiteAlto` all the same.

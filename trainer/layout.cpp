@@ -2,7 +2,6 @@
 #include <array>
 
 #include "trainer/corvana_main.h"
-#include "trainer/exercises.h"
 
 namespace corvana {
 
@@ -115,44 +114,13 @@ constexpr std::array posti = {
     Posto{"Tempoimp", 180, 1575, 3480, 330, {}, {}, "forte mezzo"},
 };
 
-void DisponiNote(CorvanaMainF& finestra) {
-    constexpr std::array stili = {"maschera", "testa", "acuta"};
-    auto nota = finestra.n.begin();
-    for (const Posizione& p : Posizioni()) {
-        nota->Left = p.left;
-        nota->Top = p.top;
-        nota->Width = p.width;
-        nota->Height = p.height;
-        nota->stile = stili.at(static_cast<std::size_t>(p.specie));
-        ++nota;
-    }
-}
-
 }  // namespace
 
 void DisponiPrincipale(CorvanaMainF& finestra) {
     Disponi(finestra, menu.data(), menu.size());
     Disponi(finestra, posti.data(), posti.size());
-    DisponiNote(finestra);
-    for (const RigaEsercizio& riga : righeEsercizio)
-        finestra.difficolt.AddItem(std::string(riga.testo));
-    finestra.Slider1.Min = 20;
-    finestra.Slider1.Max = 140;
-    finestra.Slider1.Value = 30;
-    for (Casella* casella : {&finestra.conta, &finestra.er, &finestra.PercEs}) {
-        casella->Locked = true;
-        casella->BackColor = Rgb(255, 254, 251);
-    }
-    finestra.cmdEsci.BackColor = Rgb(255, 236, 200);
+    finestra.cmdEsci.BackColor = coloreFermo;
     finestra.cmdEsci.ForeColor = Rgb(0, 0, 255);
-    finestra.Start.BackColor = finestra.cmdEsci.BackColor();
-    for (Bottone* risposta : {&finestra.pdo, &finestra.pre, &finestra.pmi, &finestra.pfa,
-                              &finestra.psol, &finestra.pla, &finestra.psi})
-        risposta->BackColor = Rgb(198, 239, 206);
-    finestra.lblnn.Visible = false;
-    finestra.Shape5.Visible = false;
-    finestra.Shape6.Visible = false;
-    finestra.mnuNormale.Checked = true;
 }
 
 }  // namespace corvana

@@ -76,13 +76,13 @@ TEST_P(TestiNeiControlli, FitInTheMainWindowWithTheLargestNumbers) {
     CorvanaMainF& f = b.finestra;
     UpdateString(b.Tutto(), f, BersagliPrincipali());
     const TestiLingua& testi = b.globali.testi;
-    f.Lresatte.Caption = testi.TxtRisposteEsatte + "10000";
-    f.Lrerrate.Caption = testi.TxtRisposteErrate + "10000";
-    f.Lnmostrate.Caption = testi.TxtPercentuale + "100.00%";
-    f.Tempoimp.Caption = testi.TxtTempoImpiegato + "59:59 mm:ss";
-    f.Velocità.Caption = testi.TxtVelocita + "140";
+    f.esercizio.punteggio.Lresatte.Caption = testi.TxtRisposteEsatte + "10000";
+    f.esercizio.punteggio.Lrerrate.Caption = testi.TxtRisposteErrate + "10000";
+    f.esercizio.punteggio.Lnmostrate.Caption = testi.TxtPercentuale + "100.00%";
+    f.esercizio.punteggio.Tempoimp.Caption = testi.TxtTempoImpiegato + "59:59 mm:ss";
+    f.automatico.Velocità.Caption = testi.TxtVelocita + "140";
     for (const std::string& inizio : {testi.TxtRisposteDate, testi.TxtNoteMostrate}) {
-        f.Ridate.Caption = inizio + "20000";
+        f.esercizio.punteggio.Ridate.Caption = inizio + "20000";
         ControllaFinestra(f);
     }
 }

@@ -109,8 +109,9 @@ TEST(RigheNelleFinestre, TheSeparatorsOfTheRangesStay) {
     BancoProgramma b;
     for (int id = 0; id <= 57; ++id)
         ApplicaRiga(b.globali, std::to_string(id), "x", b.finestra, BersagliPrincipali());
-    for (std::size_t i = 0; i < b.finestra.difficolt.List().size(); ++i)
-        EXPECT_EQ(b.finestra.difficolt.List()[i].front(), i == 4 || i == 9 ? '-' : 'x') << i;
+    for (std::size_t i = 0; i < b.finestra.intervalli.difficolt.List().size(); ++i)
+        EXPECT_EQ(b.finestra.intervalli.difficolt.List()[i].front(), i == 4 || i == 9 ? '-' : 'x')
+            << i;
 }
 
 TEST(RigheNelleFinestre, AnIdOutsideOfTheWindowsSetChangesNothing) {

@@ -148,11 +148,11 @@ TEST(Pulsi, ItsButtonHasTheColourOfAnAnswerWhileItRunsAndOfTheExitAtRest) {
     const auto colore = [&] { return b.metronomo.cmdSSmetro.BackColor(); };
     b.Quando(3.5, [&] { EXPECT_EQ(colore(), b.finestra.cmdEsci.BackColor()); });
     b.Clicca(4, "cmdSSmetro");
-    b.Quando(4.5, [&] { EXPECT_EQ(colore(), b.finestra.pdo.BackColor()); });
+    b.Quando(4.5, [&] { EXPECT_EQ(colore(), b.finestra.risposte.pdo.BackColor()); });
     b.Clicca(5.5, "cmdSSmetro");
     b.Vai(7);
     EXPECT_EQ(colore(), b.finestra.cmdEsci.BackColor());
-    EXPECT_NE(b.finestra.pdo.BackColor(), b.finestra.cmdEsci.BackColor());
+    EXPECT_NE(b.finestra.risposte.pdo.BackColor(), b.finestra.cmdEsci.BackColor());
 }
 
 TEST(Pulsi, WithNoDeviceItIsSilentAndDarkWithoutAWord) {

@@ -11,10 +11,10 @@ TEST(MetronomoEdEsercizio, ANormalDrillIsServedOnceAPulse) {
     b.Clicca(4, "cmdSSmetro");
     b.Clicca(4.5, "Start");
     b.Tasto(5.2, 'D');  // a wrong answer: the draw is n43, SI
-    b.Quando(5.9, [&] { EXPECT_EQ(b.finestra.Errate, 0); });
+    b.Quando(5.9, [&] { EXPECT_EQ(b.punteggio.Errate, 0); });
     b.Vai(6.5);
-    EXPECT_TRUE(b.finestra.InCorso);
-    EXPECT_EQ(b.finestra.Errate, 1);
+    EXPECT_TRUE(b.finestra.esercizio.InCorso);
+    EXPECT_EQ(b.punteggio.Errate, 1);
     EXPECT_EQ(b.Pulsi().size(), 2U);
 }
 
@@ -32,7 +32,7 @@ TEST(MetronomoEdEsercizio, AnAutomaticDrillStartedOnTopSilencesItUntilTheDrillIs
     ASSERT_EQ(pulsi.size(), attesi.size());
     for (std::size_t i = 0; i < attesi.size(); ++i)
         EXPECT_NEAR(pulsi[i].first, attesi[i].first, 1e-9);
-    EXPECT_FALSE(b.finestra.InCorso);
+    EXPECT_FALSE(b.finestra.esercizio.InCorso);
 }
 
 TEST(MetronomoEdEsercizio, AMetronomeStartedInsideAnAutomaticDrillHoldsTheDrillUp) {
@@ -41,12 +41,12 @@ TEST(MetronomoEdEsercizio, AMetronomeStartedInsideAnAutomaticDrillHoldsTheDrillU
     b.Clicca(3.1, "mnuMetro");
     b.Clicca(4, "Start");
     b.Clicca(7, "cmdSSmetro");
-    b.Quando(12, [&] { EXPECT_EQ(b.finestra.Mostrate, 2); });
+    b.Quando(12, [&] { EXPECT_EQ(b.punteggio.Mostrate, 2); });
     b.Clicca(12.5, "cmdSSmetro");
     b.Vai(14.5);
-    EXPECT_EQ(b.finestra.Mostrate, 3);
+    EXPECT_EQ(b.punteggio.Mostrate, 3);
     EXPECT_EQ(b.Pulsi().size(), 6U);
-    EXPECT_TRUE(b.finestra.InCorso);
+    EXPECT_TRUE(b.finestra.esercizio.InCorso);
 }
 
 TEST(MetronomoEdEsercizio, APanelThatTicksCantBeClosedThoughAStoppedDrillHasEnabledTheToolbar) {
@@ -57,7 +57,7 @@ TEST(MetronomoEdEsercizio, APanelThatTicksCantBeClosedThoughAStoppedDrillHasEnab
     b.Clicca(5.5, "Start");
     b.Clicca(6.5, "ToolButton3");
     b.Quando(7.5, [&] {
-        EXPECT_TRUE(b.finestra.Risorse.Enabled());
+        EXPECT_TRUE(b.finestra.menu.Risorse.Enabled());
         EXPECT_TRUE(b.finestra.frmMetro.Visible());
         EXPECT_EQ(b.finestra.HelpContextID(), 8);
     });

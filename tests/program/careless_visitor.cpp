@@ -120,7 +120,7 @@ void Vagabondo::Premi(const std::string& controllo) {
 }
 
 void Vagabondo::RispondiGiusto() {
-    const auto& giuste = banco_->finestra.RispostaGiusta;
+    const auto& giuste = banco_->finestra.esercizio.RispostaGiusta;
     const auto quale = std::find(giuste.begin(), giuste.end(), true) - giuste.begin();
     if (quale == static_cast<std::ptrdiff_t>(giuste.size())) return;
     constexpr std::array bottoni = {"pdo", "pre", "pmi", "pfa", "psol", "pla", "psi"};
@@ -168,15 +168,19 @@ void Vagabondo::Controlla() {
     const CorvanaMainF& f = banco_->finestra;
     Esigi(!m.MetroSequenza.empty() && m.MetroSequenza.size() <= 20, "no pattern");
     Esigi(m.MetroBattito >= 0.15 - 1e-9 && m.MetroBattito <= 3, "a beat out of its bounds");
-    Esigi(f.Start.Caption() == (f.InCorso ? "Stop" : "Start"), "the caption of Start");
-    Esigi(f.Modo == (f.mnuAutomatico.Checked() ? "automatico" : "normale"), "the mode is unclear");
-    Esigi(f.Rapporto >= 0 && f.Rapporto <= 1, "the bar is out of its bounds");
+    Esigi(f.esercizio.Start.Caption() == (f.esercizio.InCorso ? "Stop" : "Start"),
+          "the caption of Start");
+    Esigi(f.stato.Modo == (f.menu.mnuAutomatico.Checked() ? "automatico" : "normale"),
+          "the mode is unclear");
+    Esigi(f.esercizio.punteggio.Rapporto >= 0 && f.esercizio.punteggio.Rapporto <= 1,
+          "the bar is out of its bounds");
     if (m.MetroAttivo)
         Esigi(!banco_->metronomo.cmdSetup.Enabled() && f.frmMetro.Visible(),
               "the set-up is on, or the panel gone, while it ticks");
-    if (f.InCorso) ControllaCorsa();
+    if (f.esercizio.InCorso) ControllaCorsa();
     // Until the opening signal is over some commands rest.
-    if (!f.InCorso && !m.MetroAttivo && banco_->orologio.Adesso() > BancoProgramma::pronta)
+    if (!f.esercizio.InCorso && !m.MetroAttivo &&
+        banco_->orologio.Adesso() > BancoProgramma::pronta)
         ControllaFermo();
 }
 
@@ -190,25 +194,34 @@ void Vagabondo::ControllaRiquadri() {
 void Vagabondo::ControllaCorsa() {
     ++corse;
     const CorvanaMainF& f = banco_->finestra;
-    const bool automatica = f.Mostrate > 0;
-    cambi += automatica && f.Modo == "normale" ? 1 : 0;
-    Esigi(f.Esatte >= 0 && f.Errate >= 0 && f.Mostrate >= 0, "a counter of a run is negative");
-    Esigi(f.er.Text() == std::to_string(f.Errate), "the wrong answers shown");
-    Esigi(!f.frmRisultati.Visible(), "the results of an older run are shown");
-    Esigi(!f.Regolo.Visible(), "the ruler is there in a run");
+    const bool automatica = f.esercizio.punteggio.Mostrate > 0;
+    cambi += automatica && f.stato.Modo == "normale" ? 1 : 0;
+    Esigi(f.esercizio.punteggio.Esatte >= 0 && f.esercizio.punteggio.Errate >= 0 &&
+              f.esercizio.punteggio.Mostrate >= 0,
+          "a counter of a run is negative");
+    Esigi(f.esercizio.punteggio.er.Text() == std::to_string(f.esercizio.punteggio.Errate),
+          "the wrong answers shown");
+    Esigi(!f.esercizio.punteggio.frmRisultati.Visible(), "the results of an older run are shown");
+    Esigi(!f.pentagramma.Regolo.Visible(), "the ruler is there in a run");
     if (automatica) {
-        Esigi(NumeroIntero(f.conta.Text(), 0, 100000) >= f.Mostrate, "the notes shown");
+        Esigi(NumeroIntero(f.esercizio.punteggio.conta.Text(), 0, 100000) >=
+                  f.esercizio.punteggio.Mostrate,
+              "the notes shown");
         return;
     }
-    const int date = f.Esatte + f.Errate;
-    Esigi(f.conta.Text() == std::to_string(f.Esatte), "the right answers shown");
-    Esigi(f.PercEs.Text() == (date ? Percento(f.Esatte, date) : "0"), "the percentage");
+    const int date = f.esercizio.punteggio.Esatte + f.esercizio.punteggio.Errate;
+    Esigi(f.esercizio.punteggio.conta.Text() == std::to_string(f.esercizio.punteggio.Esatte),
+          "the right answers shown");
+    Esigi(f.esercizio.punteggio.PercEs.Text() ==
+              (date ? Percento(f.esercizio.punteggio.Esatte, date) : "0"),
+          "the percentage");
 }
 
 void Vagabondo::ControllaFermo() {
     const CorvanaMainF& f = banco_->finestra;
-    Esigi(f.es.Enabled() && f.Opzioni.Enabled() && f.Risorse.Enabled() && f.f1.Enabled() &&
-              f.Esci.Enabled() && f.cmdEsci.Enabled() && f.Regolo.Visible(),
+    Esigi(f.menu.es.Enabled() && f.menu.Opzioni.Enabled() && f.menu.Risorse.Enabled() &&
+              f.menu.f1.Enabled() && f.menu.Esci.Enabled() && f.cmdEsci.Enabled() &&
+              f.pentagramma.Regolo.Visible(),
           "the idle window isn't whole");
     Esigi(banco_->metronomo.cmdSetup.Enabled() && banco_->metronomo.lblCloseMetro.Enabled(),
           "the idle panel isn't whole");
@@ -219,11 +232,11 @@ bool Vagabondo::DeveCorrere() const {
     if (b.finestre.Davanti() != &b.finestra) return false;
     // Without a device the metronome waits in silence.
     if (b.stato.MetroAttivo) return b.suono.HandleMidi != 0;
-    return b.finestra.InCorso && b.finestra.Mostrate > 0;
+    return b.finestra.esercizio.InCorso && b.punteggio.Mostrate > 0;
 }
 
 Vagabondo::Avanzamento Vagabondo::Ora() const {
-    return {banco_->finestra.Mostrate, banco_->uscita.messaggi.size()};
+    return {banco_->punteggio.Mostrate, banco_->uscita.messaggi.size()};
 }
 
 void Vagabondo::ControllaAttesa() {
@@ -237,7 +250,7 @@ void Vagabondo::ControllaChiusa() {
     ++chiusure;
     Controlla();
     Esigi(!banco_->stato.MetroAttivo, "closed while the metronome ticks");
-    Esigi(!banco_->finestra.InCorso, "closed within a run");
+    Esigi(!banco_->finestra.esercizio.InCorso, "closed within a run");
     Esigi(!banco_->uscita.aperto, "the device stays open");
     // Before it was closed the drill had let go of its notes; only the faint ones behind the low
     // codes, and what the MIDI test has struck, are never let go.

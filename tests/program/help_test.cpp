@@ -88,14 +88,14 @@ TEST(Aiuto, ANormalDrillGoesOnBehindIt) {
     b.Tasto(pronta + 2, vk::f1);
     b.Clicca(pronta + 3, "mnuAiuto");
     b.Quando(pronta + 4, [&b] {
-        EXPECT_TRUE(b.finestra.InCorso);
-        EXPECT_EQ(b.finestra.Esatte + b.finestra.Errate, 0);
+        EXPECT_TRUE(b.finestra.esercizio.InCorso);
+        EXPECT_EQ(b.punteggio.Esatte + b.punteggio.Errate, 0);
     });
     for (const int codice : {68, 97, 70, 98, 71, 99, 72})
         b.Tasto(pronta + 5, codice);
     b.Vai(pronta + 6);
     EXPECT_EQ(b.specchio.aiuti, (Aiuti{trainer, trainer}));
-    EXPECT_EQ(b.finestra.Esatte + b.finestra.Errate, 7);
+    EXPECT_EQ(b.punteggio.Esatte + b.punteggio.Errate, 7);
 }
 
 TEST(Aiuto, AnAutomaticDrillShowsAsManyNotesWithItAsWithout) {
@@ -106,8 +106,8 @@ TEST(Aiuto, AnAutomaticDrillShowsAsManyNotesWithItAsWithout) {
         if (conAiuto) b.Tasto(pronta + 9, vk::f1);
         b.Vai(pronta + 33);
         EXPECT_EQ(b.specchio.aiuti.size(), conAiuto ? 1U : 0U);
-        EXPECT_TRUE(b.finestra.InCorso);
-        return b.finestra.Mostrate;
+        EXPECT_TRUE(b.finestra.esercizio.InCorso);
+        return b.punteggio.Mostrate;
     };
     EXPECT_EQ(mostrate(true), mostrate(false));
     EXPECT_GE(mostrate(true), 15);

@@ -23,9 +23,9 @@ struct BancoModi : BancoProgramma {
 };
 
 void EFermo(const BancoModi& b) {
-    EXPECT_EQ(b.finestra.Start.Caption(), "Start");
-    EXPECT_FALSE(b.finestra.InCorso);
-    EXPECT_TRUE(b.finestra.Opzioni.Enabled());
+    EXPECT_EQ(b.finestra.esercizio.Start.Caption(), "Start");
+    EXPECT_FALSE(b.finestra.esercizio.InCorso);
+    EXPECT_TRUE(b.finestra.menu.Opzioni.Enabled());
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
@@ -43,11 +43,11 @@ TEST(CambioModo, ALoopWhoseRunIsOverLeavesTheCountersOfALaterOneAlone) {
     b.Clicca(13.5, "cmdSSmetro");
     b.Vai(30);
     EFermo(b);
-    EXPECT_EQ(b.finestra.Mostrate, 0);
-    EXPECT_EQ(b.finestra.Esatte, 1);
-    EXPECT_EQ(b.finestra.Errate, 0);
-    EXPECT_EQ(b.finestra.PercEs.Text(), "100.00%");
-    EXPECT_EQ(b.finestra.Tempoimp.Caption(), "0:2 mm:ss");
+    EXPECT_EQ(b.punteggio.Mostrate, 0);
+    EXPECT_EQ(b.punteggio.Esatte, 1);
+    EXPECT_EQ(b.punteggio.Errate, 0);
+    EXPECT_EQ(b.punteggio.PercEs.Text(), "100.00%");
+    EXPECT_EQ(b.punteggio.Tempoimp.Caption(), "0:2 mm:ss");
 }
 
 TEST(CambioModo, ALoopWhoseRunIsOverDoesntPlayALaterRunByTheClock) {
@@ -59,12 +59,12 @@ TEST(CambioModo, ALoopWhoseRunIsOverDoesntPlayALaterRunByTheClock) {
     b.Clicca(10.5, "cmdSSmetro");  // the old loop wakes within the normal run
     b.Clicca(20, "psi");
     b.Vai(40);
-    EXPECT_TRUE(b.finestra.InCorso);
-    EXPECT_EQ(b.finestra.Mostrate, 0);
-    EXPECT_EQ(b.finestra.conta.Text(), "1");
-    EXPECT_EQ(b.finestra.PercEs.Text(), "100.00%");
-    EXPECT_TRUE(b.finestra.psi.Enabled());
-    EXPECT_FALSE(b.finestra.frmRisultati.Visible());
+    EXPECT_TRUE(b.finestra.esercizio.InCorso);
+    EXPECT_EQ(b.punteggio.Mostrate, 0);
+    EXPECT_EQ(b.punteggio.conta.Text(), "1");
+    EXPECT_EQ(b.punteggio.PercEs.Text(), "100.00%");
+    EXPECT_TRUE(b.finestra.risposte.psi.Enabled());
+    EXPECT_FALSE(b.punteggio.frmRisultati.Visible());
 }
 
 TEST(CambioModo, AStoppedRunsLoopTakesNothingFromTheWrongAnswersOfALaterOne) {
@@ -76,8 +76,8 @@ TEST(CambioModo, AStoppedRunsLoopTakesNothingFromTheWrongAnswersOfALaterOne) {
     b.Clicca(10.5, "pdo");  // wrong
     b.Clicca(11.5, "cmdSSmetro");
     b.Vai(14);
-    EXPECT_EQ(b.finestra.Errate, 1);
-    EXPECT_EQ(b.finestra.er.Text(), "1");
+    EXPECT_EQ(b.punteggio.Errate, 1);
+    EXPECT_EQ(b.punteggio.er.Text(), "1");
 }
 
 TEST(CambioModo, RightAnswersByHandInAnAutomaticRunCountAndBringTheNextNote) {
@@ -91,15 +91,15 @@ TEST(CambioModo, RightAnswersByHandInAnAutomaticRunCountAndBringTheNextNote) {
     b.Clicca(7.2, "pdo");
     b.Quando(7.3, [&] {
         EXPECT_EQ(b.casuale.estratti, prima + 2);
-        EXPECT_EQ(b.finestra.Mostrate, 2);
-        EXPECT_EQ(b.finestra.Esatte, 2);
-        EXPECT_EQ(b.finestra.Errate, 1);
-        EXPECT_EQ(b.finestra.conta.Text(), "4");
+        EXPECT_EQ(b.punteggio.Mostrate, 2);
+        EXPECT_EQ(b.punteggio.Esatte, 2);
+        EXPECT_EQ(b.punteggio.Errate, 1);
+        EXPECT_EQ(b.punteggio.conta.Text(), "4");
     });
     b.Vai(8.5);
     EXPECT_TRUE(b.riquadri.messaggi.empty());
-    EXPECT_EQ(b.finestra.Mostrate, 3);
-    EXPECT_EQ(b.finestra.conta.Text(), "3");
+    EXPECT_EQ(b.punteggio.Mostrate, 3);
+    EXPECT_EQ(b.punteggio.conta.Text(), "3");
 }
 
 TEST(CambioModo, TheBarIsFullAtMostThoughAnswersOutnumberTheNotes) {
@@ -108,11 +108,11 @@ TEST(CambioModo, TheBarIsFullAtMostThoughAnswersOutnumberTheNotes) {
     b.Clicca(5.6, "mnuNormale");
     for (int i = 0; i < 9; ++i)
         b.Clicca(6.1 + 0.1 * i, "psi");
-    b.Quando(6.95, [&] { EXPECT_EQ(b.finestra.Mostrate, 2); });
+    b.Quando(6.95, [&] { EXPECT_EQ(b.punteggio.Mostrate, 2); });
     b.Vai(7.1);
-    EXPECT_EQ(b.finestra.PercEs.Text(), "450.00%");
-    EXPECT_EQ(b.finestra.Rapporto, 1);
-    EXPECT_EQ(b.finestra.PercMet.Height(), b.finestra.PercBg.Height());
+    EXPECT_EQ(b.punteggio.PercEs.Text(), "450.00%");
+    EXPECT_EQ(b.punteggio.Rapporto, 1);
+    EXPECT_EQ(b.punteggio.PercMet.Height(), b.punteggio.PercBg.Height());
 }
 
 TEST(CambioModo, TheClockGoesOnThroughAChangeOfModeAndBack) {
@@ -121,12 +121,12 @@ TEST(CambioModo, TheClockGoesOnThroughAChangeOfModeAndBack) {
         b.Batti(4.5, 5.5);
         b.Clicca(5.8, "mnuNormale");
         if (ancheIndietro) b.Clicca(5.9, "mnuAutomatico");
-        b.Quando(6.1, [&] { EXPECT_EQ(b.finestra.Mostrate, 2); });
-        b.Quando(12.1, [&] { EXPECT_EQ(b.finestra.Mostrate, 5); });
+        b.Quando(6.1, [&] { EXPECT_EQ(b.punteggio.Mostrate, 2); });
+        b.Quando(12.1, [&] { EXPECT_EQ(b.punteggio.Mostrate, 5); });
         b.Clicca(13, "Start");
         b.Vai(30);
         EFermo(b);
-        EXPECT_EQ(b.finestra.Mostrate, 5);
+        EXPECT_EQ(b.punteggio.Mostrate, 5);
     }
 }
 
@@ -139,8 +139,8 @@ TEST(CambioModo, AModeChosenBetweenStopAndTheLoopsEndIsntItsOwn) {
     b.Clicca(9.5, "cmdSSmetro");
     b.Vai(20);
     EFermo(b);
-    EXPECT_EQ(b.finestra.Mostrate, 1);
-    EXPECT_EQ(b.finestra.Modo, "normale");
+    EXPECT_EQ(b.punteggio.Mostrate, 1);
+    EXPECT_EQ(b.finestra.stato.Modo, "normale");
 }
 
 TEST(CambioModo, ANormalRunChangedToAutomaticWaitsAndGoesOnInItsOwnMode) {
@@ -150,14 +150,14 @@ TEST(CambioModo, ANormalRunChangedToAutomaticWaitsAndGoesOnInItsOwnMode) {
     b.Clicca(6, "mnuAutomatico");
     b.Clicca(7, "psi");
     b.Tasto(8, 'H');
-    b.Quando(9, [&] { EXPECT_EQ(b.finestra.Esatte, 0); });
+    b.Quando(9, [&] { EXPECT_EQ(b.punteggio.Esatte, 0); });
     b.Clicca(10, "mnuNormale");
     b.Clicca(11, "psi");
     b.Clicca(12, "Start");
     b.Vai(30);
     EFermo(b);
-    EXPECT_EQ(b.finestra.Esatte, 1);
-    EXPECT_TRUE(b.finestra.frmRisultati.Visible());
+    EXPECT_EQ(b.punteggio.Esatte, 1);
+    EXPECT_TRUE(b.punteggio.frmRisultati.Visible());
 }
 
 }  // namespace corvana::prova

@@ -36,7 +36,7 @@ struct Corsa : BancoProgramma {
 private:
     int Colpi() const { return static_cast<int>(Pulsi().size()); }
     void Ricorda() {
-        mostrate_ = finestra.Mostrate;
+        mostrate_ = punteggio.Mostrate;
         colpi_ = Colpi();
     }
     void Esigi(bool vero, const char* cosa) {
@@ -45,23 +45,29 @@ private:
 
     void Controlla() {
         const CorvanaMainF& f = finestra;
-        const bool automatica = f.InCorso && f.Mostrate > 0;
-        const bool avanza = f.Mostrate != mostrate_ || Colpi() != colpi_;
+        const bool automatica = f.esercizio.InCorso && f.esercizio.punteggio.Mostrate > 0;
+        const bool avanza = f.esercizio.punteggio.Mostrate != mostrate_ || Colpi() != colpi_;
         Esigi(riquadri.messaggi.empty(), "a box came");
-        Esigi(f.Start.Caption() == (f.InCorso ? "Stop" : "Start"), "the caption of Start");
+        Esigi(f.esercizio.Start.Caption() == (f.esercizio.InCorso ? "Stop" : "Start"),
+              "the caption of Start");
         Esigi(avanza == (automatica || stato.MetroAttivo), "what is shown doesn't run");
-        Esigi(!f.InCorso || f.conta.Text() == std::to_string(automatica ? f.Mostrate : f.Esatte),
+        Esigi(!f.esercizio.InCorso || f.esercizio.punteggio.conta.Text() ==
+                                          std::to_string(automatica ? f.esercizio.punteggio.Mostrate
+                                                                    : f.esercizio.punteggio.Esatte),
               "the counter");
-        Esigi(!f.InCorso || f.er.Text() == std::to_string(f.Errate), "the wrong answers");
-        Esigi(!f.InCorso || !f.frmRisultati.Visible(), "the results of an older run");
-        if (!f.InCorso && !stato.MetroAttivo) Fermo();
+        Esigi(!f.esercizio.InCorso ||
+                  f.esercizio.punteggio.er.Text() == std::to_string(f.esercizio.punteggio.Errate),
+              "the wrong answers");
+        Esigi(!f.esercizio.InCorso || !f.esercizio.punteggio.frmRisultati.Visible(),
+              "the results of an older run");
+        if (!f.esercizio.InCorso && !stato.MetroAttivo) Fermo();
     }
 
     void Fermo() {
         const CorvanaMainF& f = finestra;
-        Esigi(f.es.Enabled() && f.Opzioni.Enabled() && f.Risorse.Enabled() && f.f1.Enabled() &&
-                  f.Esci.Enabled() && f.cmdEsci.Enabled() && f.Start.Enabled() &&
-                  f.Regolo.Visible(),
+        Esigi(f.menu.es.Enabled() && f.menu.Opzioni.Enabled() && f.menu.Risorse.Enabled() &&
+                  f.menu.f1.Enabled() && f.menu.Esci.Enabled() && f.cmdEsci.Enabled() &&
+                  f.esercizio.Start.Enabled() && f.pentagramma.Regolo.Visible(),
               "the idle window isn't whole");
         Esigi(metronomo.cmdSetup.Enabled() && metronomo.lblCloseMetro.Enabled(),
               "the idle panel isn't whole");
@@ -75,7 +81,7 @@ private:
 
     void SpegniTutto(double t) {
         Quando(t, [this] {
-            if (finestra.InCorso) coda.Aggiungi(Fatta({}, "Start"));
+            if (finestra.esercizio.InCorso) coda.Aggiungi(Fatta({}, "Start"));
         });
         Quando(t + passo, [this] {
             if (stato.MetroAttivo) coda.Aggiungi(Fatta({}, "cmdSSmetro"));

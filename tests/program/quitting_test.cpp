@@ -76,10 +76,10 @@ TEST(Uscita, AnAutomaticRunStops) {
     BancoUscita b;
     b.Clicca(3, "mnuAutomatico");
     b.Clicca(4, "Start");
-    b.Quando(6, [&] { EXPECT_TRUE(b.finestra.InCorso); });
+    b.Quando(6, [&] { EXPECT_TRUE(b.finestra.esercizio.InCorso); });
     b.EsciA(7.5);
     EXPECT_TRUE(b.Stato().ends_with("a")) << b.Stato();
-    EXPECT_FALSE(b.finestra.InCorso);
+    EXPECT_FALSE(b.finestra.esercizio.InCorso);
 }
 
 TEST(Uscita, ARunOfAnswersStops) {
@@ -87,7 +87,7 @@ TEST(Uscita, ARunOfAnswersStops) {
     b.Clicca(3, "Start");
     b.EsciA(7);
     EXPECT_EQ(b.Stato(), StatoIniziale());
-    EXPECT_FALSE(b.finestra.InCorso);
+    EXPECT_FALSE(b.finestra.esercizio.InCorso);
 }
 
 TEST(Uscita, AMetronomeBesideARunStopsWithIt) {
@@ -96,9 +96,9 @@ TEST(Uscita, AMetronomeBesideARunStopsWithIt) {
     b.Clicca(3.1, "mnuMetro");
     b.Clicca(4, "Start");
     b.Clicca(5, "cmdSSmetro");
-    b.Quando(8, [&] { EXPECT_TRUE(b.finestra.InCorso && b.stato.MetroAttivo); });
+    b.Quando(8, [&] { EXPECT_TRUE(b.finestra.esercizio.InCorso && b.stato.MetroAttivo); });
     b.EsciA(9.4);
-    EXPECT_FALSE(b.finestra.InCorso || b.stato.MetroAttivo);
+    EXPECT_FALSE(b.finestra.esercizio.InCorso || b.stato.MetroAttivo);
     EXPECT_FALSE(b.Stato().empty());
 }
 

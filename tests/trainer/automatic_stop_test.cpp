@@ -32,9 +32,9 @@ struct BancoFermata : BancoPrincipale {
 };
 
 void EFerma(const BancoFermata& b) {
-    EXPECT_EQ(b.finestra.Start.Caption(), "Start");
-    EXPECT_FALSE(b.finestra.InCorso);
-    EXPECT_TRUE(b.finestra.es.Enabled());
+    EXPECT_EQ(b.finestra.esercizio.Start.Caption(), "Start");
+    EXPECT_FALSE(b.finestra.esercizio.InCorso);
+    EXPECT_TRUE(b.finestra.menu.es.Enabled());
     EXPECT_TRUE(b.NoteInVista().empty());
 }
 
@@ -46,10 +46,10 @@ TEST(FermataAutomatica, AStopInTheMiddleOfANoteEndsTheRun) {
     b.Clicca(6, "Start");
     b.Vai(20);
     EFerma(b);
-    EXPECT_EQ(b.finestra.Errate, 1);
-    EXPECT_EQ(b.finestra.Mostrate, 2);
-    EXPECT_TRUE(b.finestra.frmRisultati.Visible());
-    EXPECT_EQ(b.finestra.Lrerrate.Caption(), "1");
+    EXPECT_EQ(b.punteggio.Errate, 1);
+    EXPECT_EQ(b.punteggio.Mostrate, 2);
+    EXPECT_TRUE(b.punteggio.frmRisultati.Visible());
+    EXPECT_EQ(b.punteggio.Lrerrate.Caption(), "1");
     EXPECT_TRUE(b.uscita.NoteAccese().empty());
 }
 
@@ -67,10 +67,10 @@ TEST(FermataAutomatica, AStopJustAsTheTimeRunsOutTakesOneFromTheWrongAnswersAndB
     b.Clicca(5, "Start");
     b.Vai(20);
     EFerma(b);
-    EXPECT_EQ(b.finestra.Errate, 0);
-    EXPECT_EQ(b.finestra.Mostrate, 1);
-    EXPECT_TRUE(b.finestra.frmRisultati.Visible());
-    EXPECT_EQ(b.finestra.Lrerrate.Caption(), "1");
+    EXPECT_EQ(b.punteggio.Errate, 0);
+    EXPECT_EQ(b.punteggio.Mostrate, 1);
+    EXPECT_TRUE(b.punteggio.frmRisultati.Visible());
+    EXPECT_EQ(b.punteggio.Lrerrate.Caption(), "1");
     EXPECT_EQ(b.Spegnimenti(5), 2);
 }
 
@@ -78,11 +78,11 @@ TEST(FermataAutomatica, AStopJustAsTheTimeRunsOutWithoutAnAnswerLeavesMinusOneAn
     BancoFermata b;
     b.Clicca(5, "Start");
     b.Clicca(6, "Start");
-    b.Quando(5.5, [&] { EXPECT_EQ(b.finestra.Errate, -1); });
+    b.Quando(5.5, [&] { EXPECT_EQ(b.punteggio.Errate, -1); });
     b.Vai(6.5);
-    EXPECT_FALSE(b.finestra.frmRisultati.Visible());
-    EXPECT_EQ(b.finestra.Errate, 0);
-    EXPECT_EQ(b.finestra.er.Text(), "0");
+    EXPECT_FALSE(b.punteggio.frmRisultati.Visible());
+    EXPECT_EQ(b.punteggio.Errate, 0);
+    EXPECT_EQ(b.punteggio.er.Text(), "0");
 }
 
 TEST(FermataAutomatica, StoppedBeforeAnyAnswerItShowsNoPanel) {
@@ -90,8 +90,8 @@ TEST(FermataAutomatica, StoppedBeforeAnyAnswerItShowsNoPanel) {
     b.Clicca(4, "Start");
     b.Vai(20);
     EFerma(b);
-    EXPECT_FALSE(b.finestra.frmRisultati.Visible());
-    EXPECT_EQ(b.finestra.lblnn.Caption(), "");
+    EXPECT_FALSE(b.punteggio.frmRisultati.Visible());
+    EXPECT_EQ(b.finestra.pentagramma.lblnn.Caption(), "");
 }
 
 TEST(FermataAutomatica, EscEndsTheRun) {
@@ -100,8 +100,8 @@ TEST(FermataAutomatica, EscEndsTheRun) {
     b.Premi(6, 27);
     b.Vai(20);
     EFerma(b);
-    EXPECT_TRUE(b.finestra.frmRisultati.Visible());
-    EXPECT_EQ(b.finestra.Errate, 0);
+    EXPECT_TRUE(b.punteggio.frmRisultati.Visible());
+    EXPECT_EQ(b.punteggio.Errate, 0);
 }
 
 TEST(FermataAutomatica, WithEscHeldANewRunEndsAtOnce) {
@@ -110,7 +110,7 @@ TEST(FermataAutomatica, WithEscHeldANewRunEndsAtOnce) {
     b.Clicca(5, "Start");
     b.Vai(20);
     EFerma(b);
-    EXPECT_EQ(b.finestra.Mostrate, 1);
+    EXPECT_EQ(b.punteggio.Mostrate, 1);
 }
 
 TEST(FermataAutomatica, AKeyHeldAtTheStopMayStillAnswer) {
@@ -119,7 +119,7 @@ TEST(FermataAutomatica, AKeyHeldAtTheStopMayStillAnswer) {
     b.Clicca(4, "Start");
     b.Vai(20);
     EFerma(b);
-    EXPECT_EQ(b.finestra.Esatte, 1);
+    EXPECT_EQ(b.punteggio.Esatte, 1);
 }
 
 TEST(FermataAutomatica, TheNextRunStartsAfresh) {
@@ -128,23 +128,23 @@ TEST(FermataAutomatica, TheNextRunStartsAfresh) {
     b.Clicca(6, "Start");
     b.Clicca(8, "Start");
     b.Vai(9);
-    EXPECT_EQ(b.finestra.Mostrate, 1);
-    EXPECT_EQ(b.finestra.Errate, 0);
-    EXPECT_TRUE(b.finestra.InCorso);
-    EXPECT_FALSE(b.finestra.frmRisultati.Visible());
+    EXPECT_EQ(b.punteggio.Mostrate, 1);
+    EXPECT_EQ(b.punteggio.Errate, 0);
+    EXPECT_TRUE(b.finestra.esercizio.InCorso);
+    EXPECT_FALSE(b.punteggio.frmRisultati.Visible());
 }
 
 TEST(FermataAutomatica, AStopAndAStartDeliveredTogetherLeaveOneRun) {
     BancoFermata b;
     b.Insieme(4, {{Fatto::Click, "Start"}, {Fatto::Click, "Start"}});
     b.Quando(7, [&] {
-        EXPECT_TRUE(b.finestra.InCorso);
-        EXPECT_EQ(b.finestra.Mostrate, 2);
+        EXPECT_TRUE(b.finestra.esercizio.InCorso);
+        EXPECT_EQ(b.punteggio.Mostrate, 2);
     });
     b.Clicca(7, "Start");
     b.Vai(30);
     EFerma(b);
-    EXPECT_EQ(b.finestra.Mostrate, 2);
+    EXPECT_EQ(b.punteggio.Mostrate, 2);
 }
 
 TEST(FermataAutomatica, AStopANewModeAndAStartDeliveredTogetherLeaveANormalRun) {
@@ -152,10 +152,10 @@ TEST(FermataAutomatica, AStopANewModeAndAStartDeliveredTogetherLeaveANormalRun) 
     b.Insieme(4, {{Fatto::Click, "Start"}, {Fatto::Click, "mnuNormale"}, {Fatto::Click, "Start"}});
     b.Tasto(10, 'H');
     b.Vai(30);
-    EXPECT_TRUE(b.finestra.InCorso);
-    EXPECT_EQ(b.finestra.Mostrate, 0);
-    EXPECT_EQ(b.finestra.Esatte, 1);
-    EXPECT_EQ(b.finestra.conta.Text(), "1");
+    EXPECT_TRUE(b.finestra.esercizio.InCorso);
+    EXPECT_EQ(b.punteggio.Mostrate, 0);
+    EXPECT_EQ(b.punteggio.Esatte, 1);
+    EXPECT_EQ(b.punteggio.conta.Text(), "1");
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
@@ -164,7 +164,7 @@ TEST(FermataAutomatica, ClosingTheWindowStopsTheRunFirstAndStoresTheState) {
     b.Tieni(3.5, 4, 'H');
     b.Chiudi(6);
     EXPECT_FALSE(b.Avvia());
-    EXPECT_EQ(b.finestra.Start.Caption(), "Start");
+    EXPECT_EQ(b.finestra.esercizio.Start.Caption(), "Start");
     EXPECT_EQ(b.suono.HandleMidi, 0);
     EXPECT_EQ(b.uscita.chiusure, 1);
     EXPECT_TRUE(b.uscita.NoteAccese().empty());
@@ -177,7 +177,7 @@ TEST(FermataAutomatica, ClosingJustAsTheTimeRunsOutIsTheSame) {
     BancoFermata b;
     b.Chiudi(5);
     EXPECT_FALSE(b.Avvia());
-    EXPECT_EQ(b.finestra.Mostrate, 1);
+    EXPECT_EQ(b.punteggio.Mostrate, 1);
     EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_EQ(b.suono.HandleMidi, 0);
 }
@@ -191,14 +191,14 @@ TEST(Inceppo, AFailedMessagesBoxBlocksTheDrillAndThenItGoesOn) {
     };
     b.Premi(6, 'H');  // while the box is up
     b.Quando(8.4, [&] {
-        EXPECT_EQ(b.finestra.Mostrate, 1);
-        EXPECT_EQ(b.finestra.Esatte, 0);
+        EXPECT_EQ(b.punteggio.Mostrate, 1);
+        EXPECT_EQ(b.punteggio.Esatte, 0);
     });
     b.Vai(9);
     EXPECT_EQ(b.riquadri.messaggi, std::vector<std::string>{"Operation:ShortMsg\r\nerror text 67"});
-    EXPECT_EQ(b.finestra.Mostrate, 3);  // the time of the second ran out behind the box
-    EXPECT_EQ(b.finestra.Esatte, 2);
-    EXPECT_TRUE(b.finestra.InCorso);
+    EXPECT_EQ(b.punteggio.Mostrate, 3);  // the time of the second ran out behind the box
+    EXPECT_EQ(b.punteggio.Esatte, 2);
+    EXPECT_TRUE(b.finestra.esercizio.InCorso);
 }
 
 TEST(Inceppo, AStopClickedBehindTheBoxCountsWhenTheBoxIsGone) {
@@ -211,14 +211,14 @@ TEST(Inceppo, AStopClickedBehindTheBoxCountsWhenTheBoxIsGone) {
     b.Clicca(5.5, "Start");
     b.Vai(20);
     EFerma(b);
-    EXPECT_EQ(b.finestra.Mostrate, 2);
+    EXPECT_EQ(b.punteggio.Mostrate, 2);
 }
 
 TEST(Inceppo, WithoutADeviceEachNoteShowsItsBoxesAndTheDrillGoesOn) {
     BancoFermata b;
     b.uscita.esitoOpen = 4;
     b.Vai(8);
-    EXPECT_EQ(b.finestra.Mostrate, 3);
+    EXPECT_EQ(b.punteggio.Mostrate, 3);
     // The open, then a note off and a note on for each of the three notes.
     ASSERT_EQ(b.riquadri.messaggi.size(), 7U);
     EXPECT_EQ(b.riquadri.messaggi.front(), "Operation:Open\r\nerror text 4");

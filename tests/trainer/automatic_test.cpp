@@ -29,21 +29,21 @@ struct BancoAutomatico : BancoPrincipale {
 
 TEST(ModoAutomatico, NotesChangeByTheClockAndTheCounterCountsThem) {
     BancoAutomatico b;
-    b.Quando(4.999, [&] { EXPECT_EQ(b.finestra.conta.Text(), "1"); });
-    b.Quando(5.001, [&] { EXPECT_EQ(b.finestra.conta.Text(), "2"); });
+    b.Quando(4.999, [&] { EXPECT_EQ(b.punteggio.conta.Text(), "1"); });
+    b.Quando(5.001, [&] { EXPECT_EQ(b.punteggio.conta.Text(), "2"); });
     b.Vai(3 + 2 * 100 + 1);
-    EXPECT_EQ(b.finestra.Mostrate, 101);
-    EXPECT_EQ(b.finestra.conta.Text(), "101");
+    EXPECT_EQ(b.punteggio.Mostrate, 101);
+    EXPECT_EQ(b.punteggio.conta.Text(), "101");
 }
 
 TEST(ModoAutomatico, ANoteWithoutAKeyGivesNoSoundAndNoCountButLowersTheScore) {
     BancoAutomatico b;
     b.Tieni(3.5, 4, 'H');
     b.Vai(10);
-    EXPECT_EQ(b.finestra.Mostrate, 4);
-    EXPECT_EQ(b.finestra.Esatte, 1);
-    EXPECT_EQ(b.finestra.PercEs.Text(), "25.00%");
-    EXPECT_EQ(b.finestra.er.Text(), "0");
+    EXPECT_EQ(b.punteggio.Mostrate, 4);
+    EXPECT_EQ(b.punteggio.Esatte, 1);
+    EXPECT_EQ(b.punteggio.PercEs.Text(), "25.00%");
+    EXPECT_EQ(b.punteggio.er.Text(), "0");
     EXPECT_EQ(b.Onde(), Nomi{"rok.wav"});
     EXPECT_EQ(b.uscita.onde[0].flags, 0x20001U);
 }
@@ -53,9 +53,9 @@ TEST(ModoAutomatico, AWrongAndThenARightKeyOnOneNoteAreOneWrongAnswer) {
     b.Tieni(3.5, 3.7, 'D');
     b.Tieni(4, 4.2, 'H');
     b.Vai(4.5);
-    EXPECT_EQ(b.finestra.Errate, 1);
-    EXPECT_EQ(b.finestra.Esatte, 0);
-    EXPECT_EQ(b.finestra.er.Text(), "1");
+    EXPECT_EQ(b.punteggio.Errate, 1);
+    EXPECT_EQ(b.punteggio.Esatte, 0);
+    EXPECT_EQ(b.punteggio.er.Text(), "1");
     EXPECT_EQ(b.Onde(), Nomi{"rko.wav"});
 }
 
@@ -68,8 +68,8 @@ TEST(ModoAutomatico, EachOfTheElevenKeysGivesItsAnswer) {
         b.Estrai(posizione, 43, 53);
         b.Tieni(3.5, 4, codice);
         b.Vai(4.5);
-        EXPECT_EQ(b.finestra.Esatte, 1) << codice;
-        EXPECT_EQ(b.finestra.Errate, 0) << codice;
+        EXPECT_EQ(b.punteggio.Esatte, 1) << codice;
+        EXPECT_EQ(b.punteggio.Errate, 0) << codice;
     }
 }
 
@@ -81,7 +81,7 @@ TEST(ModoAutomatico, NoOtherKeyIsAnAnswerTheMainFiguresNeither) {
         BancoAutomatico b;
         b.Tieni(3.5, 4, codice);
         b.Vai(4.5);
-        EXPECT_EQ(b.finestra.Esatte + b.finestra.Errate, 0) << codice;
+        EXPECT_EQ(b.punteggio.Esatte + b.punteggio.Errate, 0) << codice;
     }
 }
 
@@ -91,15 +91,15 @@ TEST(ModoAutomatico, OfTwoKeysHeldTheFirstInItsOrderCounts) {
     b.Premi(2.9, 97);
     b.Premi(2.9, 'H');
     b.Vai(4);
-    EXPECT_EQ(b.finestra.Errate, 1);
-    EXPECT_EQ(b.finestra.Esatte, 0);
+    EXPECT_EQ(b.punteggio.Errate, 1);
+    EXPECT_EQ(b.punteggio.Esatte, 0);
 }
 
 TEST(ModoAutomatico, AKeyHeldFromTheNoteBeforeCountsAtOnce) {
     BancoAutomatico b;
     b.Tieni(4.5, 6, 'H');
     b.Vai(6.5);
-    EXPECT_EQ(b.finestra.Esatte, 2);
+    EXPECT_EQ(b.punteggio.Esatte, 2);
     ASSERT_EQ(b.uscita.onde.size(), 2U);
     EXPECT_DOUBLE_EQ(b.uscita.onde[0].istante, 4.5);
     EXPECT_DOUBLE_EQ(b.uscita.onde[1].istante, 5);
@@ -115,8 +115,8 @@ TEST(ModoAutomatico, RepeatedPressesOfAHeldKeyGiveOneAnswerToEachNote) {
     for (double t = 4; t < 8.5; t += 0.03)
         b.Manda(t, e, "");
     b.Vai(8.6);
-    EXPECT_EQ(b.finestra.Mostrate, 3);
-    EXPECT_EQ(b.finestra.Esatte, 3);
+    EXPECT_EQ(b.punteggio.Mostrate, 3);
+    EXPECT_EQ(b.punteggio.Esatte, 3);
 }
 
 TEST(ModoAutomatico, LosingTheKeyboardLetsGoOfTheHeldKey) {
@@ -124,9 +124,9 @@ TEST(ModoAutomatico, LosingTheKeyboardLetsGoOfTheHeldKey) {
     b.Premi(4, 'H');
     b.Fa(4.5, Fatto::FuocoPerso, "");
     b.Vai(9.5);
-    EXPECT_EQ(b.finestra.Mostrate, 4);
-    EXPECT_EQ(b.finestra.Esatte, 1);
-    EXPECT_EQ(b.finestra.Errate, 0);
+    EXPECT_EQ(b.punteggio.Mostrate, 4);
+    EXPECT_EQ(b.punteggio.Esatte, 1);
+    EXPECT_EQ(b.punteggio.Errate, 0);
 }
 
 TEST(ModoAutomatico, AKeyPressedAgainIsNoSecondAnswer) {
@@ -134,8 +134,8 @@ TEST(ModoAutomatico, AKeyPressedAgainIsNoSecondAnswer) {
     b.Tieni(3.5, 3.6, 'H');
     b.Tieni(3.8, 3.9, 'H');
     b.Vai(4);
-    EXPECT_EQ(b.finestra.Esatte, 1);
-    EXPECT_EQ(b.finestra.Errate, 0);
+    EXPECT_EQ(b.punteggio.Esatte, 1);
+    EXPECT_EQ(b.punteggio.Errate, 0);
 }
 
 TEST(ModoAutomatico, TheButtonsDontAnswer) {
@@ -143,8 +143,8 @@ TEST(ModoAutomatico, TheButtonsDontAnswer) {
     for (const char* bottone : {"pdo", "psi"})
         b.Clicca(4, bottone);
     b.Vai(4.5);
-    EXPECT_EQ(b.finestra.Esatte + b.finestra.Errate, 0);
-    EXPECT_FALSE(b.finestra.psi.Enabled());
+    EXPECT_EQ(b.punteggio.Esatte + b.punteggio.Errate, 0);
+    EXPECT_FALSE(b.finestra.risposte.psi.Enabled());
 }
 
 TEST(ModoAutomatico, TheScoreIsShownBehindItsTexts) {
@@ -155,34 +155,34 @@ TEST(ModoAutomatico, TheScoreIsShownBehindItsTexts) {
     });
     b.Tieni(3.5, 4, 'H');
     b.Vai(6);
-    EXPECT_EQ(b.finestra.Ridate.Caption(), "note 2");
-    EXPECT_EQ(b.finestra.Lnmostrate.Caption(), "perc 50.00%");
-    EXPECT_EQ(b.finestra.PercMet.Height(), b.finestra.PercBg.Height() / 2);
-    EXPECT_FLOAT_EQ(b.finestra.Rapporto, 0.5F);
+    EXPECT_EQ(b.punteggio.Ridate.Caption(), "note 2");
+    EXPECT_EQ(b.punteggio.Lnmostrate.Caption(), "perc 50.00%");
+    EXPECT_EQ(b.punteggio.PercMet.Height(), b.punteggio.PercBg.Height() / 2);
+    EXPECT_FLOAT_EQ(b.punteggio.Rapporto, 0.5F);
 }
 
 TEST(ModoAutomatico, AFasterSliderAppliesToTheNoteThatStands) {
     BancoAutomatico b;
     b.Slitta(4, 120);  // half a second, which has passed
-    b.Quando(4.001, [&] { EXPECT_EQ(b.finestra.Mostrate, 2); });
-    b.Quando(4.501, [&] { EXPECT_EQ(b.finestra.Mostrate, 3); });
+    b.Quando(4.001, [&] { EXPECT_EQ(b.punteggio.Mostrate, 2); });
+    b.Quando(4.501, [&] { EXPECT_EQ(b.punteggio.Mostrate, 3); });
     b.Vai(5);
 }
 
 TEST(ModoAutomatico, ASlowerSliderAppliesToTheNoteThatStands) {
     BancoAutomatico b;
     b.Slitta(4, 20);  // three seconds
-    b.Quando(5.999, [&] { EXPECT_EQ(b.finestra.Mostrate, 1); });
+    b.Quando(5.999, [&] { EXPECT_EQ(b.punteggio.Mostrate, 1); });
     b.Vai(6.001);
-    EXPECT_EQ(b.finestra.Mostrate, 2);
+    EXPECT_EQ(b.punteggio.Mostrate, 2);
 }
 
 TEST(ModoAutomatico, TheSliderOnItsWayCountsToo) {
     BancoAutomatico b;
     b.Fa(3.5, Fatto::Scroll, "Slider1", 60);
     b.Vai(4.001);
-    EXPECT_EQ(b.finestra.Mostrate, 2);
-    EXPECT_DOUBLE_EQ(b.finestra.SecondiNota, 1);
+    EXPECT_EQ(b.punteggio.Mostrate, 2);
+    EXPECT_DOUBLE_EQ(b.finestra.stato.SecondiNota, 1);
 }
 
 TEST(ModoAutomatico, WithThePlainCueARightAnswerAndANewNoteSoundTheSame) {
@@ -206,9 +206,9 @@ TEST(ModoAutomatico, ThreeHoursOfItCountEveryNote) {
         b.Tieni(3.2 + i, 3.4 + i, 'D');
     b.Clicca(3.5 + ore * 3600, "Start");
     b.Vai(4 + ore * 3600);
-    EXPECT_EQ(b.finestra.Mostrate, ore * 3600 + 1);
-    EXPECT_EQ(b.finestra.Esatte + b.finestra.Errate, ore * 900);
-    EXPECT_EQ(b.finestra.Tempoimp.Caption(), "0:0 mm:ss");
+    EXPECT_EQ(b.punteggio.Mostrate, ore * 3600 + 1);
+    EXPECT_EQ(b.punteggio.Esatte + b.punteggio.Errate, ore * 900);
+    EXPECT_EQ(b.punteggio.Tempoimp.Caption(), "0:0 mm:ss");
     EXPECT_TRUE(b.uscita.NoteAccese().empty());
 }
 

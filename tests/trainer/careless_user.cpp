@@ -155,28 +155,36 @@ void UtenteDistratto::Esigi(bool vero, const char* cosa) {
 
 void UtenteDistratto::Controlla() {
     const CorvanaMainF& f = programma_->finestra;
-    Esigi(std::count(f.RispostaGiusta.begin(), f.RispostaGiusta.end(), true) <= 1,
-          "two answers are right");
-    Esigi(f.Start.Caption() == (f.InCorso ? "Stop" : "Start"), "the caption of Start is wrong");
-    Esigi(f.Esatte >= 0 && f.Mostrate >= 0, "a counter is negative");
+    Esigi(
+        std::count(f.esercizio.RispostaGiusta.begin(), f.esercizio.RispostaGiusta.end(), true) <= 1,
+        "two answers are right");
+    Esigi(f.esercizio.Start.Caption() == (f.esercizio.InCorso ? "Stop" : "Start"),
+          "the caption of Start is wrong");
+    Esigi(f.esercizio.punteggio.Esatte >= 0 && f.esercizio.punteggio.Mostrate >= 0,
+          "a counter is negative");
     // A stop just as a note's time runs out takes one away, which no panel tells.
-    Esigi(f.Errate >= (f.InCorso ? 0 : -1), "the wrong answers are fewer than none");
-    Esigi(f.Lrerrate.Caption().find('-') == std::string::npos, "a panel tells less than none");
-    Esigi(f.Rapporto >= 0 && f.Rapporto <= 1, "the bar is out of its bounds");
-    Esigi(f.Slider1.Value() >= 20 && f.Slider1.Value() <= 140, "the slider is out of its bounds");
-    Esigi(f.Modo == (f.mnuAutomatico.Checked() ? "automatico" : "normale"), "the mode is unclear");
-    if (f.InCorso) ControllaCorsa();
+    Esigi(f.esercizio.punteggio.Errate >= (f.esercizio.InCorso ? 0 : -1),
+          "the wrong answers are fewer than none");
+    Esigi(f.esercizio.punteggio.Lrerrate.Caption().find('-') == std::string::npos,
+          "a panel tells less than none");
+    Esigi(f.esercizio.punteggio.Rapporto >= 0 && f.esercizio.punteggio.Rapporto <= 1,
+          "the bar is out of its bounds");
+    Esigi(f.automatico.Slider1.Value() >= 20 && f.automatico.Slider1.Value() <= 140,
+          "the slider is out of its bounds");
+    Esigi(f.stato.Modo == (f.menu.mnuAutomatico.Checked() ? "automatico" : "normale"),
+          "the mode is unclear");
+    if (f.esercizio.InCorso) ControllaCorsa();
     ControllaRiquadri();
 }
 
 void UtenteDistratto::ControllaCorsa() {
     ++corse;
     const CorvanaMainF& f = programma_->finestra;
-    Esigi(!f.es.Enabled() && !f.Opzioni.Enabled() && !f.Risorse.Enabled() && !f.f1.Enabled() &&
-              !f.cmdEsci.Enabled() && !f.Regolo.Visible(),
+    Esigi(!f.menu.es.Enabled() && !f.menu.Opzioni.Enabled() && !f.menu.Risorse.Enabled() &&
+              !f.menu.f1.Enabled() && !f.cmdEsci.Enabled() && !f.pentagramma.Regolo.Visible(),
           "a running drill leaves something enabled");
-    Esigi(!f.frmRisultati.Visible(), "the results of an older run are shown");
-    Esigi(CercaPosizione(f.NotaCorrente), "no note stands");
+    Esigi(!f.esercizio.punteggio.frmRisultati.Visible(), "the results of an older run are shown");
+    Esigi(CercaPosizione(f.stato.NotaCorrente), "no note stands");
     // The help menu stays on during a run, and so the about box may open over one.
     Esigi(programma_->finestre.Davanti() != &programma_->finta, "a window opened over a run");
 }
@@ -191,7 +199,7 @@ void UtenteDistratto::ControllaChiusa() {
     ++chiusure;
     Controlla();
     Programma& p = *programma_;
-    Esigi(!p.finestra.InCorso, "closed within a run");
+    Esigi(!p.finestra.esercizio.InCorso, "closed within a run");
     Esigi(!p.uscita.aperto || p.uscita.esitoClose, "the device stays open");
     // Before the device was closed the drill had let go of its notes; only the faint ones behind
     // the low codes are never let go.

@@ -27,10 +27,10 @@ TEST(ModoNormale, AWrongKeyThreeTimesThenTheRightOneGives25Percent) {
         b.Tasto(4 + i, 'D');
     b.Tasto(8, 'H');
     b.Vai(9);
-    EXPECT_EQ(b.finestra.Errate, 3);
-    EXPECT_EQ(b.finestra.Esatte, 1);
-    EXPECT_EQ(b.finestra.er.Text(), "3");
-    EXPECT_EQ(b.finestra.PercEs.Text(), "25.00%");
+    EXPECT_EQ(b.punteggio.Errate, 3);
+    EXPECT_EQ(b.punteggio.Esatte, 1);
+    EXPECT_EQ(b.punteggio.er.Text(), "3");
+    EXPECT_EQ(b.punteggio.PercEs.Text(), "25.00%");
 }
 
 TEST(ModoNormale, TheCounterCountsRightAnswers) {
@@ -38,9 +38,9 @@ TEST(ModoNormale, TheCounterCountsRightAnswers) {
     for (const char tasto : {'H', 'H', 'D', 'H'})
         b.Tasto(4, tasto);
     b.Vai(5);
-    EXPECT_EQ(b.finestra.conta.Text(), "3");
-    EXPECT_EQ(b.finestra.er.Text(), "1");
-    EXPECT_EQ(b.finestra.Mostrate, 0);
+    EXPECT_EQ(b.punteggio.conta.Text(), "3");
+    EXPECT_EQ(b.punteggio.er.Text(), "1");
+    EXPECT_EQ(b.punteggio.Mostrate, 0);
 }
 
 TEST(ModoNormale, EachOfTheSevenKeysAndButtonsGivesItsAnswer) {
@@ -54,8 +54,8 @@ TEST(ModoNormale, EachOfTheSevenKeysAndButtonsGivesItsAnswer) {
         b.Tasto(4, codice);
         b.Clicca(5, bottone);
         b.Vai(6);
-        EXPECT_EQ(b.finestra.Esatte, 2) << bottone;
-        EXPECT_EQ(b.finestra.Errate, 0) << bottone;
+        EXPECT_EQ(b.punteggio.Esatte, 2) << bottone;
+        EXPECT_EQ(b.punteggio.Errate, 0) << bottone;
     }
 }
 
@@ -66,8 +66,8 @@ TEST(ModoNormale, KeysThatAreNoAnswersInThisModeDoNothing) {
             (codice < 97 || codice > 99))
             b.Tasto(4, codice);
     b.Vai(5);
-    EXPECT_EQ(b.finestra.Esatte + b.finestra.Errate, 0);
-    EXPECT_EQ(b.finestra.Start.Caption(), "Stop");
+    EXPECT_EQ(b.punteggio.Esatte + b.punteggio.Errate, 0);
+    EXPECT_EQ(b.finestra.esercizio.Start.Caption(), "Stop");
 }
 
 TEST(ModoNormale, HoldingAKeyGivesOneAnswerOnItsRelease) {
@@ -79,10 +79,10 @@ TEST(ModoNormale, HoldingAKeyGivesOneAnswerOnItsRelease) {
     ripetuta.ripetuto = true;
     for (int i = 0; i < 20; ++i)
         b.Manda(4.5 + i * 0.03, ripetuta, "");
-    b.Quando(6, [&] { EXPECT_EQ(b.finestra.Esatte, 0); });
+    b.Quando(6, [&] { EXPECT_EQ(b.punteggio.Esatte, 0); });
     b.Lascia(7, 'H');
     b.Vai(8);
-    EXPECT_EQ(b.finestra.Esatte, 1);
+    EXPECT_EQ(b.punteggio.Esatte, 1);
 }
 
 TEST(ModoNormale, LosingTheKeyboardGivesNoAnswer) {
@@ -90,7 +90,7 @@ TEST(ModoNormale, LosingTheKeyboardGivesNoAnswer) {
     b.Premi(4, 'H');
     b.Fa(5, Fatto::FuocoPerso, "");
     b.Vai(6);
-    EXPECT_EQ(b.finestra.Esatte + b.finestra.Errate, 0);
+    EXPECT_EQ(b.punteggio.Esatte + b.punteggio.Errate, 0);
     EXPECT_FALSE(b.finestre.Tasti().Premuto('H'));
 }
 
@@ -121,8 +121,8 @@ TEST(ModoNormale, TheSameNoteMayComeTwiceInARow) {
     b.Tasto(4, 'H');
     b.Tasto(5, 'H');
     b.Vai(6);
-    EXPECT_EQ(b.finestra.NotaCorrente, 43);
-    EXPECT_EQ(b.finestra.Esatte, 2);
+    EXPECT_EQ(b.finestra.stato.NotaCorrente, 43);
+    EXPECT_EQ(b.punteggio.Esatte, 2);
 }
 
 TEST(ModoNormale, TheScoreIsShownAfterEachAnswer) {
@@ -135,20 +135,20 @@ TEST(ModoNormale, TheScoreIsShownAfterEachAnswer) {
     b.Tasto(5, 'D');
     b.Tasto(6, 'D');
     b.Vai(7);
-    EXPECT_EQ(b.finestra.Ridate.Caption(), "date: 3");
-    EXPECT_EQ(b.finestra.Lnmostrate.Caption(), "perc: 33.33%");
-    EXPECT_EQ(b.finestra.PercEs.Text(), "33.33%");
-    EXPECT_EQ(b.finestra.Percentuale, "33.33%");
-    const Figura& fondo = b.finestra.PercBg;
-    EXPECT_EQ(b.finestra.PercMet.Height(), fondo.Height() / 3);
-    EXPECT_EQ(b.finestra.PercMet.Top(), fondo.Top() + fondo.Height() - fondo.Height() / 3);
+    EXPECT_EQ(b.punteggio.Ridate.Caption(), "date: 3");
+    EXPECT_EQ(b.punteggio.Lnmostrate.Caption(), "perc: 33.33%");
+    EXPECT_EQ(b.punteggio.PercEs.Text(), "33.33%");
+    EXPECT_EQ(b.punteggio.Percentuale, "33.33%");
+    const Figura& fondo = b.punteggio.PercBg;
+    EXPECT_EQ(b.punteggio.PercMet.Height(), fondo.Height() / 3);
+    EXPECT_EQ(b.punteggio.PercMet.Top(), fondo.Top() + fondo.Height() - fondo.Height() / 3);
 }
 
 TEST(ModoNormale, AtMostOneAnswerIsRight) {
     BancoNormale b;
     b.Estrai(49, 43, 53);
     b.Vai(4);
-    EXPECT_EQ(b.finestra.RispostaGiusta,
+    EXPECT_EQ(b.finestra.esercizio.RispostaGiusta,
               (std::array{false, false, false, false, false, true, false}));
 }
 
@@ -156,7 +156,7 @@ TEST(ModoNormale, EscHasNoMeaning) {
     BancoNormale b;
     b.Tasto(4, 27);
     b.Vai(5);
-    EXPECT_TRUE(b.finestra.InCorso);
+    EXPECT_TRUE(b.finestra.esercizio.InCorso);
 }
 
 TEST(ModoNormale, AChangeOfNamesShowsWithTheNextNote) {
@@ -164,8 +164,8 @@ TEST(ModoNormale, AChangeOfNamesShowsWithTheNextNote) {
     b.Quando(3.5, [&] { b.globali.NomiAnglo = true; });
     b.Tasto(4, 'H');
     b.Vai(5);
-    EXPECT_EQ(b.finestra.Esatte, 1);
-    EXPECT_EQ(b.finestra.lblnn.Caption(), "B");
+    EXPECT_EQ(b.punteggio.Esatte, 1);
+    EXPECT_EQ(b.finestra.pentagramma.lblnn.Caption(), "B");
 }
 
 TEST(ModoNormale, WithThePlainCueEachNoteSoundsTheWave) {
@@ -190,7 +190,7 @@ TEST(ModoNormale, NoAnswerCountsBeforeTheFirstRunOrAfterIt) {
     b.Tasto(5, 'H');
     b.Fine(6);
     b.Avvia();
-    EXPECT_EQ(b.finestra.Esatte + b.finestra.Errate, 0);
+    EXPECT_EQ(b.punteggio.Esatte + b.punteggio.Errate, 0);
     EXPECT_TRUE(b.Onde().empty());
 }
 

@@ -33,8 +33,8 @@ TEST(LinguaIniziale, EnglishGivesEnglishTextsAndAngloNames) {
     b.PonLinguaScelta("en");
     b.Vai(3);
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "Exit");
-    EXPECT_EQ(b.finestra.pdo.Caption(), "C");
-    EXPECT_TRUE(b.finestra.Nominote2.Checked());
+    EXPECT_EQ(b.finestra.risposte.pdo.Caption(), "C");
+    EXPECT_TRUE(b.finestra.menu.Nominote2.Checked());
 }
 
 TEST(LinguaIniziale, AnyOtherGivesItalianTextsAndIsNotReplaced) {
@@ -44,8 +44,8 @@ TEST(LinguaIniziale, AnyOtherGivesItalianTextsAndIsNotReplaced) {
         b.Chiudi(3);
         EXPECT_FALSE(b.Avvia());
         EXPECT_EQ(b.finestra.cmdEsci.Caption(), "Esci") << lingua;
-        EXPECT_EQ(b.finestra.pdo.Caption(), "DO") << lingua;
-        EXPECT_TRUE(b.finestra.Nominote1.Checked()) << lingua;
+        EXPECT_EQ(b.finestra.risposte.pdo.Caption(), "DO") << lingua;
+        EXPECT_TRUE(b.finestra.menu.Nominote1.Checked()) << lingua;
         EXPECT_EQ(b.Lingua(), lingua);
     }
 }
@@ -55,7 +55,7 @@ TEST(LinguaIniziale, WithoutItsFileTheDesignTextsStayAndNothingIsReported) {
     b.file.contenuti.erase("/programma/langit.csv");
     b.Vai(3);
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "Esci");
-    EXPECT_EQ(b.finestra.difficolt.List()[0], "Chiave di Sol: SI - MI");
+    EXPECT_EQ(b.finestra.intervalli.difficolt.List()[0], "Chiave di Sol: SI - MI");
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
@@ -65,7 +65,7 @@ TEST(LinguaIniziale, AFaultInItsFileIsToldAndTheProgramStarts) {
     b.Vai(3);
     EXPECT_EQ(b.riquadri.messaggi, std::vector<std::string>{"Error Reading file!!!"});
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "Via");
-    EXPECT_TRUE(b.finestra.Start.Enabled());
+    EXPECT_TRUE(b.finestra.esercizio.Start.Enabled());
 }
 
 TEST(CambioLingua, ToEnglishChangesTextsNamesPathsAndTheStoredValue) {
@@ -77,10 +77,10 @@ TEST(CambioLingua, ToEnglishChangesTextsNamesPathsAndTheStoredValue) {
     EXPECT_EQ(b.globali.FileAiuto, "/programma/corvanaen.chm");
     EXPECT_EQ(b.Lingua(), "en");
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "Exit");
-    EXPECT_EQ(b.finestra.difficolt.List()[0], "First");
-    EXPECT_EQ(b.finestra.pdo.Caption(), "C");
-    EXPECT_TRUE(b.finestra.Nominote2.Checked());
-    EXPECT_FALSE(b.finestra.Nominote1.Checked());
+    EXPECT_EQ(b.finestra.intervalli.difficolt.List()[0], "First");
+    EXPECT_EQ(b.finestra.risposte.pdo.Caption(), "C");
+    EXPECT_TRUE(b.finestra.menu.Nominote2.Checked());
+    EXPECT_FALSE(b.finestra.menu.Nominote1.Checked());
 }
 
 TEST(CambioLingua, AndBackToItalian) {
@@ -93,7 +93,7 @@ TEST(CambioLingua, AndBackToItalian) {
     EXPECT_EQ(b.globali.FileAiuto, "/programma/corvana.chm");
     EXPECT_EQ(b.Lingua(), "it");
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "Esci");
-    EXPECT_EQ(b.finestra.pdo.Caption(), "DO");
+    EXPECT_EQ(b.finestra.risposte.pdo.Caption(), "DO");
 }
 
 TEST(CambioLingua, TheNextStartBeginsWithIt) {
@@ -114,12 +114,12 @@ TEST(CambioLingua, HidesTheResultsWhoseTextsAreOfTheOldOne) {
     b.Tasto(4, 'H');
     b.Clicca(5, "Start");
     b.Quando(5.5, [&] {
-        EXPECT_TRUE(b.finestra.frmRisultati.Visible());
-        EXPECT_EQ(b.finestra.Lresatte.Caption(), "Esatte: 1");
+        EXPECT_TRUE(b.punteggio.frmRisultati.Visible());
+        EXPECT_EQ(b.punteggio.Lresatte.Caption(), "Esatte: 1");
     });
     b.Clicca(6, "mnuEn");
     b.Vai(7);
-    EXPECT_FALSE(b.finestra.frmRisultati.Visible());
+    EXPECT_FALSE(b.punteggio.frmRisultati.Visible());
     EXPECT_EQ(b.globali.testi.TxtRisposteEsatte, "Right: ");
 }
 
@@ -127,9 +127,9 @@ TEST(CambioLingua, TheSpeedIsShownBehindTheNewText) {
     BancoLingue b;
     b.PonStato("43;53;16;90;a");
     b.Clicca(3, "mnuEn");
-    b.Quando(2.9, [&] { EXPECT_EQ(b.finestra.Velocità.Caption(), "Al minuto: 90"); });
+    b.Quando(2.9, [&] { EXPECT_EQ(b.finestra.automatico.Velocità.Caption(), "Al minuto: 90"); });
     b.Vai(4);
-    EXPECT_EQ(b.finestra.Velocità.Caption(), "A minute: 90");
+    EXPECT_EQ(b.finestra.automatico.Velocità.Caption(), "A minute: 90");
 }
 
 TEST(CambioLingua, NoteNamesMayBeChosenApartFromIt) {
@@ -137,7 +137,7 @@ TEST(CambioLingua, NoteNamesMayBeChosenApartFromIt) {
     b.Clicca(3, "mnuEn");
     b.Clicca(4, "Nominote1");
     b.Vai(5);
-    EXPECT_EQ(b.finestra.pdo.Caption(), "DO");
+    EXPECT_EQ(b.finestra.risposte.pdo.Caption(), "DO");
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "Exit");
     EXPECT_EQ(b.Lingua(), "en");
 }
@@ -147,8 +147,8 @@ TEST(CambioLingua, KeepsTheSelectionOfTheListAndTheLimits) {
     b.PonStato("18;26;16;30;n");
     b.Clicca(3, "mnuEn");
     b.Vai(4);
-    EXPECT_EQ(b.finestra.difficolt.ListIndex(), 5);
-    EXPECT_EQ(b.finestra.LimiteBasso, 18);
+    EXPECT_EQ(b.finestra.intervalli.difficolt.ListIndex(), 5);
+    EXPECT_EQ(b.finestra.stato.LimiteBasso, 18);
     EXPECT_EQ(b.NoteInVista(), (std::vector<int>{18, 26}));
 }
 
@@ -158,7 +158,7 @@ TEST(CambioLingua, WithoutItsFileTheTextsStayAndTheChoiceIsStored) {
     b.Clicca(3, "mnuEn");
     b.Vai(4);
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "Esci");
-    EXPECT_EQ(b.finestra.pdo.Caption(), "C");
+    EXPECT_EQ(b.finestra.risposte.pdo.Caption(), "C");
     EXPECT_EQ(b.Lingua(), "en");
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }

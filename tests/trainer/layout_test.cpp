@@ -22,12 +22,12 @@ Luogo Di(const Controllo& c) {
 
 TEST(Disposizione, TheStavesTheRulerAndTheNameLieWhereTheyMust) {
     const BancoPrincipale b;
-    EXPECT_EQ(Di(b.finestra.img), (Luogo{0, 0, 6330, 4710}));
-    EXPECT_EQ(Di(b.finestra.Regolo), (Luogo{810, 15, 255, 4695}));
-    EXPECT_EQ(Di(b.finestra.lblnn), (Luogo{1065, 2340, 525, 390}));
-    EXPECT_EQ(b.finestra.lblMn.Left(), 6975);
-    EXPECT_EQ(b.finestra.lblMn.Top(), 3225);
-    EXPECT_EQ(b.finestra.lblMn.Caption(), "?");
+    EXPECT_EQ(Di(b.finestra.pentagramma.img), (Luogo{0, 0, 6330, 4710}));
+    EXPECT_EQ(Di(b.finestra.pentagramma.Regolo), (Luogo{810, 15, 255, 4695}));
+    EXPECT_EQ(Di(b.finestra.pentagramma.lblnn), (Luogo{1065, 2340, 525, 390}));
+    EXPECT_EQ(b.finestra.pentagramma.lblMn.Left(), 6975);
+    EXPECT_EQ(b.finestra.pentagramma.lblMn.Top(), 3225);
+    EXPECT_EQ(b.finestra.pentagramma.lblMn.Caption(), "?");
 }
 
 TEST(Disposizione, EachNoteControlLiesWhereItsPositionSays) {
@@ -36,9 +36,9 @@ TEST(Disposizione, EachNoteControlLiesWhereItsPositionSays) {
         const Controllo* nota = b.finestra.Trova("n" + std::to_string(p.numero));
         ASSERT_NE(nota, nullptr);
         EXPECT_EQ(Di(*nota), (Luogo{p.left, p.top, p.width, p.height})) << p.numero;
-        EXPECT_EQ(nota->Padre(), &b.finestra.img);
+        EXPECT_EQ(nota->Padre(), &b.finestra.pentagramma.img);
     }
-    EXPECT_EQ(b.finestra.n.size(), 46U);
+    EXPECT_EQ(b.finestra.pentagramma.n.size(), 46U);
 }
 
 TEST(Disposizione, NoNumberWithoutAPositionHasAControl) {
@@ -70,24 +70,25 @@ TEST(Disposizione, AllNamesDiffer) {
 
 TEST(Disposizione, TheSliderGoesFrom20To140AndStandsAt30) {
     const BancoPrincipale b;
-    EXPECT_EQ(b.finestra.Slider1.Min(), 20);
-    EXPECT_EQ(b.finestra.Slider1.Max(), 140);
-    EXPECT_EQ(b.finestra.Slider1.Value(), 30);
+    EXPECT_EQ(b.finestra.automatico.Slider1.Min(), 20);
+    EXPECT_EQ(b.finestra.automatico.Slider1.Max(), 140);
+    EXPECT_EQ(b.finestra.automatico.Slider1.Value(), 30);
 }
 
 TEST(Disposizione, TheAnswersTheScoreAndTheHelpStartWithTheirTexts) {
     const BancoPrincipale b;
     const CorvanaMainF& f = b.finestra;
-    EXPECT_EQ(f.Start.Caption(), "Start");
-    EXPECT_EQ(f.pdo.Caption(), "DO");
-    EXPECT_EQ(f.psi.Caption(), "SI");
-    EXPECT_EQ(f.lblAuto1.Caption(), "Do - Re - Mi - Fa - Sol - La - Si");
-    EXPECT_EQ(f.lblAuto2.Caption(), "d   - 1    - f    - 2    - g   - 3   - h");
-    EXPECT_EQ(f.Regolo.ToolTipText(), "Clicca per scegliere l'intervallo");
-    EXPECT_EQ(f.lblMn.ToolTipText(), "Mostra/Nascondi il nome della nota");
-    for (const Casella* c : {&f.conta, &f.er, &f.PercEs})
+    EXPECT_EQ(f.esercizio.Start.Caption(), "Start");
+    EXPECT_EQ(f.risposte.pdo.Caption(), "DO");
+    EXPECT_EQ(f.risposte.psi.Caption(), "SI");
+    EXPECT_EQ(f.automatico.lblAuto1.Caption(), "Do - Re - Mi - Fa - Sol - La - Si");
+    EXPECT_EQ(f.automatico.lblAuto2.Caption(), "d   - 1    - f    - 2    - g   - 3   - h");
+    EXPECT_EQ(f.pentagramma.Regolo.ToolTipText(), "Clicca per scegliere l'intervallo");
+    EXPECT_EQ(f.pentagramma.lblMn.ToolTipText(), "Mostra/Nascondi il nome della nota");
+    for (const Casella* c :
+         {&f.esercizio.punteggio.conta, &f.esercizio.punteggio.er, &f.esercizio.punteggio.PercEs})
         EXPECT_TRUE(c->Locked()) << c->Name;
-    EXPECT_FALSE(f.lblnn.Visible());
+    EXPECT_FALSE(f.pentagramma.lblnn.Visible());
 }
 
 TEST(Disposizione, TheHelpOfTheWindowHasItsPage) {

@@ -23,9 +23,9 @@ struct BancoLista : BancoPrincipale {
 
 TEST(ListaEsercizi, HasTheElevenRowsWithTheirCaptions) {
     BancoPrincipale b;
-    ASSERT_EQ(b.finestra.difficolt.List().size(), 11U);
+    ASSERT_EQ(b.finestra.intervalli.difficolt.List().size(), 11U);
     for (std::size_t i = 0; i < 11; ++i)
-        EXPECT_EQ(b.finestra.difficolt.List()[i], righeEsercizio.at(i).testo);
+        EXPECT_EQ(b.finestra.intervalli.difficolt.List()[i], righeEsercizio.at(i).testo);
 }
 
 TEST(ListaEsercizi, ARowShowsWhereItBeginsAndEndsAndSetsTheLimits) {
@@ -33,10 +33,10 @@ TEST(ListaEsercizi, ARowShowsWhereItBeginsAndEndsAndSetsTheLimits) {
         BancoLista b;
         b.Scegli(riga);
         const auto& [testo, basso, alto] = righeEsercizio.at(static_cast<std::size_t>(riga));
-        EXPECT_EQ(b.finestra.LimiteBasso, basso) << riga;
-        EXPECT_EQ(b.finestra.LimiteAlto, alto) << riga;
+        EXPECT_EQ(b.finestra.stato.LimiteBasso, basso) << riga;
+        EXPECT_EQ(b.finestra.stato.LimiteAlto, alto) << riga;
         EXPECT_EQ(b.NoteInVista(), (Note{basso, alto})) << riga;
-        EXPECT_TRUE(b.finestra.Start.Enabled()) << riga;
+        EXPECT_TRUE(b.finestra.esercizio.Start.Enabled()) << riga;
     }
 }
 
@@ -45,8 +45,8 @@ TEST(ListaEsercizi, ASeparatorShowsTheFirstRowAsSelected) {
         BancoLista b;
         b.PonStato("11;31;16;30;n");
         b.Scegli(riga);
-        EXPECT_EQ(b.finestra.difficolt.ListIndex(), 0) << riga;
-        EXPECT_EQ(b.finestra.LimiteBasso, 43) << riga;
+        EXPECT_EQ(b.finestra.intervalli.difficolt.ListIndex(), 0) << riga;
+        EXPECT_EQ(b.finestra.stato.LimiteBasso, 43) << riga;
         EXPECT_EQ(b.NoteInVista(), (Note{43, 53})) << riga;
     }
 }
@@ -68,8 +68,8 @@ TEST(ListaEsercizi, ARowThatIsntThereChangesNothing) {
     b.Clicca(3, "difficolt", -1);
     b.Fine(4);
     b.Avvia();
-    EXPECT_EQ(b.finestra.difficolt.ListIndex(), 0);
-    EXPECT_EQ(b.finestra.LimiteBasso, 43);
+    EXPECT_EQ(b.finestra.intervalli.difficolt.ListIndex(), 0);
+    EXPECT_EQ(b.finestra.stato.LimiteBasso, 43);
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
@@ -81,12 +81,12 @@ TEST(TastiDellaLista, EachShortcutSelectsItsRowOnRelease) {
         b.PonStato(riga == 0 ? "11;31;16;30;n" : "");
         const int partenza = riga == 0 ? 8 : 0;
         b.Premi(3, codice);
-        b.Quando(3.5, [&] { EXPECT_EQ(b.finestra.difficolt.ListIndex(), partenza); });
+        b.Quando(3.5, [&] { EXPECT_EQ(b.finestra.intervalli.difficolt.ListIndex(), partenza); });
         b.Lascia(4, codice);
         b.Fine(5);
         b.Avvia();
-        EXPECT_EQ(b.finestra.difficolt.ListIndex(), riga);
-        EXPECT_EQ(b.finestra.LimiteBasso,
+        EXPECT_EQ(b.finestra.intervalli.difficolt.ListIndex(), riga);
+        EXPECT_EQ(b.finestra.stato.LimiteBasso,
                   righeEsercizio.at(static_cast<std::size_t>(riga)).limiteBasso);
     }
 }
@@ -95,8 +95,8 @@ TEST(TastiDellaLista, NoKeySelectsASeparatorAndAnswersSelectNothing) {
     BancoPrincipale b;
     int scelte = 0;
     b.Quando(2.9, [&] {
-        auto di = b.finestra.difficolt.Click.Attuale();
-        b.finestra.difficolt.Click = [&scelte, di] {
+        auto di = b.finestra.intervalli.difficolt.Click.Attuale();
+        b.finestra.intervalli.difficolt.Click = [&scelte, di] {
             ++scelte;
             di();
         };
@@ -115,9 +115,9 @@ TEST(TastiDellaLista, MeanNothingDuringARun) {
         b.Tasto(4, codice);
     b.Fine(5);
     b.Avvia();
-    EXPECT_EQ(b.finestra.difficolt.ListIndex(), 0);
-    EXPECT_EQ(b.finestra.LimiteBasso, 43);
-    EXPECT_EQ(b.finestra.Errate, 0);
+    EXPECT_EQ(b.finestra.intervalli.difficolt.ListIndex(), 0);
+    EXPECT_EQ(b.finestra.stato.LimiteBasso, 43);
+    EXPECT_EQ(b.punteggio.Errate, 0);
 }
 
 TEST(ListaEsercizi, TheFirstSelectionAfterARulerRangeWasRestoredGivesNoFocus) {
@@ -132,7 +132,7 @@ TEST(ListaEsercizi, TheFirstSelectionAfterARulerRangeWasRestoredGivesNoFocus) {
     b.Avvia();
     EXPECT_EQ(dopo, prima);
     EXPECT_EQ(b.specchio.fuochi.size(), prima + 1);
-    EXPECT_EQ(b.finestra.LimiteAlto, 62);
+    EXPECT_EQ(b.finestra.stato.LimiteAlto, 62);
 }
 
 TEST(ListaEsercizi, ASeparatorGivesStartTheFocusForTheFirstRowAndOnceMoreForItself) {
@@ -151,15 +151,15 @@ TEST(ListaEsercizi, ASeparatorAsTheFirstSelectionAfterARulerRangeGivesTheFocusAl
     b.PonStato("20;44;16;30;n");
     b.Righello(2.5, 3700);
     b.Quando(2.9, [&] {
-        EXPECT_FALSE(b.finestra.Start.Enabled());
+        EXPECT_FALSE(b.finestra.esercizio.Start.Enabled());
         b.specchio.fuochi.clear();
     });
     b.Clicca(3, "difficolt", 9);
     b.Fine(4);
     b.Avvia();
     EXPECT_EQ(b.specchio.fuochi, std::vector<std::string>{"Start"});
-    EXPECT_TRUE(b.finestra.Start.Enabled());
-    EXPECT_FALSE(b.finestra.CaricamentoLista);
+    EXPECT_TRUE(b.finestra.esercizio.Start.Enabled());
+    EXPECT_FALSE(b.finestra.intervalli.CaricamentoLista);
 }
 
 TEST(ListaEsercizi, DuringARunARowReplacesTheLimitsForTheNextNote) {
@@ -169,8 +169,8 @@ TEST(ListaEsercizi, DuringARunARowReplacesTheLimitsForTheNextNote) {
     b.Tasto(5, 'H');  // n43, the note that stands, is SI
     b.Fine(6);
     b.Avvia();
-    EXPECT_EQ(b.finestra.Esatte, 1);
-    EXPECT_EQ(b.finestra.NotaCorrente, 11);
+    EXPECT_EQ(b.punteggio.Esatte, 1);
+    EXPECT_EQ(b.finestra.stato.NotaCorrente, 11);
 }
 
 }  // namespace corvana::prova

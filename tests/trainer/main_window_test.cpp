@@ -29,9 +29,10 @@ void AllaComparsa(BancoPrincipale& b, Fatto fatto, const std::string& controllo)
 
 std::vector<std::string> Disabilitati(const CorvanaMainF& f) {
     std::vector<std::string> nomi;
-    for (const Controllo* c :
-         {static_cast<const Controllo*>(&f.Start), static_cast<const Controllo*>(&f.mnuRint),
-          static_cast<const Controllo*>(&f.Intonazione), static_cast<const Controllo*>(&f.cmdEsci)})
+    for (const Controllo* c : {static_cast<const Controllo*>(&f.esercizio.Start),
+                               static_cast<const Controllo*>(&f.menu.mnuRint),
+                               static_cast<const Controllo*>(&f.menu.Intonazione),
+                               static_cast<const Controllo*>(&f.cmdEsci)})
         if (!c->Enabled()) nomi.push_back(c->Name);
     return nomi;
 }
@@ -43,18 +44,20 @@ TEST(Caricamento, LeavesTheWindowIdleWithTheNoteSoundOnAndTheRestHidden) {
     b.Fine(3);
     EXPECT_TRUE(b.Avvia());
     const CorvanaMainF& f = b.finestra;
-    EXPECT_TRUE(f.SuonoNota);
-    EXPECT_DOUBLE_EQ(f.SecondiNota, 2);
-    for (const Controllo* c :
-         {static_cast<const Controllo*>(&f.frmMetro),
-          static_cast<const Controllo*>(&f.frmRisultati),
-          static_cast<const Controllo*>(&f.Velocità), static_cast<const Controllo*>(&f.Slider1),
-          static_cast<const Controllo*>(&f.lblAuto1), static_cast<const Controllo*>(&f.lblAuto2)})
+    EXPECT_TRUE(f.stato.SuonoNota);
+    EXPECT_DOUBLE_EQ(f.stato.SecondiNota, 2);
+    for (const Controllo* c : {static_cast<const Controllo*>(&f.frmMetro),
+                               static_cast<const Controllo*>(&f.esercizio.punteggio.frmRisultati),
+                               static_cast<const Controllo*>(&f.automatico.Velocità),
+                               static_cast<const Controllo*>(&f.automatico.Slider1),
+                               static_cast<const Controllo*>(&f.automatico.lblAuto1),
+                               static_cast<const Controllo*>(&f.automatico.lblAuto2)})
         EXPECT_FALSE(c->Visible()) << c->Name;
-    for (const Controllo* c : {&f.pdo, &f.pre, &f.pmi, &f.pfa, &f.psol, &f.pla, &f.psi})
+    for (const Controllo* c : {&f.risposte.pdo, &f.risposte.pre, &f.risposte.pmi, &f.risposte.pfa,
+                               &f.risposte.psol, &f.risposte.pla, &f.risposte.psi})
         EXPECT_FALSE(c->Enabled()) << c->Name;
-    EXPECT_EQ(f.Start.Caption(), "Start");
-    EXPECT_FALSE(f.InCorso);
+    EXPECT_EQ(f.esercizio.Start.Caption(), "Start");
+    EXPECT_FALSE(f.esercizio.InCorso);
 }
 
 TEST(PrimaAttivazione, OpensTheDefaultOutputSetsTheInstrumentAndPlaysTheSignal) {
@@ -87,13 +90,13 @@ TEST(PrimaAttivazione, WhatIsClickedDuringTheSignalIsJudgedWhenItIsOver) {
     b.Clicca(1, "psi");
     b.Clicca(1.2, "difficolt", 1);
     b.Clicca(1.4, "Start");
-    b.Quando(2.2, [&] { EXPECT_EQ(b.finestra.LimiteBasso, 43); });
+    b.Quando(2.2, [&] { EXPECT_EQ(b.finestra.stato.LimiteBasso, 43); });
     b.Fine(3);
     b.Avvia();
-    EXPECT_EQ(b.finestra.Errate, 0);
+    EXPECT_EQ(b.punteggio.Errate, 0);
     EXPECT_TRUE(b.Onde().empty());
-    EXPECT_EQ(b.finestra.LimiteBasso, 41);
-    EXPECT_TRUE(b.finestra.InCorso);
+    EXPECT_EQ(b.finestra.stato.LimiteBasso, 41);
+    EXPECT_TRUE(b.finestra.esercizio.InCorso);
 }
 
 TEST(PrimaAttivazione, ARequestToCloseDuringTheSignalClosesAfterIt) {
@@ -120,7 +123,7 @@ TEST(PrimaAttivazione, WithADeviceOpenAlreadyNothingIsPlayed) {
     b.Avvia();
     EXPECT_EQ(b.uscita.aperture, std::vector<std::int32_t>{3});
     EXPECT_TRUE(b.uscita.messaggi.empty());
-    EXPECT_TRUE(b.finestra.Start.Enabled());
+    EXPECT_TRUE(b.finestra.esercizio.Start.Enabled());
 }
 
 TEST(SenzaDispositivo, TheWindowOpensWithABoxAndTheFirstNoteFailsWithAnother) {
@@ -132,7 +135,7 @@ TEST(SenzaDispositivo, TheWindowOpensWithABoxAndTheFirstNoteFailsWithAnother) {
     EXPECT_EQ(b.riquadri.messaggi,
               (Avvisi{"Operation:Open\r\nerror text 4", "Operation:ShortMsg\r\nerror text 5",
                       "Operation:ShortMsg\r\nerror text 5"}));
-    EXPECT_TRUE(b.finestra.InCorso);
+    EXPECT_TRUE(b.finestra.esercizio.InCorso);
     EXPECT_EQ(b.NoteInVista(), std::vector<int>{43});
     EXPECT_EQ(b.uscita.messaggi.size(), 0U);
 }
@@ -163,7 +166,7 @@ TEST(SenzaDispositivo, WithoutALanguageFileItIsToldAllTheSame) {
     b.Avvia();
     ASSERT_EQ(b.riquadri.messaggi.size(), 1U);
     EXPECT_FALSE(b.riquadri.messaggi[0].empty());
-    EXPECT_TRUE(b.finestra.InCorso);
+    EXPECT_TRUE(b.finestra.esercizio.InCorso);
 }
 
 TEST(Attivazione, AfterAnotherWindowChangedTheNamesTheChecksFollowAndTheCaptionsStay) {
@@ -176,9 +179,9 @@ TEST(Attivazione, AfterAnotherWindowChangedTheNamesTheChecksFollowAndTheCaptions
     b.Clicca(3, "mnuComposer");
     b.Chiudi(4);
     b.Quando(4.5, [&] {
-        EXPECT_FALSE(finestra.Nominote1.Checked());
-        EXPECT_TRUE(finestra.Nominote2.Checked());
-        EXPECT_EQ(finestra.pdo.Caption(), "DO");
+        EXPECT_FALSE(finestra.menu.Nominote1.Checked());
+        EXPECT_TRUE(finestra.menu.Nominote2.Checked());
+        EXPECT_EQ(finestra.risposte.pdo.Caption(), "DO");
     });
     b.Clicca(5, "Nominote2");
     b.Fine(6);
@@ -186,7 +189,7 @@ TEST(Attivazione, AfterAnotherWindowChangedTheNamesTheChecksFollowAndTheCaptions
         b.finestre.Mostra(finestra);
         b.finestre.FinoAllUltima();
     });
-    EXPECT_EQ(finestra.pdo.Caption(), "C");
+    EXPECT_EQ(finestra.risposte.pdo.Caption(), "C");
 }
 
 TEST(Chiusura, BothExitsAndTheCloseBoxCloseTheDeviceAndStoreTheState) {
@@ -209,7 +212,7 @@ TEST(Chiusura, IsRefusedWithoutAMessageWhileTheMetronomeRuns) {
     b.Chiudi(5);
     b.Fine(6);
     EXPECT_TRUE(b.Avvia());
-    EXPECT_TRUE(b.finestra.InCorso);
+    EXPECT_TRUE(b.finestra.esercizio.InCorso);
     EXPECT_NE(b.suono.HandleMidi, 0);
     EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_EQ(b.Stato(), "");
@@ -220,7 +223,7 @@ TEST(Chiusura, DuringANormalRunStopsItFirst) {
     b.Clicca(3, "Start");
     b.Chiudi(4);
     EXPECT_FALSE(b.Avvia());
-    EXPECT_FALSE(b.finestra.InCorso);
+    EXPECT_FALSE(b.finestra.esercizio.InCorso);
     EXPECT_TRUE(b.uscita.NoteAccese().empty());
     EXPECT_EQ(b.Stato(), "43;53;16;30;n");
 }
@@ -246,12 +249,12 @@ TEST(PrimaAttivazione, WhatWasDoneToTheWindowBeforeItIsServedWhileTheControlsAre
     BancoPrincipale b;
     AllaComparsa(b, Fatto::Click, "Start");
     b.Quando(1, [&] {
-        EXPECT_TRUE(b.finestra.InCorso);
-        EXPECT_EQ(b.finestra.Start.Caption(), "Stop");
+        EXPECT_TRUE(b.finestra.esercizio.InCorso);
+        EXPECT_EQ(b.finestra.esercizio.Start.Caption(), "Stop");
     });
     b.Fine(3);
     EXPECT_TRUE(b.Avvia());
-    EXPECT_TRUE(b.finestra.InCorso);
+    EXPECT_TRUE(b.finestra.esercizio.InCorso);
 }
 
 TEST(PrimaAttivazione, AModeChosenBeforeItIsServedGivesStartTheFocusAsLaterOnesDo) {
@@ -281,12 +284,12 @@ TEST(PrimaAttivazione, TheModesAndTheSliderGiveNoFocusBeforeIt) {
     b.finestra.Form_Load();
     b.finestra.mnuAutomatico_Click();
     b.finestra.mnuNormale_Click();
-    b.finestra.Slider1_Change();
+    b.finestra.automatico.Slider1_Change();
     EXPECT_TRUE(b.specchio.fuochi.empty());
     b.finestra.Form_Activate();
     b.specchio.fuochi.clear();
-    b.finestra.Slider1_Change();
-    b.finestra.Slider1_Scroll();
+    b.finestra.automatico.Slider1_Change();
+    b.finestra.automatico.Slider1_Scroll();
     b.finestra.mnuNormale_Click();
     b.finestra.mnuAutomatico_Click();
     EXPECT_EQ(b.specchio.fuochi, (Avvisi{"Start", "Start", "Start"}));

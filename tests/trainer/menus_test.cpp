@@ -118,7 +118,7 @@ TEST(Menu, TheEntryOfTheTrainerItselfAndSeparatorsDoNothing) {
     BancoMenu b;
     b.Scegli({"mnuCorvana", "Sep3", "separatore1", "mnuLingua", "es", "f1"});
     EXPECT_TRUE(b.aperte.empty());
-    EXPECT_EQ(b.finestra.Start.Caption(), "Start");
+    EXPECT_EQ(b.finestra.esercizio.Start.Caption(), "Start");
 }
 
 TEST(Menu, OrganAndPianoChangeTheProgramOfTheFirstChannelAlone) {
@@ -134,21 +134,23 @@ TEST(Menu, TheModesShowAndHideWhatBelongsToThem) {
     BancoMenu b;
     b.Quando(3.5, [&] {
         const CorvanaMainF& f = b.finestra;
-        EXPECT_EQ(f.Modo, "automatico");
-        EXPECT_TRUE(f.mnuAutomatico.Checked() && !f.mnuNormale.Checked());
-        EXPECT_TRUE(f.Slider1.Visible() && f.Velocità.Visible() && f.lblAuto1.Visible() &&
-                    f.lblAuto2.Visible() && f.Shape5.Visible() && f.Shape6.Visible());
-        EXPECT_FALSE(f.pdo.Enabled() || f.psi.Enabled());
-        EXPECT_EQ(f.Velocità.Caption(), "30");
+        EXPECT_EQ(f.stato.Modo, "automatico");
+        EXPECT_TRUE(f.menu.mnuAutomatico.Checked() && !f.menu.mnuNormale.Checked());
+        EXPECT_TRUE(f.automatico.Slider1.Visible() && f.automatico.Velocità.Visible() &&
+                    f.automatico.lblAuto1.Visible() && f.automatico.lblAuto2.Visible() &&
+                    f.automatico.Shape5.Visible() && f.automatico.Shape6.Visible());
+        EXPECT_FALSE(f.risposte.pdo.Enabled() || f.risposte.psi.Enabled());
+        EXPECT_EQ(f.automatico.Velocità.Caption(), "30");
         EXPECT_EQ(b.specchio.fuochi.back(), "Start");
     });
     b.Scegli({"mnuAutomatico", "mnuNormale"});
     const CorvanaMainF& f = b.finestra;
-    EXPECT_EQ(f.Modo, "normale");
-    EXPECT_TRUE(f.mnuNormale.Checked() && !f.mnuAutomatico.Checked());
-    EXPECT_FALSE(f.Slider1.Visible() || f.Velocità.Visible() || f.lblAuto1.Visible() ||
-                 f.lblAuto2.Visible() || f.Shape5.Visible() || f.Shape6.Visible());
-    EXPECT_TRUE(f.pdo.Enabled() && f.psi.Enabled());
+    EXPECT_EQ(f.stato.Modo, "normale");
+    EXPECT_TRUE(f.menu.mnuNormale.Checked() && !f.menu.mnuAutomatico.Checked());
+    EXPECT_FALSE(f.automatico.Slider1.Visible() || f.automatico.Velocità.Visible() ||
+                 f.automatico.lblAuto1.Visible() || f.automatico.lblAuto2.Visible() ||
+                 f.automatico.Shape5.Visible() || f.automatico.Shape6.Visible());
+    EXPECT_TRUE(f.risposte.pdo.Enabled() && f.risposte.psi.Enabled());
 }
 
 TEST(Menu, TheSlidersChangeGivesStartTheFocusAndItsScrollDoesnt) {
@@ -166,8 +168,8 @@ TEST(Menu, TheSlidersChangeGivesStartTheFocusAndItsScrollDoesnt) {
     b.Avvia();
     EXPECT_EQ(dopo, prima);
     EXPECT_EQ(b.specchio.fuochi.size(), prima + 1);
-    EXPECT_EQ(b.finestra.Velocità.Caption(), "al minuto 75");
-    EXPECT_DOUBLE_EQ(b.finestra.SecondiNota, 0.8);
+    EXPECT_EQ(b.finestra.automatico.Velocità.Caption(), "al minuto 75");
+    EXPECT_DOUBLE_EQ(b.finestra.stato.SecondiNota, 0.8);
 }
 
 TEST(Menu, DuringARunNothingButTheHelpCanBeChosen) {
@@ -180,8 +182,8 @@ TEST(Menu, DuringARunNothingButTheHelpCanBeChosen) {
     b.Fine(5);
     b.Avvia();
     EXPECT_EQ(b.aperte, (Nomi{"aiuto", "frmAbout"}));
-    EXPECT_TRUE(b.finestra.InCorso);
-    EXPECT_EQ(b.finestra.Modo, "normale");
+    EXPECT_TRUE(b.finestra.esercizio.InCorso);
+    EXPECT_EQ(b.finestra.stato.Modo, "normale");
 }
 
 TEST(Menu, AWindowThatThisBuildDoesntHaveHasNoEntryToOpenIt) {
@@ -197,8 +199,8 @@ TEST(Menu, AWindowThatThisBuildDoesntHaveHasNoEntryToOpenIt) {
           "mnuPromemoria", "mnuMidiTest", "mnuSs", "mnuAiuto", "mnuVersione", "ToolButton1",
           "ToolButton2", "ToolButton3", "ToolButton4", "ToolButton5", "ToolButton7"})
         EXPECT_FALSE(finestra.Trova(nome)->Enabled()) << nome;
-    EXPECT_TRUE(finestra.ToolButton[5].Enabled());
-    EXPECT_TRUE(finestra.mnuNormale.Enabled());
+    EXPECT_TRUE(finestra.barra.ToolButton[5].Enabled());
+    EXPECT_TRUE(finestra.menu.mnuNormale.Enabled());
 }
 
 }  // namespace corvana::prova

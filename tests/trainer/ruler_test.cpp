@@ -27,63 +27,63 @@ struct BancoRighello : BancoPrincipale {
 TEST(Righello, TheFirstMarkShowsItsNoteAndDisablesStart) {
     BancoRighello b;
     b.Segna({suN20});
-    EXPECT_EQ(b.finestra.PrimoClick, 20);
-    EXPECT_EQ(b.finestra.SecondoClick, 0);
+    EXPECT_EQ(b.finestra.intervalli.segni.PrimoClick, 20);
+    EXPECT_EQ(b.finestra.intervalli.segni.SecondoClick, 0);
     EXPECT_EQ(b.NoteInVista(), Note{20});
-    EXPECT_FALSE(b.finestra.Start.Enabled());
+    EXPECT_FALSE(b.finestra.esercizio.Start.Enabled());
 }
 
 TEST(Righello, TheSecondMarkMakesARangeAndEnablesStart) {
     BancoRighello b;
     b.Segna({suN44, suN20});
-    EXPECT_EQ(b.finestra.LimiteBasso, 20);
-    EXPECT_EQ(b.finestra.LimiteAlto, 44);
+    EXPECT_EQ(b.finestra.stato.LimiteBasso, 20);
+    EXPECT_EQ(b.finestra.stato.LimiteAlto, 44);
     EXPECT_EQ(b.NoteInVista(), (Note{20, 44}));
-    EXPECT_TRUE(b.finestra.Start.Enabled());
+    EXPECT_TRUE(b.finestra.esercizio.Start.Enabled());
     EXPECT_EQ(b.specchio.fuochi.back(), "Start");
 }
 
 TEST(Righello, TheOrderOfTheMarksDoesntMatter) {
     BancoRighello b;
     b.Segna({suN11, suN64});
-    EXPECT_EQ(b.finestra.LimiteBasso, 11);
-    EXPECT_EQ(b.finestra.LimiteAlto, 64);
+    EXPECT_EQ(b.finestra.stato.LimiteBasso, 11);
+    EXPECT_EQ(b.finestra.stato.LimiteAlto, 64);
 }
 
 TEST(Righello, BetweenTwoBandsNothingIsMarkedAndStartStaysDisabled) {
     for (const int y : {4540, 2500, 0, -50, 4700, 100000}) {
         BancoRighello b;
         b.Segna({y});
-        EXPECT_EQ(b.finestra.PrimoClick, 0) << y;
+        EXPECT_EQ(b.finestra.intervalli.segni.PrimoClick, 0) << y;
         EXPECT_TRUE(b.NoteInVista().empty()) << y;
-        EXPECT_FALSE(b.finestra.Start.Enabled()) << y;
+        EXPECT_FALSE(b.finestra.esercizio.Start.Enabled()) << y;
     }
 }
 
 TEST(Righello, OneBandTwiceClearsBothMarksAndTheThirdClickStartsOver) {
     BancoRighello b;
     b.Segna({suN20, suN20, suN44});
-    EXPECT_EQ(b.finestra.PrimoClick, 44);
-    EXPECT_EQ(b.finestra.SecondoClick, 0);
+    EXPECT_EQ(b.finestra.intervalli.segni.PrimoClick, 44);
+    EXPECT_EQ(b.finestra.intervalli.segni.SecondoClick, 0);
     EXPECT_EQ(b.NoteInVista(), Note{44});
-    EXPECT_FALSE(b.finestra.Start.Enabled());
+    EXPECT_FALSE(b.finestra.esercizio.Start.Enabled());
 }
 
 TEST(Righello, AfterOneBandTwiceNoNoteIsToBeSeen) {
     BancoRighello b;
     b.Segna({suN20, suN20});
-    EXPECT_EQ(b.finestra.PrimoClick, 0);
+    EXPECT_EQ(b.finestra.intervalli.segni.PrimoClick, 0);
     EXPECT_TRUE(b.NoteInVista().empty());
-    EXPECT_FALSE(b.finestra.Start.Enabled());
+    EXPECT_FALSE(b.finestra.esercizio.Start.Enabled());
 }
 
 TEST(Righello, AfterTwoMarksFurtherClicksAreIgnored) {
     BancoRighello b;
     b.Segna({suN20, suN44, suN64, suN11, 0});
-    EXPECT_EQ(b.finestra.LimiteBasso, 20);
-    EXPECT_EQ(b.finestra.LimiteAlto, 44);
+    EXPECT_EQ(b.finestra.stato.LimiteBasso, 20);
+    EXPECT_EQ(b.finestra.stato.LimiteAlto, 44);
     EXPECT_EQ(b.NoteInVista(), (Note{20, 44}));
-    EXPECT_TRUE(b.finestra.Start.Enabled());
+    EXPECT_TRUE(b.finestra.esercizio.Start.Enabled());
 }
 
 TEST(Righello, ADrillThatHasRunAndStoppedClearsTheMarks) {
@@ -95,8 +95,8 @@ TEST(Righello, ADrillThatHasRunAndStoppedClearsTheMarks) {
     b.Righello(7, suN11);
     b.Fine(8);
     b.Avvia();
-    EXPECT_EQ(b.finestra.PrimoClick, 11);
-    EXPECT_EQ(b.finestra.SecondoClick, 0);
+    EXPECT_EQ(b.finestra.intervalli.segni.PrimoClick, 11);
+    EXPECT_EQ(b.finestra.intervalli.segni.SecondoClick, 0);
 }
 
 TEST(Righello, AfterADrillTheLimitsStayAndServeTheNextOne) {
@@ -110,7 +110,7 @@ TEST(Righello, AfterADrillTheLimitsStayAndServeTheNextOne) {
     b.Clicca(7, "Start");
     b.Fine(8);
     b.Avvia();
-    EXPECT_EQ(b.finestra.NotaCorrente, 20);
+    EXPECT_EQ(b.finestra.stato.NotaCorrente, 20);
 }
 
 TEST(Righello, WithTwoMarksStandingARowReplacesTheLimits) {
@@ -121,9 +121,9 @@ TEST(Righello, WithTwoMarksStandingARowReplacesTheLimits) {
     b.Righello(6, suN64);
     b.Fine(7);
     b.Avvia();
-    EXPECT_EQ(b.finestra.LimiteBasso, 11);
-    EXPECT_EQ(b.finestra.LimiteAlto, 31);
-    EXPECT_TRUE(b.finestra.Start.Enabled());
+    EXPECT_EQ(b.finestra.stato.LimiteBasso, 11);
+    EXPECT_EQ(b.finestra.stato.LimiteAlto, 31);
+    EXPECT_TRUE(b.finestra.esercizio.Start.Enabled());
 }
 
 TEST(Righello, ARangeThatCrossesFromOneStaffToTheOtherDrawsNoMissingNumber) {
@@ -134,35 +134,35 @@ TEST(Righello, ARangeThatCrossesFromOneStaffToTheOtherDrawsNoMissingNumber) {
     b.Clicca(5, "Start");
     b.Fine(6);
     b.Avvia();
-    EXPECT_EQ(b.finestra.NotaCorrente, 20);
+    EXPECT_EQ(b.finestra.stato.NotaCorrente, 20);
     EXPECT_EQ(b.casuale.estratti, 3);
 }
 
 TEST(Righello, LeavesTheSelectionOfTheListAlone) {
     BancoRighello b;
     b.Segna({suN20, suN44});
-    EXPECT_EQ(b.finestra.difficolt.ListIndex(), 0);
+    EXPECT_EQ(b.finestra.intervalli.difficolt.ListIndex(), 0);
 }
 
 TEST(Righello, IsHiddenDuringARunAndTakesNoClickThen) {
     BancoRighello b;
     b.Clicca(3, "Start");
     b.Righello(4, suN20);
-    b.Quando(4.5, [&] { EXPECT_FALSE(b.finestra.Regolo.Visible()); });
+    b.Quando(4.5, [&] { EXPECT_FALSE(b.finestra.pentagramma.Regolo.Visible()); });
     b.Clicca(5, "Start");
     b.Fine(6);
     b.Avvia();
-    EXPECT_EQ(b.finestra.PrimoClick, 0);
-    EXPECT_TRUE(b.finestra.Regolo.Visible());
-    EXPECT_TRUE(b.finestra.Start.Enabled());
+    EXPECT_EQ(b.finestra.intervalli.segni.PrimoClick, 0);
+    EXPECT_TRUE(b.finestra.pentagramma.Regolo.Visible());
+    EXPECT_TRUE(b.finestra.esercizio.Start.Enabled());
 }
 
 TEST(Righello, OnlyTheHeightOfTheClickMatters) {
     BancoPrincipale b;
-    b.finestra.Regolo_MouseDown(bottoneDestro, shiftAlt, -500, suN20);
-    b.finestra.Regolo_MouseDown(0, 0, 9000, suN44);
-    EXPECT_EQ(b.finestra.LimiteBasso, 20);
-    EXPECT_EQ(b.finestra.LimiteAlto, 44);
+    b.finestra.intervalli.Regolo_MouseDown(bottoneDestro, shiftAlt, -500, suN20);
+    b.finestra.intervalli.Regolo_MouseDown(0, 0, 9000, suN44);
+    EXPECT_EQ(b.finestra.stato.LimiteBasso, 20);
+    EXPECT_EQ(b.finestra.stato.LimiteAlto, 44);
 }
 
 TEST(Righello, ItsClosingWithOneMarkStoresTheFirstRow) {

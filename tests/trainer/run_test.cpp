@@ -27,45 +27,49 @@ TEST(Corsa, ItsBeginPutsAllCountersBackAndFillsTheBar) {
     b.Clicca(5, "Start");
     b.Clicca(6, "Start");
     b.Vai(7);
-    EXPECT_EQ(b.finestra.Esatte + b.finestra.Errate, 0);
-    EXPECT_EQ(b.finestra.conta.Text(), "0");
-    EXPECT_EQ(b.finestra.er.Text(), "0");
-    EXPECT_EQ(b.finestra.PercEs.Text(), "0");
-    EXPECT_EQ(b.finestra.PercMet.Height(), b.finestra.PercBg.Height());
-    EXPECT_EQ(b.finestra.PercMet.Top(), b.finestra.PercBg.Top());
-    EXPECT_FALSE(b.finestra.frmRisultati.Visible());
+    EXPECT_EQ(b.punteggio.Esatte + b.punteggio.Errate, 0);
+    EXPECT_EQ(b.punteggio.conta.Text(), "0");
+    EXPECT_EQ(b.punteggio.er.Text(), "0");
+    EXPECT_EQ(b.punteggio.PercEs.Text(), "0");
+    EXPECT_EQ(b.punteggio.PercMet.Height(), b.punteggio.PercBg.Height());
+    EXPECT_EQ(b.punteggio.PercMet.Top(), b.punteggio.PercBg.Top());
+    EXPECT_FALSE(b.punteggio.frmRisultati.Visible());
 }
 
 TEST(Corsa, WhileItLastsMenusExitAndRulerAreOff) {
     BancoCorsa b;
     b.Vai(4);
-    for (const Controllo* c :
-         {static_cast<Controllo*>(&b.finestra.es), static_cast<Controllo*>(&b.finestra.Opzioni),
-          static_cast<Controllo*>(&b.finestra.Risorse), static_cast<Controllo*>(&b.finestra.f1),
-          static_cast<Controllo*>(&b.finestra.Esci), static_cast<Controllo*>(&b.finestra.cmdEsci)})
+    for (const Controllo* c : {static_cast<Controllo*>(&b.finestra.menu.es),
+                               static_cast<Controllo*>(&b.finestra.menu.Opzioni),
+                               static_cast<Controllo*>(&b.finestra.menu.Risorse),
+                               static_cast<Controllo*>(&b.finestra.menu.f1),
+                               static_cast<Controllo*>(&b.finestra.menu.Esci),
+                               static_cast<Controllo*>(&b.finestra.cmdEsci)})
         EXPECT_FALSE(c->Enabled()) << c->Name;
-    EXPECT_FALSE(b.finestra.Regolo.Visible());
-    EXPECT_TRUE(b.finestra.Help.Enabled());
-    EXPECT_TRUE(b.finestra.psi.Enabled());
-    EXPECT_EQ(b.finestra.Start.Caption(), "Stop");
-    EXPECT_EQ(b.finestra.Start.BackColor(), b.finestra.pdo.BackColor());
+    EXPECT_FALSE(b.finestra.pentagramma.Regolo.Visible());
+    EXPECT_TRUE(b.finestra.menu.Help.Enabled());
+    EXPECT_TRUE(b.finestra.risposte.psi.Enabled());
+    EXPECT_EQ(b.finestra.esercizio.Start.Caption(), "Stop");
+    EXPECT_EQ(b.finestra.esercizio.Start.BackColor(), b.finestra.risposte.pdo.BackColor());
 }
 
 TEST(Corsa, ItsEndPutsThemOnAgain) {
     BancoCorsa b;
     b.Clicca(4, "Start");
     b.Vai(5);
-    for (const Controllo* c :
-         {static_cast<Controllo*>(&b.finestra.es), static_cast<Controllo*>(&b.finestra.Opzioni),
-          static_cast<Controllo*>(&b.finestra.Risorse), static_cast<Controllo*>(&b.finestra.f1),
-          static_cast<Controllo*>(&b.finestra.Esci), static_cast<Controllo*>(&b.finestra.cmdEsci),
-          static_cast<Controllo*>(&b.finestra.cmdEscibg)})
+    for (const Controllo* c : {static_cast<Controllo*>(&b.finestra.menu.es),
+                               static_cast<Controllo*>(&b.finestra.menu.Opzioni),
+                               static_cast<Controllo*>(&b.finestra.menu.Risorse),
+                               static_cast<Controllo*>(&b.finestra.menu.f1),
+                               static_cast<Controllo*>(&b.finestra.menu.Esci),
+                               static_cast<Controllo*>(&b.finestra.cmdEsci),
+                               static_cast<Controllo*>(&b.finestra.cmdEscibg)})
         EXPECT_TRUE(c->Utilizzabile()) << c->Name;
-    EXPECT_TRUE(b.finestra.Regolo.Visible());
-    EXPECT_FALSE(b.finestra.psi.Enabled());
-    EXPECT_EQ(b.finestra.Start.Caption(), "Start");
-    EXPECT_EQ(b.finestra.Start.BackColor(), b.finestra.cmdEsci.BackColor());
-    EXPECT_FALSE(b.finestra.InCorso);
+    EXPECT_TRUE(b.finestra.pentagramma.Regolo.Visible());
+    EXPECT_FALSE(b.finestra.risposte.psi.Enabled());
+    EXPECT_EQ(b.finestra.esercizio.Start.Caption(), "Start");
+    EXPECT_EQ(b.finestra.esercizio.Start.BackColor(), b.finestra.cmdEsci.BackColor());
+    EXPECT_FALSE(b.finestra.esercizio.InCorso);
 }
 
 TEST(Corsa, WhileItLastsNoExitClosesTheWindow) {
@@ -73,7 +77,7 @@ TEST(Corsa, WhileItLastsNoExitClosesTheWindow) {
         BancoCorsa b;
         b.Clicca(4, uscita);
         b.Vai(5);
-        EXPECT_TRUE(b.finestra.InCorso) << uscita;
+        EXPECT_TRUE(b.finestra.esercizio.InCorso) << uscita;
     }
 }
 
@@ -81,9 +85,9 @@ TEST(Corsa, StoppedBeforeAnyAnswerItShowsNoPanelAndAnEmptyStaff) {
     BancoCorsa b;
     b.Clicca(4, "Start");
     b.Vai(5);
-    EXPECT_FALSE(b.finestra.frmRisultati.Visible());
+    EXPECT_FALSE(b.punteggio.frmRisultati.Visible());
     EXPECT_TRUE(b.NoteInVista().empty());
-    EXPECT_EQ(b.finestra.lblnn.Caption(), "");
+    EXPECT_EQ(b.finestra.pentagramma.lblnn.Caption(), "");
 }
 
 TEST(Corsa, ItsEndSilencesTheNote) {
@@ -108,12 +112,12 @@ TEST(Risultati, ShowTheCountsAndTheScoreBehindTheirTexts) {
     b.Tasto(5, 'D');
     b.Clicca(63, "Start");
     b.Vai(64);
-    EXPECT_TRUE(b.finestra.frmRisultati.Visible());
-    EXPECT_EQ(b.finestra.Lresatte.Caption(), "esatte 1");
-    EXPECT_EQ(b.finestra.Lrerrate.Caption(), "errate 1");
-    EXPECT_EQ(b.finestra.Ridate.Caption(), "date 2");
-    EXPECT_EQ(b.finestra.Lnmostrate.Caption(), "perc 50.00%");
-    EXPECT_EQ(b.finestra.Tempoimp.Caption(), "tempo 1:0 mm:ss");
+    EXPECT_TRUE(b.punteggio.frmRisultati.Visible());
+    EXPECT_EQ(b.punteggio.Lresatte.Caption(), "esatte 1");
+    EXPECT_EQ(b.punteggio.Lrerrate.Caption(), "errate 1");
+    EXPECT_EQ(b.punteggio.Ridate.Caption(), "date 2");
+    EXPECT_EQ(b.punteggio.Lnmostrate.Caption(), "perc 50.00%");
+    EXPECT_EQ(b.punteggio.Tempoimp.Caption(), "tempo 1:0 mm:ss");
 }
 
 TEST(Risultati, WithoutALanguageFileTheirTextsAreBare) {
@@ -121,8 +125,8 @@ TEST(Risultati, WithoutALanguageFileTheirTextsAreBare) {
     b.Tasto(4, 'H');
     b.Clicca(5, "Start");
     b.Vai(6);
-    EXPECT_EQ(b.finestra.Lresatte.Caption(), "1");
-    EXPECT_EQ(b.finestra.Tempoimp.Caption(), "0:2 mm:ss");
+    EXPECT_EQ(b.punteggio.Lresatte.Caption(), "1");
+    EXPECT_EQ(b.punteggio.Tempoimp.Caption(), "0:2 mm:ss");
 }
 
 TEST(Risultati, TheHourIsLostAndNoFieldIsPadded) {
@@ -130,7 +134,7 @@ TEST(Risultati, TheHourIsLostAndNoFieldIsPadded) {
     b.Tasto(4, 'H');
     b.Clicca(3 + 61 * 60 + 5, "Start");
     b.Vai(5000);
-    EXPECT_EQ(b.finestra.Tempoimp.Caption(), "1:5 mm:ss");
+    EXPECT_EQ(b.punteggio.Tempoimp.Caption(), "1:5 mm:ss");
 }
 
 TEST(Risultati, ARunAcrossMidnightHasItsTime) {
@@ -139,19 +143,19 @@ TEST(Risultati, ARunAcrossMidnightHasItsTime) {
     b.Tasto(4, 'H');
     b.Clicca(3 + 90, "Start");
     b.Vai(100);
-    EXPECT_EQ(b.finestra.Tempoimp.Caption(), "1:30 mm:ss");
+    EXPECT_EQ(b.punteggio.Tempoimp.Caption(), "1:30 mm:ss");
 }
 
 TEST(Risultati, ASecondRunHasATimeOfItsOwn) {
     BancoCorsa b;
     b.Tasto(4, 'H');
     b.Clicca(3 + 100, "Start");
-    b.Quando(110, [&] { EXPECT_EQ(b.finestra.Tempoimp.Caption(), "1:40 mm:ss"); });
+    b.Quando(110, [&] { EXPECT_EQ(b.punteggio.Tempoimp.Caption(), "1:40 mm:ss"); });
     b.Clicca(200, "Start");
     b.Tasto(201, 'H');
     b.Clicca(207, "Start");
     b.Vai(210);
-    EXPECT_EQ(b.finestra.Tempoimp.Caption(), "0:7 mm:ss");
+    EXPECT_EQ(b.punteggio.Tempoimp.Caption(), "0:7 mm:ss");
 }
 
 TEST(Risultati, StandUntilTheNextRunBegins) {
@@ -161,10 +165,10 @@ TEST(Risultati, StandUntilTheNextRunBegins) {
     b.Clicca(6, "difficolt", 3);
     b.Clicca(6, "mnuAutomatico");
     b.Clicca(6, "mnuNormale");
-    b.Quando(7, [&] { EXPECT_TRUE(b.finestra.frmRisultati.Visible()); });
+    b.Quando(7, [&] { EXPECT_TRUE(b.punteggio.frmRisultati.Visible()); });
     b.Clicca(8, "Start");
     b.Vai(9);
-    EXPECT_FALSE(b.finestra.frmRisultati.Visible());
+    EXPECT_FALSE(b.punteggio.frmRisultati.Visible());
 }
 
 TEST(Corsa, TheFirstNotesAfterAFreshStartRepeatFromOneStartToTheNext) {
@@ -177,7 +181,7 @@ TEST(Corsa, TheFirstNotesAfterAFreshStartRepeatFromOneStartToTheNext) {
         b.Clicca(3, "Start");
         corse.emplace_back();
         for (int i = 0; i < 100; ++i)
-            b.Quando(4 + 2 * i, [&] { corse.back().push_back(finestra.NotaCorrente); });
+            b.Quando(4 + 2 * i, [&] { corse.back().push_back(finestra.stato.NotaCorrente); });
         b.Fine(300);
         b.SvolgiCopione([&] {
             b.finestre.Mostra(finestra);
@@ -192,13 +196,13 @@ TEST(Corsa, InTheFiveOctavesNoMissingNumberEverComesUp) {
     BancoPrincipale b;
     CasualeFisso casuale;
     CorvanaMainF finestra(b.Con(casuale), {});
-    finestra.LimiteBasso = 14;
-    finestra.LimiteAlto = 64;
-    finestra.Suono1_Click();
+    finestra.stato.LimiteBasso = 14;
+    finestra.stato.LimiteAlto = 64;
+    finestra.menu.Suono1_Click();
     std::array<int, 256> volte{};
     for (int i = 0; i < 100000; ++i) {
-        finestra.Mostranota();
-        ++volte.at(finestra.NotaCorrente);
+        finestra.esercizio.Mostranota();
+        ++volte.at(finestra.stato.NotaCorrente);
     }
     for (int numero = 0; numero < 256; ++numero)
         EXPECT_EQ(volte.at(static_cast<std::size_t>(numero)) > 0,

@@ -26,10 +26,10 @@ const std::string nonNumero = "13\r\nType mismatch";
 const std::string troppo = "6\r\nOverflow";
 
 void EscePrimaRiga(const BancoRipresa& b, const std::string& stato) {
-    EXPECT_EQ(b.finestra.difficolt.ListIndex(), 0) << stato;
-    EXPECT_EQ(b.finestra.LimiteBasso, 43) << stato;
-    EXPECT_EQ(b.finestra.LimiteAlto, 53) << stato;
-    EXPECT_TRUE(b.finestra.Start.Enabled()) << stato;
+    EXPECT_EQ(b.finestra.intervalli.difficolt.ListIndex(), 0) << stato;
+    EXPECT_EQ(b.finestra.stato.LimiteBasso, 43) << stato;
+    EXPECT_EQ(b.finestra.stato.LimiteAlto, 53) << stato;
+    EXPECT_TRUE(b.finestra.esercizio.Start.Enabled()) << stato;
 }
 
 }  // namespace
@@ -38,7 +38,7 @@ TEST(Ripresa, AnEmptyTextGivesTheFirstRowAndNoBox) {
     const BancoRipresa b("");
     EscePrimaRiga(b, "");
     EXPECT_TRUE(b.riquadri.messaggi.empty());
-    EXPECT_EQ(b.finestra.Modo, "normale");
+    EXPECT_EQ(b.finestra.stato.Modo, "normale");
     EXPECT_EQ(b.globali.StrumentoGlobale, 16);
 }
 
@@ -47,29 +47,29 @@ TEST(Ripresa, EachRowIsSelectedByItsLimits) {
         const RigaEsercizio& riga = righeEsercizio.at(i);
         if (!riga.limiteBasso) continue;
         const BancoRipresa b(ComponiStato({riga.limiteBasso, riga.limiteAlto, 16, 30, false}));
-        EXPECT_EQ(b.finestra.difficolt.ListIndex(), static_cast<int>(i));
+        EXPECT_EQ(b.finestra.intervalli.difficolt.ListIndex(), static_cast<int>(i));
         EXPECT_EQ(b.NoteInVista(), (std::vector<int>{riga.limiteBasso, riga.limiteAlto}));
     }
 }
 
 TEST(Ripresa, ARangeOfTheRulerIsShownAndTheListLeftAlone) {
     const BancoRipresa b("20;44;16;30;n");
-    EXPECT_EQ(b.finestra.difficolt.ListIndex(), -1);
+    EXPECT_EQ(b.finestra.intervalli.difficolt.ListIndex(), -1);
     EXPECT_EQ(b.NoteInVista(), (std::vector<int>{20, 44}));
-    EXPECT_EQ(b.finestra.LimiteBasso, 20);
-    EXPECT_EQ(b.finestra.PrimoClick, 0);
-    EXPECT_TRUE(b.finestra.CaricamentoLista);
+    EXPECT_EQ(b.finestra.stato.LimiteBasso, 20);
+    EXPECT_EQ(b.finestra.intervalli.segni.PrimoClick, 0);
+    EXPECT_TRUE(b.finestra.intervalli.CaricamentoLista);
 }
 
 TEST(Ripresa, TheInstrumentTheSpeedAndTheModeComeBack) {
     const BancoRipresa b("43;53;40;120;a");
     EXPECT_EQ(b.globali.StrumentoGlobale, 40);
-    EXPECT_EQ(b.finestra.Slider1.Value(), 120);
-    EXPECT_DOUBLE_EQ(b.finestra.SecondiNota, 0.5);
-    EXPECT_EQ(b.finestra.Modo, "automatico");
-    EXPECT_TRUE(b.finestra.Slider1.Visible());
-    EXPECT_TRUE(b.finestra.mnuAutomatico.Checked());
-    EXPECT_FALSE(b.finestra.mnuNormale.Checked());
+    EXPECT_EQ(b.finestra.automatico.Slider1.Value(), 120);
+    EXPECT_DOUBLE_EQ(b.finestra.stato.SecondiNota, 0.5);
+    EXPECT_EQ(b.finestra.stato.Modo, "automatico");
+    EXPECT_TRUE(b.finestra.automatico.Slider1.Visible());
+    EXPECT_TRUE(b.finestra.menu.mnuAutomatico.Checked());
+    EXPECT_FALSE(b.finestra.menu.mnuNormale.Checked());
     EXPECT_EQ(b.uscita.ConStato(0xC0), (std::vector<std::pair<int, int>>{{40, 0}}));
 }
 
@@ -114,8 +114,8 @@ TEST(Ripresa, ASpeedBeyondTheSliderIsClamped) {
                                                            {"43;53;16;0;n", 20}};
     for (const auto& [stato, valore] : casi) {
         const BancoRipresa b(stato);
-        EXPECT_EQ(b.finestra.Slider1.Value(), valore) << stato;
-        EXPECT_DOUBLE_EQ(b.finestra.SecondiNota, 60.0 / valore) << stato;
+        EXPECT_EQ(b.finestra.automatico.Slider1.Value(), valore) << stato;
+        EXPECT_DOUBLE_EQ(b.finestra.stato.SecondiNota, 60.0 / valore) << stato;
     }
 }
 
@@ -136,7 +136,7 @@ TEST(Ripresa, AnAbsentValueShowsItsBoxAndGivesTheFirstRow) {
     b.Fine(3);
     b.Avvia();
     EXPECT_EQ(b.riquadri.messaggi, Avvisi{"Error2 Querying key: 2"});
-    EXPECT_EQ(b.finestra.difficolt.ListIndex(), 0);
+    EXPECT_EQ(b.finestra.intervalli.difficolt.ListIndex(), 0);
 }
 
 /// Any stored text leads to a window in which fifty notes are drawn and that closes.
@@ -148,7 +148,7 @@ void EUsabile(const std::string& stato) {
     b.Clicca(3, "Start");
     b.Quando(4, [&] {
         for (int i = 0; i < 50; ++i)
-            finestra.Mostranota();
+            finestra.esercizio.Mostranota();
     });
     b.Chiudi(5);
     const bool svolta = b.SvolgiCopione([&] {

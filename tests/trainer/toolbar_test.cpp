@@ -37,17 +37,17 @@ TEST(BarraStrumenti, EachButtonDoesWhatItsMenuEntryDoes) {
                               "frmStrum", "aiuto"}));
     EXPECT_EQ(b.globali.ContestoInto, 3);
     EXPECT_TRUE(b.globali.PaginaInto[0]);
-    EXPECT_EQ(b.finestra.Modo, "automatico");
+    EXPECT_EQ(b.finestra.stato.Modo, "automatico");
 }
 
 TEST(BarraStrumenti, TheSixthButtonFlipsTheMode) {
     BancoBarra b;
     b.Clicca(3, "ToolButton6");
-    b.Quando(3.5, [&] { EXPECT_TRUE(b.finestra.mnuAutomatico.Checked()); });
+    b.Quando(3.5, [&] { EXPECT_TRUE(b.finestra.menu.mnuAutomatico.Checked()); });
     b.Clicca(4, "ToolButton6");
     b.Vai(5);
-    EXPECT_TRUE(b.finestra.mnuNormale.Checked());
-    EXPECT_EQ(b.finestra.Modo, "normale");
+    EXPECT_TRUE(b.finestra.menu.mnuNormale.Checked());
+    EXPECT_EQ(b.finestra.stato.Modo, "normale");
 }
 
 TEST(BarraStrumenti, DuringARunNoButtonActs) {
@@ -57,30 +57,30 @@ TEST(BarraStrumenti, DuringARunNoButtonActs) {
         b.Clicca(3 + i, "ToolButton" + std::to_string(i));
     b.Vai(11);
     EXPECT_TRUE(b.aperte.empty());
-    EXPECT_EQ(b.finestra.Modo, "normale");
+    EXPECT_EQ(b.finestra.stato.Modo, "normale");
 }
 
 TEST(BarraStrumenti, TheFirstIsGuardedByTheExercisesAndTheOthersByTheResources) {
     for (const bool esercizi : {true, false}) {
         BancoBarra b;
-        (esercizi ? b.finestra.es : b.finestra.Risorse).Enabled = false;
+        (esercizi ? b.finestra.menu.es : b.finestra.menu.Risorse).Enabled = false;
         for (int i = 1; i <= 7; ++i)
-            b.finestra.ToolButton_Click(i);
+            b.finestra.barra.ToolButton_Click(i);
         EXPECT_EQ(b.aperte, esercizi ? (Nomi{"frmComposer", "metronomo alterna", "frmOptions",
                                              "frmStrum", "aiuto"})
                                      : Nomi{"frmInto"});
-        EXPECT_EQ(b.finestra.Modo, esercizi ? "automatico" : "normale");
+        EXPECT_EQ(b.finestra.stato.Modo, esercizi ? "automatico" : "normale");
     }
 }
 
 TEST(BarraStrumenti, TheStripBesideItHidesAndShowsIt) {
     BancoBarra b;
     b.Clicca(3, "ShToolbar");
-    b.Quando(3.5, [&] { EXPECT_FALSE(b.finestra.frToolBar.Visible()); });
+    b.Quando(3.5, [&] { EXPECT_FALSE(b.finestra.barra.frToolBar.Visible()); });
     b.Clicca(4, "ToolButton2");
     b.Clicca(5, "ShToolbar");
     b.Vai(6);
-    EXPECT_TRUE(b.finestra.frToolBar.Visible());
+    EXPECT_TRUE(b.finestra.barra.frToolBar.Visible());
     EXPECT_TRUE(b.aperte.empty());
 }
 
@@ -89,12 +89,11 @@ TEST(Puntatore, AButtonSinksUnderItOnceAndComesBackWhenItLeaves) {
     const BancoPrincipale intatto;
     b.Passa(3, "ToolButton2");
     b.Passa(3.1, "ToolButton2");
-    b.Quando(3.5, [&] {
-        EXPECT_EQ(Affondo(b.finestra.ToolButton[1], intatto.finestra), 10);
-    });
+    b.Quando(3.5,
+             [&] { EXPECT_EQ(Affondo(b.finestra.barra.ToolButton[1], intatto.finestra), 10); });
     b.Passa(4, "");
     b.Vai(5);
-    EXPECT_EQ(Affondo(b.finestra.ToolButton[1], intatto.finestra), 0);
+    EXPECT_EQ(Affondo(b.finestra.barra.ToolButton[1], intatto.finestra), 0);
 }
 
 TEST(Puntatore, FromButtonToButtonOneAloneIsSunk) {
@@ -104,8 +103,9 @@ TEST(Puntatore, FromButtonToButtonOneAloneIsSunk) {
         b.Passa(2 + i, "ToolButton" + std::to_string(i));
     b.Vai(10);
     for (int i = 0; i < 7; ++i)
-        EXPECT_EQ(Affondo(b.finestra.ToolButton.at(static_cast<std::size_t>(i)), intatto.finestra),
-                  i == 6 ? 10 : 0);
+        EXPECT_EQ(
+            Affondo(b.finestra.barra.ToolButton.at(static_cast<std::size_t>(i)), intatto.finestra),
+            i == 6 ? 10 : 0);
 }
 
 TEST(Puntatore, TheStavesTheRulerAndTheToolbarsFaceSetBackWhatIsSunk) {
@@ -115,7 +115,7 @@ TEST(Puntatore, TheStavesTheRulerAndTheToolbarsFaceSetBackWhatIsSunk) {
         b.Passa(3, "ToolButton4");
         b.Passa(4, dove);
         b.Vai(5);
-        EXPECT_EQ(Affondo(b.finestra.ToolButton[3], intatto.finestra), 0) << dove;
+        EXPECT_EQ(Affondo(b.finestra.barra.ToolButton[3], intatto.finestra), 0) << dove;
     }
 }
 
@@ -138,24 +138,22 @@ TEST(Puntatore, TheExitsPictureSinksAndItsLabelTurnsRedAndBlueAgainWhicheverIsUn
 TEST(Puntatore, TheHelpButtonShowsABorderUnderIt) {
     BancoBarra b;
     b.Passa(3, "lblMn");
-    b.Quando(3.5, [&] { EXPECT_EQ(b.finestra.lblMn.BorderStyle(), 1); });
+    b.Quando(3.5, [&] { EXPECT_EQ(b.finestra.pentagramma.lblMn.BorderStyle(), 1); });
     b.Passa(4, "img");
     b.Vai(5);
-    EXPECT_EQ(b.finestra.lblMn.BorderStyle(), 0);
+    EXPECT_EQ(b.finestra.pentagramma.lblMn.BorderStyle(), 0);
 }
 
 TEST(Puntatore, TheStripLightsUpUnderIt) {
     const Sfumatura accesa{Rgb(0, 197, 218), Rgb(213, 255, 255), true, true};
     const Sfumatura spenta{Rgb(154, 0, 223), Rgb(255, 213, 255), true, true};
     BancoBarra b;
-    b.Quando(2.9, [&] { EXPECT_EQ(b.finestra.ShToolbar.Sfondo(), spenta); });
+    b.Quando(2.9, [&] { EXPECT_EQ(b.finestra.barra.ShToolbar.Sfondo(), spenta); });
     b.Passa(3, "ShToolbar");
-    b.Quando(3.5, [&] {
-        EXPECT_EQ(b.finestra.ShToolbar.Sfondo(), accesa);
-    });
+    b.Quando(3.5, [&] { EXPECT_EQ(b.finestra.barra.ShToolbar.Sfondo(), accesa); });
     b.Passa(4, "");
     b.Vai(5);
-    EXPECT_EQ(b.finestra.ShToolbar.Sfondo(), spenta);
+    EXPECT_EQ(b.finestra.barra.ShToolbar.Sfondo(), spenta);
 }
 
 TEST(Puntatore, ButtonsThatOpenAWindowComeBackBeforeTheyAct) {

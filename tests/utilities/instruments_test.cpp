@@ -101,17 +101,17 @@ TEST(Strumenti, ItTellsThatItIsOpenFromItsLoadToItsEnd) {
 
 TEST(Strumenti, WhatIsSunkInTheMainWindowHindersNothingHereAndComesBackAfterwards) {
     BancoStrumenti b;
-    const int riposo = b.finestra.ToolButton[2].Top();
+    const int riposo = b.finestra.barra.ToolButton[2].Top();
     b.Fa(2.8, Fatto::MouseMove, "ToolButton3");
     b.Fa(4, Fatto::MouseMove, "cmdTest");
     b.Quando(4.5, [&] {
-        EXPECT_EQ(b.finestra.ToolButton[2].Top(), riposo + 10);
+        EXPECT_EQ(b.finestra.barra.ToolButton[2].Top(), riposo + 10);
         EXPECT_EQ(b.Scelta().cmdTest.Top(), 310);
     });
     b.Tasto(5, 27);
     b.Fa(6, Fatto::MouseMove, "");
     b.Vai(7);
-    EXPECT_EQ(b.finestra.ToolButton[2].Top(), riposo);
+    EXPECT_EQ(b.finestra.barra.ToolButton[2].Top(), riposo);
 }
 
 TEST(Strumenti, ItsPictureAndItsExitSinkUnderThePointerAndComeBack) {

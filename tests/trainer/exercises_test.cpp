@@ -1,11 +1,12 @@
-// The exercises' table and the draw from a range.
+// The exercises' table, the ranges that the ruler marks, and the draw from a range.
+#include "trainer/exercises.h"
+
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
 #include <cmath>
 
 #include "core/random.h"
-#include "trainer/exercises.h"
 #include "trainer/positions.h"
 
 namespace corvana::prova {
@@ -61,6 +62,50 @@ TEST(RigaDaLimiti, KnowsNoOtherPair) {
         for (int alto = 0; alto <= 255; ++alto)
             trovate += RigaDaLimiti(basso, alto).has_value();
     EXPECT_EQ(trovate, 9);
+}
+
+TEST(RigaDiPartenza, IsTheRowOfTheLimitsElseTheFirstUnlessTheRulerMadeTheRange) {
+    struct Caso {
+        int basso, alto;
+        std::optional<int> riga;
+    };
+    constexpr std::optional<int> dalRegolo;
+    for (const Caso& caso : {
+             Caso{43, 53, 0},
+             Caso{40, 62, 3},
+             Caso{18, 26, 5},
+             Caso{14, 64, 10},
+             Caso{0, 0, 0},
+             Caso{0, 43, 0},
+             Caso{10, 12, 0},
+             Caso{11, 11, 0},
+             Caso{11, 12, dalRegolo},
+             Caso{31, 40, dalRegolo},
+             Caso{44, 45, dalRegolo},
+             Caso{63, 64, dalRegolo},
+             // Between the staves, and the wrong way round: no note lies there.
+             Caso{32, 39, 0},
+             Caso{50, 45, 0},
+             Caso{65, 255, 0},
+         })
+        EXPECT_EQ(RigaDiPartenza(caso.basso, caso.alto), caso.riga)
+            << caso.basso << " to " << caso.alto;
+}
+
+TEST(ConSegno, PutsTheFirstThenTheSecondAndKeepsBoth) {
+    const SegniRegolo vuoti;
+    EXPECT_TRUE(vuoti.Nessuno());
+    EXPECT_FALSE(vuoti.Completi());
+    const SegniRegolo uno = ConSegno(vuoti, 20);
+    EXPECT_EQ(uno, (SegniRegolo{20, 0}));
+    EXPECT_FALSE(uno.Nessuno());
+    EXPECT_FALSE(uno.Completi());
+    const SegniRegolo due = ConSegno(uno, 15);
+    EXPECT_EQ(due, (SegniRegolo{20, 15}));
+    EXPECT_FALSE(due.Nessuno());
+    EXPECT_TRUE(due.Completi());
+    EXPECT_EQ(ConSegno(due, 30), due);
+    EXPECT_EQ(ConSegno(uno, 20), (SegniRegolo{20, 20}));
 }
 
 TEST(PosizioneEstratta, IsTheWholePartOfTheDrawTimesTheWidthPlusTheLowerLimit) {

@@ -1,0 +1,34 @@
+// The panel of the staves: the notes on them, the ruler beside them, the note's name. Logic thread.
+#pragma once
+
+#include <deque>
+
+#include "core/hover.h"
+#include "forms/form.h"
+
+namespace corvana {
+
+class Pentagramma {
+public:
+    /// Makes the controls in `finestra`, which must live as long as the panel.
+    Pentagramma(Form& finestra, HoverFinestra& hover);
+
+private:
+    Form& finestra_;
+
+public:
+    Figura img{finestra_, "img"};
+    /// The note controls "n11" to "n31" and "n40" to "n64", on the picture of the staves.
+    std::deque<Figura> n;
+    Cornice Regolo{finestra_, "Regolo"};
+    Etichetta lblnn{finestra_, "lblnn"};
+    Etichetta lblMn{finestra_, "lblMn"};
+
+    /// Shows or hides the note's name.
+    void lblMn_Click();
+
+private:
+    void DisponiNote();
+};
+
+}  // namespace corvana
