@@ -30,12 +30,12 @@ struct Banco {
     Banco(const std::string& cartella, long note, int variante) {
         misura::Riempi(palco.melodia, note, misura::stileMisto, variante);
         palco.globali.percorsoCorrente = cartella;
-        palco.finestra.SalvaMelodia(nome);
+        palco.finestra.archivio.SalvaMelodia(nome);
         file.Leggi(cartella + nome + ".mel", byte);
     }
     /// False when the window had to tell something.
     bool Salva() {
-        palco.finestra.SalvaMelodia(nome);
+        palco.finestra.archivio.SalvaMelodia(nome);
         return palco.riquadri.messaggi.empty();
     }
 

@@ -26,7 +26,7 @@ struct Banco {
         for (std::size_t voce = 0; voce < numeroVoci; ++voce)
             palco.Aggiorna(voce);
         palco.globali.percorsoCorrente = cartella.Di("");
-        palco.finestra.SalvaMelodia(nome);
+        palco.finestra.archivio.SalvaMelodia(nome);
         palco.Scegli(cartella.Di(""), nome);
         file.Leggi(cartella.Di("lunga.mel"), byte);
     }
@@ -47,9 +47,9 @@ double Carica(Banco& banco) {
     const misura::Cronometro cronometro;
     banco.orologio.Quando(banco.orologio.Adesso(), [&] {
         passati = cronometro.Millisecondi();
-        banco.palco.Premi(banco.palco.finestra.cmdPlay);
+        banco.palco.Premi(banco.palco.finestra.play.cmdPlay);
     });
-    banco.palco.finestra.cmdEseguiFile_Click();
+    banco.palco.finestra.archivio.cmdEseguiFile_Click();
     return passati;
 }
 
@@ -83,8 +83,10 @@ void MisuraCaricamento(Banco& banco) {
 void MisuraSalvataggio(Banco& banco) {
     const frmComposer& finestra = banco.palco.finestra;
     MisuraVolte("save of 4 x 32,767 notes", prove,
-                [&] { banco.palco.finestra.SalvaMelodia(nome); });
-    MisuraVolte("  ScriviMel", prove, [&] { ScriviMel({finestra.melodia.voci, 60, {}, {}}); });
+                [&] { banco.palco.finestra.archivio.SalvaMelodia(nome); });
+    MisuraVolte("  ScriviMel", prove, [&] {
+        ScriviMel({finestra.stato.melodia.voci, 60, {}, {}});
+    });
     MisuraVolte("  ScriviAtomico", prove,
                 [&] { banco.file.ScriviAtomico(banco.cartella.Di("altra.mel"), banco.byte); });
 }
@@ -95,17 +97,18 @@ void MisuraInserimento(prova::PalcoMelodia& palco, long note) {
     VoceMelodia& voce = palco.melodia.voci[soprano];
     for (int i = 0; i < proveInserimento; ++i) {
         misura::Riempi(voce, note - 1, misura::stileMisto, 0);
-        palco.finestra.AggiornaVoce();
+        palco.finestra.voci.AggiornaVoce();
         const misura::Cronometro cronometro;
         voce.testoNote += "60;";
         voce.testoDurate += "0.25;";
         voce.testoAttributi += "n;";
-        palco.finestra.AggiornaVoce();
+        palco.finestra.voci.AggiornaVoce();
         tempi.push_back(cronometro.Millisecondi());
     }
     const std::string titolo = "insertion as the last of " + std::to_string(note) + " notes, ";
     misura::Stampa(titolo + "AggiornaVoce", tempi, "ms");
-    MisuraVolte("  its display, MostraNoteVoce", prove, [&] { palco.finestra.MostraNoteVoce(); });
+    MisuraVolte("  its display, MostraNoteVoce", prove,
+                [&] { palco.finestra.voci.MostraNoteVoce(); });
 }
 
 }  // namespace

@@ -63,9 +63,9 @@ Ripresa Riprendi(const prova::ServerSonoro& server, const std::string& melodia, 
         });
         // The load starts a play, which is stopped at once.
         palco.Scegli(CORVANA_DEMO "/", melodia);
-        palco.Premi(palco.finestra.cmdPlay);
-        palco.finestra.cmdEseguiFile_Click();
-        palco.finestra.SceltaStrum(programma);
+        palco.Premi(palco.finestra.play.cmdPlay);
+        palco.finestra.archivio.cmdEseguiFile_Click();
+        palco.finestra.mix.SceltaStrum(programma);
         for (std::size_t voce = soprano + 1; voce < numeroVoci; ++voce) {
             palco.melodia.voci[voce] = {};
             palco.Aggiorna(voce);
@@ -74,7 +74,7 @@ Ripresa Riprendi(const prova::ServerSonoro& server, const std::string& melodia, 
         palco.pompa.Attendi(2);
         prova::Registrazione registrazione(server);
         palco.pompa.Attendi(0.5);
-        palco.finestra.cmdPlay_Click();
+        palco.finestra.play.cmdPlay_Click();
         palco.pompa.Attendi(1);
         ripresa.suono = registrazione.Ferma();
     });

@@ -13,7 +13,7 @@
 
 #include "bench/figures.h"
 #include "bench/long_voices.h"
-#include "composer/ranges.h"
+#include "composer/play_panel.h"
 #include "desktop/remote_mirror.h"
 #include "forms/real_clock.h"
 #include "forms/virtual_clock.h"
@@ -99,10 +99,10 @@ void Suona(prova::PalcoMelodia& palco, OrologioMisurato& orologio, long tick,
     misura::Riempi(palco.melodia, tick / tickPerNota, misura::stileFitto, 0);
     for (std::size_t voce = 0; voce < numeroVoci; ++voce)
         palco.Aggiorna(voce);
-    palco.finestra.Slider1.PonValore(tempoMassimo);
-    palco.finestra.lblTs_Click();
-    palco.finestra.DurataPulsazioni.PonTesto("16");
-    palco.finestra.cmdPlay_Click();
+    palco.finestra.play.Slider1.PonValore(tempoMassimo);
+    palco.finestra.pulsi.lblTs_Click();
+    palco.finestra.pulsi.DurataPulsazioni.PonTesto("16");
+    palco.finestra.play.cmdPlay_Click();
     misura::Stampa(titolo + ", by the clock", orologio.passati, "us");
     misura::Stampa(titolo + ", processor", orologio.lavorati, "us");
     for (const std::string& messaggio : palco.riquadri.messaggi)

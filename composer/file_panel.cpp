@@ -1,7 +1,7 @@
-// The list of folders and melodies of the current folder.
+#include "composer/file_panel.h"
+
 #include <algorithm>
 
-#include "composer/composer.h"
 #include "core/text.h"
 #include "melody/names.h"
 
@@ -9,8 +9,16 @@ namespace corvana {
 
 namespace {
 
+/// The melodies that come with the program, below its folder.
+constexpr const char* cartellaDemo = "/Melodie/Demo/";
+
 constexpr std::string_view segnoCartella = "» ";
 constexpr std::string_view cartellaSopra = "» ..";
+
+std::string ConSeparatore(std::string cartella) {
+    if (!cartella.ends_with('/')) cartella += '/';
+    return cartella;
+}
 
 void Ordina(Righe& righe) {
     std::stable_sort(righe.begin(), righe.end(), [](const std::string& a, const std::string& b) {
@@ -30,14 +38,35 @@ void Entra(std::string& percorso, std::string_view riga) {
 
 }  // namespace
 
-void frmComposer::mnuApri_Click() {
+PannelloFile::PannelloFile(const Ambiente& ambiente, Form& finestra, StatoComposer& stato,
+                           VicineFile vicine)
+    : finestra_(finestra),
+      a_(ambiente),
+      stato_(stato),
+      melodia_(stato.melodia),
+      vicine_(std::move(vicine)) {
+    Fr2.Visible = false;
+    cmdEseguiFile.Click = [this] { cmdEseguiFile_Click(); };
+}
+
+void PannelloFile::Carica() {
+    const std::string ultima = a_.impostazioni.LeggiValore("LastDir");
+    a_.globali.percorsoCorrente =
+        ultima.empty() ? a_.globali.CartellaProgramma + cartellaDemo : ConSeparatore(ultima);
+}
+
+void PannelloFile::Ricorda() {
+    a_.impostazioni.ScriviValore("LastDir", a_.globali.percorsoCorrente);
+}
+
+void PannelloFile::mnuApri_Click() {
     if (Fr2.Visible() && !List1.List->empty()) return;
     Fr2.Visible = true;
     ListaFD();
 }
 
-void frmComposer::ListaFD() {
-    if (InPlay()) return;
+void PannelloFile::ListaFD() {
+    if (stato_.inEsecuzione) return;
     const std::string& percorso = a_.globali.percorsoCorrente;
     lblPercorso.Caption = Minuscolo(percorso);
     lblPercorso.ToolTipText = " " + Minuscolo(percorso) + " ";
@@ -60,10 +89,10 @@ void frmComposer::ListaFD() {
     List1.List = std::move(cartelle);
 }
 
-void frmComposer::cmdEseguiFile_Click() {
+void PannelloFile::cmdEseguiFile_Click() {
     const std::string riga = List1.Scelta();
     if (riga.empty()) return;
-    if (!riga.starts_with(segnoCartella)) return CaricaMelodia(riga);
+    if (!riga.starts_with(segnoCartella)) return vicine_.carica(riga);
     Entra(a_.globali.percorsoCorrente, riga);
     ListaFD();
 }

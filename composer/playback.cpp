@@ -1,7 +1,7 @@
 // The rounds of a play.
 #include "composer/playback.h"
 
-#include "composer/ranges.h"
+#include "core/notation.h"
 #include "melody/numbers.h"
 #include "melody/tokens.h"
 
@@ -10,18 +10,19 @@ namespace corvana {
 namespace {
 
 constexpr int pausaTraGiri = 500;  // milliseconds
+constexpr std::int16_t canalePulsi = 10;
 
 }  // namespace
 
-Esecuzione::Esecuzione(frmComposer& finestra, const Ambiente& ambiente,
-                       const std::int16_t& primaNota, const std::int16_t& ultimaNota,
-                       const bool& soloNota)
-    : f_(finestra),
-      a_(ambiente),
-      stato_(finestra.riproduzione),
-      primaNota_(primaNota),
-      ultimaNota_(ultimaNota),
-      soloNota_(soloNota) {}
+Esecuzione::Esecuzione(const Ambiente& ambiente, StatoComposer& stato, PannelloPlay& comandi,
+                       const VicinePlay& vicine, const DaSuonare& tratto)
+    : a_(ambiente),
+      s_(stato),
+      melodia_(stato.melodia),
+      stato_(stato.riproduzione),
+      comandi_(comandi),
+      vicine_(vicine),
+      tratto_(tratto) {}
 
 void Esecuzione::Suona() {
     SpegniResti();
@@ -41,8 +42,8 @@ void Esecuzione::Suona() {
 bool Esecuzione::Giro() {
     PreparaGiro();
     if (!Percorri()) return false;
-    if (!f_.chekLoop.Value() || !f_.inEsecuzione) return false;
-    if (stato_.parziale) f_.SpegniNoteVoci();
+    if (!comandi_.chekLoop.Value() || !s_.inEsecuzione) return false;
+    if (stato_.parziale) vicine_.spegniNoteVoci();
     SpegniFuoriTastiera();
     SpegniPulso();
     Pausa();
@@ -50,7 +51,7 @@ bool Esecuzione::Giro() {
 }
 
 void Esecuzione::PreparaGiro() {
-    if (stato_.parziale) inizi_[soprano] = {primaNota_, 0};
+    if (stato_.parziale) inizi_[soprano] = {tratto_.primaNota, 0};
     for (std::size_t voce = 0; voce < numeroVoci; ++voce) {
         StatoVoce& v = stato_.voci[voce];
         v.posizione = inizi_[voce].posizione;
@@ -58,31 +59,32 @@ void Esecuzione::PreparaGiro() {
         v.notaAvviata = v.deveSuonare = v.staSuonando = false;
         v.tuplet = {};
     }
-    if (!stato_.parziale) inizioPulso_.pulsoCorrente = f_.pulsoIniziale;
+    if (!stato_.parziale) inizioPulso_.pulsoCorrente = vicine_.battuta.pulsoIniziale;
     const std::int16_t notaPulso = stato_.pulso.notaPulso;
     stato_.pulso = inizioPulso_;
     stato_.pulso.notaPulso = notaPulso;
     tick_ = 0;
-    if (f_.melodia.modoPasso) PreparaPasso();
+    if (s_.passo.modoPasso) PreparaPasso();
 }
 
 /// Of all voices only the active one plays, and of it only the notes asked for.
 void Esecuzione::PreparaPasso() {
     for (StatoVoce& voce : stato_.voci)
         voce.ultima = -1;
-    StatoVoce& attiva = stato_.voci[f_.melodia.IndiceAttiva()];
-    attiva.posizione = primaNota_;
-    attiva.ultima = ultimaNota_;
+    StatoVoce& attiva = stato_.voci[melodia_.IndiceAttiva()];
+    attiva.posizione = tratto_.primaNota;
+    attiva.ultima = tratto_.ultimaNota;
 }
 
 /// The ticks of one round. False when the one note that was asked for is over.
 bool Esecuzione::Percorri() {
-    while (tick_ < limiteTick_ && f_.inEsecuzione) {
-        f_.Cursore.Left = static_cast<int>(ArrotondaAlPari(
+    while (tick_ < limiteTick_ && s_.inEsecuzione) {
+        comandi_.Cursore.Left = static_cast<int>(ArrotondaAlPari(
             static_cast<double>(tick_) / static_cast<double>(limiteTick_) * corsaCursore +
             sinistraRigaCur));
         if (!PassoVoci()) return false;
-        if (!soloNota_ && f_.metroAttivo && stato_.pulso.pulsoCorrente <= f_.ultimoPulso)
+        if (!tratto_.soloNota && vicine_.battuta.metroAttivo &&
+            stato_.pulso.pulsoCorrente <= vicine_.battuta.ultimoPulso)
             PassoMetronomo();
         MandaNote();
         a_.pompa.Sleep(msPerTick_);
@@ -97,45 +99,39 @@ bool Esecuzione::PassoVoci() {
         StatoVoce& v = stato_.voci[voce];
         if (!v.InGioco()) continue;
         if (!v.notaAvviata) CaricaNota(voce);
-        if (PassoVoce(v) && soloNota_) return false;
+        if (PassoVoce(v) && tratto_.soloNota) return false;
     }
     return true;
 }
 
 void Esecuzione::CaricaNota(std::size_t voce) {
-    const VoceMelodia& testi = f_.melodia.voci[voce];
+    const VoceMelodia& testi = melodia_.voci[voce];
     StatoVoce& v = stato_.voci[voce];
     // A note that runs on into the next loses its name here, and the end goes over the keys alone.
     if (v.staSuonando && !SullaTastiera(v.notaCorrente))
         a_.suono.NotaOff(Canale(voce), v.notaCorrente);
     v.notaCorrente = NumeroNota(Elemento(testi.noteVoce, v.posizione));
     v.tickNota = TickToken(testi.durateVoce, v.posizione, v.tuplet);
-    Articola(v, Elemento(testi.attributiVoce, v.posizione), f_.perVoce[voce].volume.Value());
+    Articola(v, Elemento(testi.attributiVoce, v.posizione), vicine_.volume(voce));
     v.notaAvviata = true;
-    if (voce != f_.melodia.IndiceAttiva()) return;
-    f_.lblNe.Caption = std::to_string(v.posizione + 1);
-    f_.lblPnn.Caption = f_.NomeDi(v.notaCorrente);
+    if (voce != melodia_.IndiceAttiva()) return;
+    s_.lblNe.Caption = std::to_string(v.posizione + 1);
+    s_.lblPnn.Caption = NomeNota(v.notaCorrente, a_.globali.NomiAnglo);
 }
 
 void Esecuzione::PassoMetronomo() {
     StatoPulso& pulso = stato_.pulso;
     // A pulse that sounds keeps its key: the pattern may have been changed since it was struck.
-    if (!pulso.pulsoSuona && pulso.pulsoCorrente < f_.pattern.size())
-        PrendiPulso(pulso, f_.pattern[pulso.pulsoCorrente]);
-    switch (PassoPulso(pulso, f_.ultimoPulso, tickPulso_)) {
+    if (!pulso.pulsoSuona && pulso.pulsoCorrente < vicine_.battuta.pattern.size())
+        PrendiPulso(pulso, vicine_.battuta.pattern[pulso.pulsoCorrente]);
+    switch (PassoPulso(pulso, vicine_.battuta.ultimoPulso, tickPulso_)) {
         case Messaggio::Spegni: a_.suono.NotaOff(canalePulsi, pulso.notaPulso); break;
         case Messaggio::Accendi:
-            a_.suono.NotaOn(canalePulsi, pulso.notaPulso,
-                            static_cast<std::int16_t>(forzaPulsi - f_.VolumeMetro.Value()));
-            ContaPulso();
+            a_.suono.NotaOn(canalePulsi, pulso.notaPulso, vicine_.forzaPulso());
+            vicine_.contaPulso();
             break;
         case Messaggio::Nessuno: break;
     }
-}
-
-void Esecuzione::ContaPulso() {
-    if (!f_.lblDebug.Visible()) return;
-    f_.lblDebug.Caption = std::to_string(++stato_.pulsiContati);
 }
 
 void Esecuzione::MandaNote() {
@@ -145,10 +141,10 @@ void Esecuzione::MandaNote() {
         switch (EventoVoce(v)) {
             case Messaggio::Spegni:
                 a_.suono.NotaOff(Canale(voce), v.notaCorrente);
-                f_.MostraTasto(tasto, false);
+                vicine_.mostraTasto(tasto, false);
                 break;
             case Messaggio::Accendi:
-                f_.MostraTasto(tasto, true);
+                vicine_.mostraTasto(tasto, true);
                 a_.suono.NotaOn(Canale(voce), v.notaCorrente, v.velocita);
                 break;
             case Messaggio::Nessuno: break;
@@ -166,7 +162,7 @@ void Esecuzione::SpegniPulso() {
 void Esecuzione::Pausa() {
     a_.pompa.PompaEventi();
     const double fine = a_.pompa.Adesso() + (pausaTraGiri + granularitaSleep) / 1000.0;
-    while (f_.inEsecuzione && a_.pompa.Adesso() < fine)
+    while (s_.inEsecuzione && a_.pompa.Adesso() < fine)
         a_.pompa.AttendiEvento(fine);
 }
 

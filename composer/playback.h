@@ -2,15 +2,22 @@
 // between which the window's events are let through. Made for one play. Logic thread.
 #pragma once
 
-#include "composer/composer.h"
+#include "composer/play_panel.h"
 
 namespace corvana {
 
+/// What is to be played, read again while it plays.
+struct DaSuonare {
+    const std::int16_t& primaNota;
+    const std::int16_t& ultimaNota;
+    const bool& soloNota;  ///< the first note alone
+};
+
 class Esecuzione {
 public:
-    /// All arguments must outlive the play; the last three are read while it plays.
-    Esecuzione(frmComposer& finestra, const Ambiente& ambiente, const std::int16_t& primaNota,
-               const std::int16_t& ultimaNota, const bool& soloNota);
+    /// All arguments must outlive the play.
+    Esecuzione(const Ambiente& ambiente, StatoComposer& stato, PannelloPlay& comandi,
+               const VicinePlay& vicine, const DaSuonare& tratto);
 
     /// Returns when the play has ended; when an exception ends it, everything is put back all the
     /// same.
@@ -18,7 +25,6 @@ public:
 
 private:
     void Comincia();
-    void BloccaComandi(bool bloccati);
     void PreparaVoci();
     void ScegliTratto();
     bool Intera() const;
@@ -30,23 +36,24 @@ private:
     bool PassoVoci();
     void CaricaNota(std::size_t voce);
     void PassoMetronomo();
-    void ContaPulso();
     void MandaNote();
     void SpegniPulso();
     void SpegniResti();
     void Pausa();
     void Termina();
+    void LasciaIComandi();
     void SpegniFuoriTastiera();
 
     static std::int16_t Canale(std::size_t voce) { return static_cast<std::int16_t>(voce + 1); }
     long Note(std::size_t voce) const;
 
-    frmComposer& f_;
     Ambiente a_;
+    StatoComposer& s_;
+    Melodia& melodia_;
     StatoRiproduzione& stato_;
-    const std::int16_t& primaNota_;
-    const std::int16_t& ultimaNota_;
-    const bool& soloNota_;
+    PannelloPlay& comandi_;
+    const VicinePlay& vicine_;
+    const DaSuonare tratto_;
 
     int msPerTick_ = 0;
     Tick limiteTick_ = 0;

@@ -1,6 +1,6 @@
 // How a play begins, what of the melody it goes over, and how it ends.
 #include "composer/playback.h"
-#include "composer/ranges.h"
+#include "core/notation.h"
 #include "melody/tokens.h"
 
 namespace corvana {
@@ -11,66 +11,56 @@ void Esecuzione::SpegniResti() {
         StatoVoce& v = stato_.voci[voce];
         if (!v.staSuonando) continue;
         a_.suono.NotaOff(Canale(voce), v.notaCorrente);
-        f_.MostraTasto(v.notaCorrente - scartoIndiceNota, false);
+        vicine_.mostraTasto(v.notaCorrente - scartoIndiceNota, false);
         v.staSuonando = false;
     }
     SpegniPulso();
 }
 
 void Esecuzione::Comincia() {
-    f_.inEsecuzione = true;
-    f_.cmdPlay.Caption = "Stop";
-    f_.cmdPlay.BackColor = f_.cmdInsNota.BackColor();
-    BloccaComandi(true);
-    f_.cmdCanc.Enabled = false;
-    f_.cmdAddBm.Enabled = false;
-    if (!f_.melodia.modoPasso) {
-        if (f_.melodia.IndiceAttiva() != soprano && f_.melodia.Attiva().Vuota())
-            f_.VoceAttiva_Click(soprano);
-        f_.lblNt.Caption = std::to_string(f_.melodia.Attiva().numeroNote);
+    s_.inEsecuzione = true;
+    comandi_.MostraInPlay();
+    vicine_.bloccaModifiche(true);
+    vicine_.abilitaCanc(false);
+    vicine_.abilitaAddBm(false);
+    if (!s_.passo.modoPasso) {
+        if (melodia_.IndiceAttiva() != soprano && melodia_.Attiva().Vuota())
+            vicine_.scegliVoce(soprano);
+        s_.lblNt.Caption = std::to_string(melodia_.Attiva().numeroNote);
     }
-    msPerTick_ = MsPerTick(f_.melodia.tempo);
-}
-
-void Esecuzione::BloccaComandi(bool bloccati) {
-    for (Controllo* c :
-         {static_cast<Controllo*>(&f_.cmdPaste), static_cast<Controllo*>(&f_.file),
-          static_cast<Controllo*>(&f_.cmdInsPausa), static_cast<Controllo*>(&f_.cmdInsNota)})
-        c->Enabled = !bloccati;
-    for (const auto& voce : f_.perVoce) {
-        voce.prima.Locked = bloccati;
-        voce.ultima.Locked = bloccati;
-    }
+    msPerTick_ = MsPerTick(melodia_.tempo);
 }
 
 /// The notes of a voice; 0 for one whose text is empty, whatever its arrays still hold.
 long Esecuzione::Note(std::size_t voce) const {
-    const VoceMelodia& v = f_.melodia.voci[voce];
+    const VoceMelodia& v = melodia_.voci[voce];
     return v.Vuota() ? 0 : NoteIntere(v);
 }
 
 void Esecuzione::PreparaVoci() {
-    f_.CalcolaTickTotali();
+    comandi_.CalcolaTickTotali();
     limiteTick_ = stato_.tickTotali;
     for (std::size_t voce = 0; voce < numeroVoci; ++voce) {
         stato_.voci[voce].posizione = 0;
         stato_.voci[voce].ultima = static_cast<std::int16_t>(Note(voce) - 1);
     }
-    if (f_.metroAttivo) tickPulso_ = static_cast<Tick>(f_.durataPulso / quartiPerTick);
+    if (vicine_.battuta.metroAttivo)
+        tickPulso_ = static_cast<Tick>(vicine_.battuta.durataPulso / quartiPerTick);
 }
 
 bool Esecuzione::Intera() const {
-    const VoceMelodia& v = f_.melodia.voci[soprano];
-    return v.Vuota() || f_.melodia.modoPasso ||
-           (ultimaNota_ >= v.numeroNote - 1 && primaNota_ <= 0);
+    const VoceMelodia& v = melodia_.voci[soprano];
+    return v.Vuota() || s_.passo.modoPasso ||
+           (tratto_.ultimaNota >= v.numeroNote - 1 && tratto_.primaNota <= 0);
 }
 
 void Esecuzione::ScegliTratto() {
     stato_.parziale = !Intera();
     if (!stato_.parziale) return;
-    stato_.tickFineRange = f_.TickFinoANota(ultimaNota_);
-    stato_.tickPrimaInizio = f_.TickFinoANota(static_cast<std::int16_t>(primaNota_ - 1));
-    if (primaNota_ == 0)
+    stato_.tickFineRange = comandi_.TickFinoANota(tratto_.ultimaNota);
+    stato_.tickPrimaInizio =
+        comandi_.TickFinoANota(static_cast<std::int16_t>(tratto_.primaNota - 1));
+    if (tratto_.primaNota == 0)
         limiteTick_ = stato_.tickFineRange - 1;
     else
         PreparaParziale();
@@ -80,11 +70,11 @@ void Esecuzione::PreparaParziale() {
     limiteTick_ = stato_.tickFineRange - stato_.tickPrimaInizio - 1;
     for (std::size_t voce = soprano + 1; voce < numeroVoci; ++voce) {
         inizi_[voce] =
-            CercaPunto(f_.melodia.voci[voce].durateVoce, Note(voce), stato_.tickPrimaInizio);
+            CercaPunto(melodia_.voci[voce].durateVoce, Note(voce), stato_.tickPrimaInizio);
     }
-    if (f_.metroAttivo)
-        inizioPulso_ =
-            PulsoDopo(f_.pulsoIniziale, f_.ultimoPulso, tickPulso_, stato_.tickPrimaInizio);
+    if (vicine_.battuta.metroAttivo)
+        inizioPulso_ = PulsoDopo(vicine_.battuta.pulsoIniziale, vicine_.battuta.ultimoPulso,
+                                 tickPulso_, stato_.tickPrimaInizio);
 }
 
 void Esecuzione::Termina() {
@@ -94,23 +84,25 @@ void Esecuzione::Termina() {
     SpegniPulso();
     stato_.pulso.pulsoCorrente = 0;
     stato_.pulso.pulsoDeveSuonare = false;
-    f_.cmdPlay.Caption = "Play";
-    f_.inEsecuzione = false;
-    f_.melodia.inCaricamento = false;
-    f_.cmdPlay.BackColor = f_.lblNe.BackColor();
-    f_.cmdCanc.Enabled = false;
-    f_.PlayFinito();
-    BloccaComandi(false);
-    if (f_.melodia.IndiceAttiva() == soprano) f_.cmdAddBm.Enabled = true;
-    if (f_.melodia.modoPasso) {
-        f_.SpegniNoteVoci();
+    comandi_.FermaMelodia();
+    melodia_.inCaricamento = false;
+    LasciaIComandi();
+    comandi_.Cursore.Left = comandi_.lblRigaCur.Left();
+}
+
+void Esecuzione::LasciaIComandi() {
+    vicine_.abilitaCanc(false);
+    comandi_.PlayFinito();
+    vicine_.bloccaModifiche(false);
+    if (melodia_.IndiceAttiva() == soprano) vicine_.abilitaAddBm(true);
+    if (s_.passo.modoPasso) {
+        vicine_.spegniNoteVoci();
     } else {
-        f_.lblNe.Caption = "";
-        f_.lblPnn.Caption = "";
-        f_.cmdCanc.Enabled = true;
-        f_.SpegniTutteLeNote();
+        s_.lblNe.Caption = "";
+        s_.lblPnn.Caption = "";
+        vicine_.abilitaCanc(true);
+        vicine_.spegniTutteLeNote();
     }
-    f_.Cursore.Left = f_.lblRigaCur.Left();
 }
 
 /// Notes that only a file edited by hand can hold: what ends a play goes over the keys alone.

@@ -4,22 +4,19 @@
 namespace corvana {
 
 void frmComposer::cmdReset_Click() {
-    if (InPlay()) FermaMelodia();
-    SpegniTastiera();
-    VoceAttiva_Click(soprano);
-    lblModificato.Visible = false;
-    cmdInsNota.Enabled = true;
-    cmdInsPausa.Enabled = true;
-    cmdCanc.Enabled = true;
-    inEsecuzione = false;
-    melodia.nomeMelodia.clear();
-    lblNome.Caption = "";
-    cmdInsNota.SetFocus();
-    AzzeraMelodia();
-    lstBookMark.Clear();
-    melodia.modoPasso = false;
-    frmModifica.Visible = false;
-    SpegniTutteLeNote();
+    if (stato.inEsecuzione) play.FermaMelodia();
+    tasti.SpegniTastiera();
+    mix.VoceAttiva_Click(soprano);
+    stato.lblModificato.Visible = false;
+    inserimento.Abilita(true);
+    modifica.cmdCanc.Enabled = true;
+    stato.melodia.nomeMelodia.clear();
+    stato.lblNome.Caption = "";
+    inserimento.cmdInsNota.SetFocus();
+    voci.AzzeraMelodia();
+    riferimenti.lstBookMark.Clear();
+    modifica.Chiudi();
+    tasti.SpegniTutteLeNote();
 }
 
 }  // namespace corvana

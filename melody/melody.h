@@ -53,21 +53,8 @@ struct Melodia {
     /// the melody as modified.
     bool inCaricamento = false;
 
-    // The editing state; no file keeps it.
-    std::int16_t notaAttiva = 60;        ///< MIDI number that the next insertion uses
-    std::uint8_t figuraAttiva = 2;       ///< the lit figure button, 0 to 6
-    double valoreFigura = 1;             ///< its value in quarter notes
-    std::uint8_t attributoAttivo = 6;    ///< the lit attribute button, 0 to 5; 6 for none
-    std::string letteraAttributo = "n";  ///< attribute token of the note being inserted
-    double valoreNota = 1;               ///< value worked out for that note
-    double valorePrecedente = 0;         ///< value that a tie took off the last note
-    std::uint8_t contaTerzina = 0;       ///< notes counted so far in a triplet
-    bool soloAscolto = false;            ///< a key of the keyboard on the screen was pressed
-    bool senzaSuono = false;             ///< the next insertion stays silent
-    bool modoPasso = false;              ///< the step mode is open
-    std::int16_t IndiceNotaPP = 0;       ///< note under the step, 0-based, in the active voice
-
     VoceMelodia& Attiva() { return voci[IndiceAttiva()]; }
+    const VoceMelodia& Attiva() const { return voci[IndiceAttiva()]; }
     std::size_t IndiceAttiva() const { return IndiceVoce(voceAttiva).value_or(soprano); }
 };
 

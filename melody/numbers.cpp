@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <limits>
 
 #include "forms/fault.h"
 
@@ -52,6 +53,14 @@ std::string CampoNumero(long numero) {
 
 std::int64_t ArrotondaAlPari(double numero) {
     return std::llrint(std::clamp(numero, -limiteArrotonda, limiteArrotonda));
+}
+
+std::int32_t NumeroLetto(std::string_view testo) {
+    using Limiti = std::numeric_limits<std::int32_t>;
+    const std::int64_t numero = ArrotondaAlPari(NumeroReale(testo));
+    if (numero < Limiti::min() || numero > Limiti::max())
+        throw Guasto(guastoTraboccamento, "Overflow");
+    return static_cast<std::int32_t>(numero);
 }
 
 }  // namespace corvana

@@ -24,4 +24,8 @@ std::int64_t ArrotondaAlPari(double numero);
 /// Far beyond any music, and far enough from the end of 64 bits that sums of it don't reach it.
 constexpr double limiteArrotonda = 1LL << 46;
 
+/// The nearest whole number of a text, where a file edited by hand may hold a fraction. Throws
+/// `Guasto` 13 when it isn't a number and `Guasto` 6 when 32 bits can't hold it.
+std::int32_t NumeroLetto(std::string_view testo);
+
 }  // namespace corvana

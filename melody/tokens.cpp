@@ -17,13 +17,6 @@ std::string Unisci(const std::vector<std::string>& elementi) {
     return testo;
 }
 
-void TogliDopo(std::string& testo, const std::vector<std::string>& elementi, long i) {
-    testo.clear();
-    const long note = static_cast<long>(elementi.size()) - 1;
-    for (long k = 0; k < note; ++k)
-        if (k != i + 1) testo.append(elementi[static_cast<std::size_t>(k)]).append(";");
-}
-
 }  // namespace
 
 std::optional<std::size_t> IndiceVoce(std::string_view nome) {
@@ -64,12 +57,6 @@ long NoteIntere(const VoceMelodia& voce) {
 std::int16_t NumeroNota(std::string_view token) {
     using Limiti = std::numeric_limits<std::int16_t>;
     return static_cast<std::int16_t>(NumeroIntero(token, Limiti::min(), Limiti::max()));
-}
-
-void TogliTokenDopo(VoceMelodia& voce, long i) {
-    TogliDopo(voce.testoNote, voce.noteVoce, i);
-    TogliDopo(voce.testoDurate, voce.durateVoce, i);
-    TogliDopo(voce.testoAttributi, voce.attributiVoce, i);
 }
 
 }  // namespace corvana

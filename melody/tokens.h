@@ -1,4 +1,4 @@
-// Surgery on token texts, and their split into arrays. Logic thread.
+// Token texts: their split into arrays, and what a token means. Logic thread.
 #pragma once
 
 #include <string>
@@ -27,8 +27,5 @@ long NoteIntere(const VoceMelodia& voce);
 
 /// The number of a note token. Throws `Guasto` 13 or 6 when 16 bits can't hold it as one.
 std::int16_t NumeroNota(std::string_view token);
-
-/// Rewrites the three texts from the arrays without the token behind index `i`, which may be -1.
-void TogliTokenDopo(VoceMelodia& voce, long i);
 
 }  // namespace corvana

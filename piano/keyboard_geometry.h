@@ -5,17 +5,12 @@
 #include <array>
 #include <cstdint>
 
+#include "core/notation.h"
+
 namespace corvana {
 
-constexpr std::int16_t notaPiuBassa = 36;
-constexpr std::int16_t notaPiuAlta = 95;
 constexpr int tastiTastiera = 60;
 constexpr int tastoCentrale = 24;  ///< middle C
-
-/// The MIDI number has a key among the five octaves.
-constexpr bool SullaTastiera(std::int16_t nota) {
-    return nota >= notaPiuBassa && nota <= notaPiuAlta;
-}
 
 /// By the key's place, from 0.
 constexpr bool TastoNero(int tasto) {

@@ -10,9 +10,9 @@ namespace {
 struct BancoRiferimenti : BancoComposer {
     BancoRiferimenti() { Voce(soprano, "60;62;64;", "1"); }
     Righe Aggiornate(Righe righe) {
-        finestra.lstBookMark.List = std::move(righe);
-        finestra.AggiornaRiferimentoIntero();
-        return finestra.lstBookMark.List();
+        finestra.riferimenti.lstBookMark.List = std::move(righe);
+        finestra.riferimenti.AggiornaRiferimentoIntero();
+        return finestra.riferimenti.lstBookMark.List();
     }
 };
 
@@ -37,12 +37,12 @@ TEST(RiferimentoIntero, TakesTheFirstRowForItWhateverItHolds) {
 
 TEST(RiferimentoIntero, FollowsTheSopranoAndNoOtherVoice) {
     BancoRiferimenti b;
-    b.finestra.lstBookMark.List = Righe{"1 ÷ 3 ÷Tutta", "2 ÷ 3 ÷ a"};
+    b.finestra.riferimenti.lstBookMark.List = Righe{"1 ÷ 3 ÷Tutta", "2 ÷ 3 ÷ a"};
     b.Voce(1, "48;50;52;53;55;", "1");
-    EXPECT_EQ(b.finestra.lstBookMark.List->front(), "1 ÷ 3 ÷Tutta");
+    EXPECT_EQ(b.finestra.riferimenti.lstBookMark.List->front(), "1 ÷ 3 ÷Tutta");
     b.Voce(soprano, "60;62;64;65;", "1");
-    EXPECT_EQ(b.finestra.lstBookMark.List->front(), "1 ÷ 4 ÷Tutta");
-    EXPECT_FALSE(b.finestra.lblModificato.Visible());
+    EXPECT_EQ(b.finestra.riferimenti.lstBookMark.List->front(), "1 ÷ 4 ÷Tutta");
+    EXPECT_FALSE(b.finestra.stato.lblModificato.Visible());
 }
 
 }  // namespace corvana::prova

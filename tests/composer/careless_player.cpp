@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "composer/ranges.h"
+#include "composer/play_panel.h"
 
 namespace corvana::prova {
 
@@ -72,9 +72,9 @@ void SuonatoreDistratto::Apri() {
     banco_ = std::make_unique<BancoComposer>();
     inceppata_ = false;
     BancoComposer& b = *banco_;
-    b.finestra.lblNome.Click = [&b] { b.finestra.cmdReset_Click(); };
+    b.finestra.stato.lblNome.Click = [&b] { b.finestra.cmdReset_Click(); };
     PonFile();
-    b.finestra.mnuApri_Click();
+    b.finestra.archivio.mnuApri_Click();
     b.Quando(Pausa(), [this] { Passo(); });
     b.SvolgiCopione([&] {
         while (b.finestre.Davanti() && guasto.empty()) {
@@ -171,36 +171,41 @@ void SuonatoreDistratto::Esigi(bool vero, const std::string& cosa) {
 /// Holds between any two ticks.
 void SuonatoreDistratto::Controlla() {
     const frmComposer& f = banco_->finestra;
-    play += f.inEsecuzione;
-    Esigi(f.cmdPlay.Caption() == (f.inEsecuzione ? "Stop" : "Play"), "the caption is wrong");
-    Esigi(!f.inEsecuzione || banco_->finestre.Davanti(), "it plays without a window");
-    Esigi(f.Cursore.Left() >= sinistraRigaCur && f.Cursore.Left() <= sinistraRigaCur + corsaCursore,
+    play += f.stato.inEsecuzione;
+    Esigi(f.play.cmdPlay.Caption() == (f.stato.inEsecuzione ? "Stop" : "Play"),
+          "the caption is wrong");
+    Esigi(!f.stato.inEsecuzione || banco_->finestre.Davanti(), "it plays without a window");
+    Esigi(f.play.Cursore.Left() >= sinistraRigaCur &&
+              f.play.Cursore.Left() <= sinistraRigaCur + corsaCursore,
           "the cursor is off its line");
-    Esigi(f.melodia.tempo >= tempoMinimo && f.melodia.tempo <= tempoMassimo, "the tempo is odd");
+    Esigi(f.stato.melodia.tempo >= tempoMinimo && f.stato.melodia.tempo <= tempoMassimo,
+          "the tempo is odd");
     for (const std::string& testo : banco_->riquadri.messaggi)
         Esigi(!testo.starts_with("51"), "a box: " + testo);
     banco_->riquadri.messaggi.clear();
     // A long run makes millions of them.
-    if (!f.inEsecuzione && banco_->uscita.NoteAccese().empty()) banco_->uscita.messaggi.clear();
+    if (!f.stato.inEsecuzione && banco_->uscita.NoteAccese().empty())
+        banco_->uscita.messaggi.clear();
 }
 
 /// Holds when no handler is under way.
 void SuonatoreDistratto::ControllaFermo() {
     ++fermo;
     const frmComposer& f = banco_->finestra;
-    Esigi(!f.inEsecuzione, "something plays");
+    Esigi(!f.stato.inEsecuzione, "something plays");
     Esigi(inceppata_ || banco_->uscita.NoteAccese().empty(), "a note was left sounding");
-    Esigi(std::none_of(f.lb.begin(), f.lb.end(),
+    Esigi(std::none_of(f.tasti.lb.begin(), f.tasti.lb.end(),
                        [](const Etichetta& tasto) { return tasto.BackStyle() == fondoOpaco; }),
           "a key was left lit");
-    Esigi(std::none_of(f.Secondo.begin(), f.Secondo.end(),
+    Esigi(std::none_of(f.play.Secondo.begin(), f.play.Secondo.end(),
                        [](const Figura& luce) { return luce.Visible(); }),
           "a light was left on");
-    Esigi(f.file.Enabled() && f.cmdInsNota.Enabled() && f.cmdInsPausa.Enabled() &&
-              f.cmdCanc.Enabled() && (f.cmdAddBm.Enabled() || f.melodia.voceAttiva != "soprano"),
+    Esigi(f.menu.file.Enabled() && f.inserimento.cmdInsNota.Enabled() &&
+              f.inserimento.cmdInsPausa.Enabled() && f.modifica.cmdCanc.Enabled() &&
+              (f.riferimenti.cmdAddBm.Enabled() || f.stato.melodia.voceAttiva != "soprano"),
           "a command was left disabled");
     Esigi(
-        std::none_of(f.perVoce.begin(), f.perVoce.end(),
+        std::none_of(f.voci.perVoce.begin(), f.voci.perVoce.end(),
                      [](const auto& voce) { return voce.prima.Locked() || voce.ultima.Locked(); }),
         "a box was left locked");
     Controlla();

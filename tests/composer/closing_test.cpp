@@ -15,7 +15,7 @@ constexpr std::int32_t programmaViolino = 40;
 struct BancoModificato : BancoComposer {
     BancoModificato() {
         Voce(soprano, "60;62;", "1");
-        finestra.lblModificato.Visible = true;
+        finestra.stato.lblModificato.Visible = true;
         uscita.messaggi.clear();
     }
 };

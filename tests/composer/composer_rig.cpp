@@ -64,8 +64,8 @@ void BancoComposer::Voce(std::size_t voce, const std::string& note, const std::s
     v.testoNote = note;
     v.testoDurate = durate;
     v.testoAttributi = attributi;
-    finestra.AggiornaVoce();
-    finestra.MostraNoteVoce();
+    finestra.voci.AggiornaVoce();
+    finestra.voci.MostraNoteVoce();
     melodia.voceAttiva = attiva;
 }
 
@@ -84,20 +84,20 @@ void BancoComposer::Tratto(int prima, int ultima) {
     VoceMelodia& v = melodia.voci[soprano];
     v.primaNota = static_cast<std::int16_t>(prima - 1);
     v.ultimaNota = static_cast<std::int16_t>(ultima - 1);
-    finestra.lblNini.Text = std::to_string(prima);
-    finestra.lblNfine.Text = std::to_string(ultima);
+    finestra.voci.lblNini.Text = std::to_string(prima);
+    finestra.voci.lblNfine.Text = std::to_string(ultima);
 }
 
 void BancoComposer::PonFile(const std::string& nome, const std::string& byte) {
     file.contenuti[globali.percorsoCorrente + nome + ".mel"] = byte;
-    finestra.ListaFD();
+    finestra.archivio.ListaFD();
     Scegli(nome);
 }
 
 void BancoComposer::Scegli(const std::string& riga) {
-    const Righe& righe = finestra.List1.List();
+    const Righe& righe = finestra.archivio.List1.List();
     const auto trovata = std::find(righe.begin(), righe.end(), riga);
-    finestra.List1.ListIndex =
+    finestra.archivio.List1.ListIndex =
         trovata == righe.end() ? -1 : static_cast<int>(trovata - righe.begin());
 }
 
@@ -124,7 +124,7 @@ std::string BancoComposer::ContenutoFile(const std::string& nome) const {
 }
 
 void BancoComposer::Suona() {
-    Suona([this] { finestra.cmdPlay_Click(); });
+    Suona([this] { finestra.play.cmdPlay_Click(); });
 }
 
 void BancoComposer::Suona(const std::function<void()>& comando) {

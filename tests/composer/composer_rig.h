@@ -34,8 +34,10 @@ struct BancoComposer : Banco {
 
     int playFiniti = 0;  ///< plays of the instrument picker that were told to have ended
     frmComposer finestra;
-    Melodia& melodia = finestra.melodia;
-    StatoRiproduzione& stato = finestra.riproduzione;
+    Melodia& melodia = finestra.stato.melodia;
+    StatoInserimento& inserimento = finestra.stato.inserimento;
+    StatoPasso& passo = finestra.stato.passo;
+    StatoRiproduzione& stato = finestra.stato.riproduzione;
 
     static constexpr const char* demo = "/programma/Melodie/Demo/";
 

@@ -29,53 +29,54 @@ Corsa CorsaDi(const Barra& barra) {
 
 TEST(ControlliComposer, TheTempoIs60Of20To250) {
     BancoChiuso b;
-    EXPECT_EQ(b.finestra.Slider1.Value(), 60);
-    EXPECT_TRUE(b.finestra.Slider1.Contiene(20) && b.finestra.Slider1.Contiene(250));
-    EXPECT_FALSE(b.finestra.Slider1.Contiene(19) || b.finestra.Slider1.Contiene(251));
+    EXPECT_EQ(b.finestra.play.Slider1.Value(), 60);
+    EXPECT_TRUE(b.finestra.play.Slider1.Contiene(20) && b.finestra.play.Slider1.Contiene(250));
+    EXPECT_FALSE(b.finestra.play.Slider1.Contiene(19) || b.finestra.play.Slider1.Contiene(251));
 }
 
 TEST(ControlliComposer, TheListOfDurationsHasTheThirteenWordsAndTheOneForAnyOther) {
     const Righe parole = {"4/4",    "(4/4).", "2/4",     "(2/4).", "1/4",     "(1/4).", "1/8",
                           "(1/8).", "1/16",   "(1/16).", "1/32",   "(1/32).", "1/64",   "na"};
     BancoChiuso b;
-    EXPECT_EQ(b.finestra.cmbDurata.List(), parole);
+    EXPECT_EQ(b.finestra.modifica.cmbDurata.List(), parole);
 }
 
 TEST(ControlliComposer, TheMultipliersAre1To12AndOneIsChosen) {
     BancoChiuso b;
     const Righe numeri = {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12"};
-    EXPECT_EQ(b.finestra.cmbPer.List(), numeri);
-    EXPECT_EQ(b.finestra.cmbPer.Text(), "1");
-    EXPECT_EQ(b.finestra.PausaPer.Text(), "1");
+    EXPECT_EQ(b.finestra.modifica.cmbPer.List(), numeri);
+    EXPECT_EQ(b.finestra.modifica.cmbPer.Text(), "1");
+    EXPECT_EQ(b.finestra.inserimento.PausaPer.Text(), "1");
 }
 
 TEST(ControlliComposer, TheAttributesAreTheLettersOfTheTokens) {
     BancoChiuso b;
-    EXPECT_EQ(b.finestra.cmbAttributi.List(), (Righe{"n", "s", "t", "a", "p"}));
+    EXPECT_EQ(b.finestra.modifica.cmbAttributi.List(), (Righe{"n", "s", "t", "a", "p"}));
 }
 
 TEST(ControlliComposer, TheFirstPulseIs1Of8) {
     BancoChiuso b;
-    EXPECT_EQ(CorsaDi(b.finestra.InizioPuls), (Corsa{8, 1, 1}));
-    EXPECT_EQ(b.finestra.LblInizioPuls.Caption(), "1");
+    EXPECT_EQ(CorsaDi(b.finestra.pulsi.InizioPuls), (Corsa{8, 1, 1}));
+    EXPECT_EQ(b.finestra.pulsi.LblInizioPuls.Caption(), "1");
 }
 
 TEST(ControlliComposer, ThePulsesAre1To9OfFiveLengths) {
     BancoChiuso b;
-    EXPECT_EQ(b.finestra.Pulsazioni.List(), (Righe{"1", "2", "3", "4", "5", "6", "7", "8", "9"}));
-    EXPECT_EQ(b.finestra.Pulsazioni.Text(), "2");
-    EXPECT_EQ(b.finestra.DurataPulsazioni.List(), (Righe{"1", "2", "4", "8", "16"}));
-    EXPECT_EQ(b.finestra.DurataPulsazioni.Text(), "4");
+    EXPECT_EQ(b.finestra.pulsi.Pulsazioni.List(),
+              (Righe{"1", "2", "3", "4", "5", "6", "7", "8", "9"}));
+    EXPECT_EQ(b.finestra.pulsi.Pulsazioni.Text(), "2");
+    EXPECT_EQ(b.finestra.pulsi.DurataPulsazioni.List(), (Righe{"1", "2", "4", "8", "16"}));
+    EXPECT_EQ(b.finestra.pulsi.DurataPulsazioni.Text(), "4");
 }
 
 TEST(ControlliComposer, TheVolumesGoFromSilentToFullAndReadAsFullFromTheStart) {
     BancoChiuso b;
-    for (const auto& voce : b.finestra.perVoce) {
+    for (const auto& voce : b.finestra.mix.perVoce) {
         EXPECT_EQ(CorsaDi(voce.volume), (Corsa{98, 0, 2}));
         EXPECT_EQ(voce.percento.Caption(), "100");
     }
-    EXPECT_EQ(b.finestra.VolumeMetro.Min(), 120);
-    EXPECT_EQ(b.finestra.VolumeMetro.Max(), 0);
+    EXPECT_EQ(b.finestra.pulsi.VolumeMetro.Min(), 120);
+    EXPECT_EQ(b.finestra.pulsi.VolumeMetro.Max(), 0);
 }
 
 TEST(ControlliComposer, EachVoiceHasItsColourAndTheSopranoIsTheGreenOne) {
@@ -83,38 +84,38 @@ TEST(ControlliComposer, EachVoiceHasItsColourAndTheSopranoIsTheGreenOne) {
                                    Rgb(255, 224, 163)};
     BancoChiuso b;
     for (std::size_t voce = 0; voce < numeroVoci; ++voce) {
-        EXPECT_EQ(b.finestra.lblInstr[voce].BackColor(), colori.at(voce));
-        EXPECT_EQ(b.finestra.perVoce[voce].nomi.BackColor(), colori.at(voce));
-        EXPECT_EQ(b.finestra.VoceAttiva[voce].BackColor(),
+        EXPECT_EQ(b.finestra.mix.lblInstr[voce].BackColor(), colori.at(voce));
+        EXPECT_EQ(b.finestra.voci.perVoce[voce].nomi.BackColor(), colori.at(voce));
+        EXPECT_EQ(b.finestra.mix.VoceAttiva[voce].BackColor(),
                   voce == soprano ? Rgb(0, 255, 0) : Rgb(255, 0, 0));
     }
 }
 
 TEST(ControlliComposer, TheMetronomeReadsOffInWhiteOnRed) {
     BancoChiuso b;
-    EXPECT_EQ(b.finestra.lblTs.Caption(), "Off");
-    EXPECT_EQ(b.finestra.lblTs.BackColor(), Rgb(255, 0, 0));
-    EXPECT_EQ(b.finestra.lblTs.ForeColor(), Rgb(255, 255, 255));
-    EXPECT_EQ(b.finestra.lblTs.ToolTipText(), "Metronomo On/Off");
+    EXPECT_EQ(b.finestra.pulsi.lblTs.Caption(), "Off");
+    EXPECT_EQ(b.finestra.pulsi.lblTs.BackColor(), Rgb(255, 0, 0));
+    EXPECT_EQ(b.finestra.pulsi.lblTs.ForeColor(), Rgb(255, 255, 255));
+    EXPECT_EQ(b.finestra.pulsi.lblTs.ToolTipText(), "Metronomo On/Off");
 }
 
 TEST(ControlliComposer, TheRulerAndItsCursorLieWhereTheirMovesAreMeasured) {
     BancoChiuso b;
-    EXPECT_EQ(DoveSta(b.finestra.Regolo), (Luogo{75, 945, 360, 3120}));
-    EXPECT_EQ(DoveSta(b.finestra.lblCursore), (Luogo{60, 0, 75, 165}));
-    EXPECT_EQ(DoveSta(b.finestra.lblAccidente), (Luogo{135, 0, 165, 165}));
-    EXPECT_EQ(b.finestra.Regolo.BackColor(), Rgb(224, 255, 255));
-    EXPECT_EQ(b.finestra.lblCursore.BackColor(), Rgb(255, 0, 0));
-    EXPECT_EQ(b.finestra.lblAccidente.Caption(), "#");
-    EXPECT_EQ(b.finestra.lblCursore.Padre(), &b.finestra.Regolo);
+    EXPECT_EQ(DoveSta(b.finestra.regolo.Regolo), (Luogo{75, 945, 360, 3120}));
+    EXPECT_EQ(DoveSta(b.finestra.regolo.lblCursore), (Luogo{60, 0, 75, 165}));
+    EXPECT_EQ(DoveSta(b.finestra.regolo.lblAccidente), (Luogo{135, 0, 165, 165}));
+    EXPECT_EQ(b.finestra.regolo.Regolo.BackColor(), Rgb(224, 255, 255));
+    EXPECT_EQ(b.finestra.regolo.lblCursore.BackColor(), Rgb(255, 0, 0));
+    EXPECT_EQ(b.finestra.regolo.lblAccidente.Caption(), "#");
+    EXPECT_EQ(b.finestra.regolo.lblCursore.Padre(), &b.finestra.regolo.Regolo);
 }
 
 TEST(ControlliComposer, AllSixtyKeysAreDark) {
     BancoChiuso b;
-    ASSERT_EQ(b.finestra.lb.size(), 60U);
-    for (std::size_t i = 0; i < b.finestra.lb.size(); ++i) {
-        EXPECT_EQ(b.finestra.lb[i].Name, "lb" + std::to_string(i));
-        EXPECT_EQ(b.finestra.lb[i].BackStyle(), fondoTrasparente) << i;
+    ASSERT_EQ(b.finestra.tasti.lb.size(), 60U);
+    for (std::size_t i = 0; i < b.finestra.tasti.lb.size(); ++i) {
+        EXPECT_EQ(b.finestra.tasti.lb[i].Name, "lb" + std::to_string(i));
+        EXPECT_EQ(b.finestra.tasti.lb[i].BackStyle(), fondoTrasparente) << i;
     }
 }
 
@@ -124,14 +125,14 @@ TEST(ControlliComposer, WhatOpensOnDemandIsHidden) {
          {"lblModificato", "lblAccidente", "frmModifica", "frMetro", "lblDebug", "frBookMark",
           "Fr2", "Secondo0", "Secondo1", "Secondo2", "Secondo3", "Secondo4"})
         EXPECT_FALSE(b.finestra.Trova(nome)->Visible()) << nome;
-    EXPECT_FALSE(b.finestra.cmdPaste.Enabled());
+    EXPECT_FALSE(b.finestra.modifica.cmdPaste.Enabled());
 }
 
 TEST(ControlliComposer, ThePlayButtonReadsPlayOnItsColourAtRest) {
     BancoChiuso b;
-    EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play");
-    EXPECT_EQ(b.finestra.cmdPlay.BackColor(), b.finestra.lblNe.BackColor());
-    EXPECT_NE(b.finestra.cmdPlay.BackColor(), b.finestra.cmdInsNota.BackColor());
+    EXPECT_EQ(b.finestra.play.cmdPlay.Caption(), "Play");
+    EXPECT_EQ(b.finestra.play.cmdPlay.BackColor(), b.finestra.stato.lblNe.BackColor());
+    EXPECT_NE(b.finestra.play.cmdPlay.BackColor(), b.finestra.inserimento.cmdInsNota.BackColor());
 }
 
 }  // namespace corvana::prova

@@ -1,7 +1,7 @@
 // The melodies that come with the program.
 #include <cmath>
 
-#include "composer/ranges.h"
+#include "composer/play_panel.h"
 #include "core/text.h"
 #include "melody/names.h"
 #include "melody/numbers.h"
@@ -24,7 +24,7 @@ struct BancoDemo : BancoComposer {
     /// Loads it and plays it to its end; returns the seconds that the play took.
     double SuonaTutta() {
         const double inizio = pompa.Adesso();
-        finestra.cmdEseguiFile_Click();
+        finestra.archivio.cmdEseguiFile_Click();
         return pompa.Adesso() - inizio;
     }
     double Secondi(Tick tick) const {
@@ -80,7 +80,7 @@ TEST_P(MelodiaDemo, PlaysEachOfItsNotesAndEndsAfterExactlyItsTicks) {
     EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_GT(b.stato.tickTotali, 0);
     EXPECT_NEAR(durata, b.Secondi(b.stato.tickTotali), 1e-6);
-    EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play");
+    EXPECT_EQ(b.finestra.play.cmdPlay.Caption(), "Play");
     for (std::size_t voce = 0; voce < numeroVoci; ++voce)
         EXPECT_EQ(b.Suonate(static_cast<int>(voce) + 1), NoteScritte(b.melodia.voci[voce]));
     EXPECT_TRUE(b.uscita.NoteAccese().empty());
@@ -149,9 +149,9 @@ TEST_P(MelodiaDemo, HasANameThatAMelodyCanBeGiven) {
 
 TEST_P(MelodiaDemo, IsTheSameFileByteForByteWhenItIsSavedAgain) {
     b.SuonaTutta();
-    if (LeggiMel(b.byte, '.').conMetronomo) b.finestra.lblTs_Click();
+    if (LeggiMel(b.byte, '.').conMetronomo) b.finestra.pulsi.lblTs_Click();
     const int prima = b.file.scritture;
-    b.finestra.SalvaMelodia(GetParam());
+    b.finestra.archivio.SalvaMelodia(GetParam());
     EXPECT_EQ(b.file.scritture, prima + 1);
     EXPECT_EQ(b.ContenutoFile(GetParam()), b.byte);
 }
@@ -165,7 +165,7 @@ TEST_P(MelodiaDemo, EndsEachLineInCarriageReturnAndLineFeed) {
 TEST_P(MelodiaDemo, HasBookmarksWithinItsSoprano) {
     b.SuonaTutta();
     const long note = b.melodia.voci[soprano].numeroNote;
-    const Righe& righe = b.finestra.lstBookMark.List();
+    const Righe& righe = b.finestra.riferimenti.lstBookMark.List();
     for (std::size_t i = 0; i < righe.size(); ++i) {
         const std::string testo = UnBytePerCarattere(righe[i]);
         const std::vector<std::string> campi = Dividi(testo, '?');

@@ -12,12 +12,12 @@ struct BancoPannello : BancoComposer {
     /// The rows of a folder, as the list shows them.
     Righe RigheDi(const std::string& percorso) {
         globali.percorsoCorrente = percorso;
-        finestra.ListaFD();
-        return finestra.List1.List();
+        finestra.archivio.ListaFD();
+        return finestra.archivio.List1.List();
     }
     void Entra(const std::string& riga) {
         Scegli(riga);
-        finestra.cmdEseguiFile_Click();
+        finestra.archivio.cmdEseguiFile_Click();
     }
 };
 
@@ -61,64 +61,64 @@ TEST(ListaFD, AFolderThatIsntThereGivesNothingButItsParentAndNoMessage) {
 TEST(ListaFD, ShowsThePathInLowerCaseAndWithABlankAtEachEndInItsTip) {
     BancoPannello b;
     b.RigheDi("/Musica/Corali/");
-    EXPECT_EQ(b.finestra.lblPercorso.Caption(), "/musica/corali/");
-    EXPECT_EQ(b.finestra.lblPercorso.ToolTipText(), " /musica/corali/ ");
+    EXPECT_EQ(b.finestra.archivio.lblPercorso.Caption(), "/musica/corali/");
+    EXPECT_EQ(b.finestra.archivio.lblPercorso.ToolTipText(), " /musica/corali/ ");
     EXPECT_EQ(b.globali.percorsoCorrente, "/Musica/Corali/");
 }
 
 TEST(ListaFD, ForgetsTheChosenRow) {
     BancoPannello b;
     b.PonFile("a", "");
-    EXPECT_EQ(b.finestra.List1.ListIndex(), 1);
-    b.finestra.ListaFD();
-    EXPECT_EQ(b.finestra.List1.ListIndex(), -1);
+    EXPECT_EQ(b.finestra.archivio.List1.ListIndex(), 1);
+    b.finestra.archivio.ListaFD();
+    EXPECT_EQ(b.finestra.archivio.List1.ListIndex(), -1);
 }
 
 TEST(ListaFD, DuringAPlayTheListStaysAsItStood) {
     BancoPannello b;
     b.Voce(soprano, "60;", "1");
-    b.finestra.ListaFD();
+    b.finestra.archivio.ListaFD();
     b.NelTick(3, [&] {
         b.file.contenuti[std::string(BancoComposer::demo) + "new.mel"] = "";
-        b.finestra.ListaFD();
+        b.finestra.archivio.ListaFD();
     });
     b.Suona();
-    EXPECT_EQ(b.finestra.List1.List(), Righe{"» .."});
-    b.finestra.ListaFD();
-    EXPECT_EQ(b.finestra.List1.List(), (Righe{"» ..", "new"}));
+    EXPECT_EQ(b.finestra.archivio.List1.List(), Righe{"» .."});
+    b.finestra.archivio.ListaFD();
+    EXPECT_EQ(b.finestra.archivio.List1.List(), (Righe{"» ..", "new"}));
 }
 
 TEST(MenuApri, ShowsThePanelWithTheFilledList) {
     BancoPannello b;
     b.file.contenuti[std::string(BancoComposer::demo) + "a.mel"] = "";
     b.Subito(Fatto::Click, "mnuApri");
-    EXPECT_TRUE(b.finestra.Fr2.Visible());
-    EXPECT_EQ(b.finestra.List1.List(), (Righe{"» ..", "a"}));
+    EXPECT_TRUE(b.finestra.archivio.Fr2.Visible());
+    EXPECT_EQ(b.finestra.archivio.List1.List(), (Righe{"» ..", "a"}));
 }
 
 TEST(MenuApri, WhileThePanelIsOpenLeavesTheSelectionAlone) {
     BancoPannello b;
-    b.finestra.Fr2.Visible = true;
+    b.finestra.archivio.Fr2.Visible = true;
     b.PonFile("a", "");
     b.file.contenuti[std::string(BancoComposer::demo) + "b.mel"] = "";
-    b.finestra.mnuApri_Click();
-    EXPECT_EQ(b.finestra.List1.ListIndex(), 1);
-    EXPECT_EQ(b.finestra.List1.List(), (Righe{"» ..", "a"}));
+    b.finestra.archivio.mnuApri_Click();
+    EXPECT_EQ(b.finestra.archivio.List1.ListIndex(), 1);
+    EXPECT_EQ(b.finestra.archivio.List1.List(), (Righe{"» ..", "a"}));
 }
 
 TEST(MenuApri, FillsAnOpenPanelThatIsEmpty) {
     BancoPannello b;
-    b.finestra.mnuApri_Click();
-    b.finestra.List1.Clear();
-    b.finestra.mnuApri_Click();
-    EXPECT_EQ(b.finestra.List1.List(), Righe{"» .."});
+    b.finestra.archivio.mnuApri_Click();
+    b.finestra.archivio.List1.Clear();
+    b.finestra.archivio.mnuApri_Click();
+    EXPECT_EQ(b.finestra.archivio.List1.List(), Righe{"» .."});
 }
 
 TEST(EseguiFile, WithoutAChosenRowDoesNothing) {
     BancoPannello b;
     b.Voce(soprano, "60;", "1");
-    b.finestra.ListaFD();
-    b.finestra.cmdEseguiFile_Click();
+    b.finestra.archivio.ListaFD();
+    b.finestra.archivio.cmdEseguiFile_Click();
     EXPECT_EQ(b.globali.percorsoCorrente, BancoComposer::demo);
     EXPECT_FALSE(b.melodia.voci[soprano].Vuota());
     EXPECT_TRUE(b.riquadri.messaggi.empty());
@@ -131,8 +131,8 @@ TEST(EseguiFile, EntersAFolderAlsoOneWithAPointAndTheMelodyStays) {
     b.RigheDi("/m/");
     b.Entra("» a.b");
     EXPECT_EQ(b.globali.percorsoCorrente, "/m/a.b/");
-    EXPECT_EQ(b.finestra.List1.List(), (Righe{"» ..", "» c"}));
-    EXPECT_EQ(b.finestra.lblPercorso.Caption(), "/m/a.b/");
+    EXPECT_EQ(b.finestra.archivio.List1.List(), (Righe{"» ..", "» c"}));
+    EXPECT_EQ(b.finestra.archivio.lblPercorso.Caption(), "/m/a.b/");
     EXPECT_FALSE(b.melodia.voci[soprano].Vuota());
 }
 
@@ -142,11 +142,11 @@ TEST(EseguiFile, TheParentsRowCutsTheLastFolderOff) {
     b.RigheDi("/m/a/c/");
     b.Entra("» ..");
     EXPECT_EQ(b.globali.percorsoCorrente, "/m/a/");
-    EXPECT_EQ(b.finestra.List1.List(), (Righe{"» ..", "» c"}));
+    EXPECT_EQ(b.finestra.archivio.List1.List(), (Righe{"» ..", "» c"}));
     b.Entra("» ..");
     b.Entra("» ..");
     EXPECT_EQ(b.globali.percorsoCorrente, "/");
-    EXPECT_EQ(b.finestra.List1.List(), Righe{"» m"});
+    EXPECT_EQ(b.finestra.archivio.List1.List(), Righe{"» m"});
 }
 
 TEST(EseguiFile, AMelodyIsLoadedFromTheFolderThatWasEntered) {
@@ -171,14 +171,14 @@ TEST(CmdEseguiFile, AFileWithItsExtensionInCapitalsIsLoadedAndSavedAsTheFileItIs
     BancoPannello b;
     std::string& vecchio = b.file.contenuti[std::string(b.demo) + "OLD.MEL"];
     vecchio = FileDi({"60;", "1;", "n;", " 60 ", " 16 "});
-    b.finestra.ListaFD();
+    b.finestra.archivio.ListaFD();
     b.Entra("OLD");
     EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_EQ(b.melodia.voci[soprano].testoNote, "60;");
     b.Voce(soprano, "62;", "1");
-    b.finestra.SalvaMelodia("OLD");
+    b.finestra.archivio.SalvaMelodia("OLD");
     EXPECT_EQ(vecchio, FileDi({"62;", "1;", "n;", " 60 ", " 16 "}));
-    EXPECT_EQ(b.finestra.List1.List(), (Righe{"» ..", "OLD"}));
+    EXPECT_EQ(b.finestra.archivio.List1.List(), (Righe{"» ..", "OLD"}));
 }
 
 }  // namespace corvana::prova

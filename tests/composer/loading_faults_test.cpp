@@ -17,10 +17,10 @@ TEST(CaricaGuasto, AMissingFileIsToldAndLeavesAnEmptyMelodyWithItsName) {
     BancoGuasti b;
     b.PonFile("song", "");
     b.file.contenuti.erase("/programma/Melodie/Demo/song.mel");
-    b.finestra.cmdEseguiFile_Click();
+    b.finestra.archivio.cmdEseguiFile_Click();
     b.EsceGuasto("2\r\n" + ParoleSistema(ENOENT));
     EXPECT_TRUE(b.V(soprano).Vuota());
-    EXPECT_TRUE(b.finestra.lstBookMark.List->empty());
+    EXPECT_TRUE(b.finestra.riferimenti.lstBookMark.List->empty());
 }
 
 TEST(CaricaGuasto, AFileThatCantBeReadIsToldByNumberAndText) {
@@ -31,7 +31,7 @@ TEST(CaricaGuasto, AFileThatCantBeReadIsToldByNumberAndText) {
         b.PonFile("song", FileDi(dueVoci));
         b.file.erroreLeggi = errore;
         b.uscita.messaggi.clear();
-        b.finestra.cmdEseguiFile_Click();
+        b.finestra.archivio.cmdEseguiFile_Click();
         b.EsceGuasto(testo);
         EXPECT_TRUE(b.V(soprano).Vuota());
     }
@@ -57,7 +57,7 @@ TEST(CaricaGuasto, AFileTooShortAtAnyLineFailsAndKeepsTheLinesBefore) {
         EXPECT_EQ(b.V(basso).strumento, linee > 6 ? 32 : 16) << linee;
         EXPECT_EQ(b.V(basso).testoNote, linee > 7 ? dueVoci[7] : "") << linee;
         EXPECT_EQ(b.V(basso).testoDurate, linee > 8 ? dueVoci[8] : "") << linee;
-        EXPECT_EQ(b.finestra.lstBookMark.List->size(), linee > 5 ? 2U : 0U) << linee;
+        EXPECT_EQ(b.finestra.riferimenti.lstBookMark.List->size(), linee > 5 ? 2U : 0U) << linee;
         EXPECT_TRUE(b.Programmi().empty()) << linee;
     }
 }
@@ -81,8 +81,8 @@ TEST(CaricaGuasto, AFileCutAtAnyByteLoadsOrIsToldInOneBox) {
         EXPECT_LE(b.riquadri.messaggi.size(), 1U) << byte;
         guasti += static_cast<int>(b.riquadri.messaggi.size());
         EXPECT_EQ(b.HaSuonato(), b.riquadri.messaggi.empty()) << byte;
-        EXPECT_EQ(b.finestra.lblNome.Caption(), "song") << byte;
-        EXPECT_FALSE(b.finestra.inEsecuzione) << byte;
+        EXPECT_EQ(b.finestra.stato.lblNome.Caption(), "song") << byte;
+        EXPECT_FALSE(b.finestra.stato.inEsecuzione) << byte;
         EXPECT_TRUE(b.uscita.NoteAccese().empty()) << byte;
     }
     EXPECT_GT(guasti, 40);
@@ -97,7 +97,7 @@ TEST(CaricaGuasto, ASopranoWith4Notes4DurationsAnd3AttributesIsToldAndDoesntPlay
     EXPECT_EQ(b.V(soprano).testoAttributi, "n;n;n;");
     EXPECT_EQ(b.V(basso).testoNote, "48;43;");
     EXPECT_EQ(b.Programmi().size(), 4U);
-    EXPECT_EQ(b.finestra.LblNoteString.Caption(), "");
+    EXPECT_EQ(b.finestra.voci.LblNoteString.Caption(), "");
 }
 
 TEST(CaricaGuasto, UnequalDurationsAreToldTheSame) {
@@ -113,11 +113,11 @@ TEST(CaricaGuasto, InCaricamentoStaysAfterAFailureUntilTheNextPlayHasEnded) {
     b.CaricaCon({{4, "fast"}});
     ASSERT_TRUE(b.melodia.inCaricamento);
     b.Subito(Fatto::Change, "Slider1", 200);
-    EXPECT_FALSE(b.finestra.lblModificato.Visible());
-    b.finestra.cmdPlay_Click();
+    EXPECT_FALSE(b.finestra.stato.lblModificato.Visible());
+    b.finestra.play.cmdPlay_Click();
     EXPECT_FALSE(b.melodia.inCaricamento);
     b.Subito(Fatto::Change, "Slider1", 210);
-    EXPECT_TRUE(b.finestra.lblModificato.Visible());
+    EXPECT_TRUE(b.finestra.stato.lblModificato.Visible());
 }
 
 TEST(CaricaGuasto, AVoiceOf32768NotesIsRefusedWithABox) {
@@ -142,7 +142,7 @@ TEST(CaricaGuasto, AVoiceOf32767NotesLoads) {
     b.CliccaNelTick(3, "cmdPlay");
     b.Carica({note, durate, attributi, " 60 ", " 16 "});
     EXPECT_TRUE(b.riquadri.messaggi.empty());
-    EXPECT_EQ(b.finestra.lblNt.Caption(), "32767");
+    EXPECT_EQ(b.finestra.stato.lblNt.Caption(), "32767");
     EXPECT_EQ(b.V(soprano).ultimaNota, 32766);
 }
 
@@ -156,8 +156,8 @@ TEST(CaricaGuasto, BehindALoadThatFailedPlaySoundsNothingOfTheMelodyBefore) {
         b.Suona();
         EXPECT_FALSE(b.HaSuonato()) << linee;
         EXPECT_TRUE(b.riquadri.messaggi.empty()) << linee;
-        EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play") << linee;
-        EXPECT_TRUE(b.finestra.file.Enabled()) << linee;
+        EXPECT_EQ(b.finestra.play.cmdPlay.Caption(), "Play") << linee;
+        EXPECT_TRUE(b.finestra.menu.file.Enabled()) << linee;
     }
 }
 

@@ -24,20 +24,20 @@ Linee Blocco(const std::string& testata, const std::string& nota) {
 TEST(Carica, ABookmarkListOfTwoOrMoreRowsIsReadBackRowForRow) {
     BancoCarica b;
     const Righe righe = {"1 ÷ 4 ÷Tutta", "2 ÷ 3 ÷ motivo", "1 ÷ 2 ÷ a? -b", "4 ÷ 4 ÷ è"};
-    b.finestra.lstBookMark.List = Righe{"1 ÷ 9 ÷Tutta", "5 ÷ 6 ÷ before"};
+    b.finestra.riferimenti.lstBookMark.List = Righe{"1 ÷ 9 ÷Tutta", "5 ÷ 6 ÷ before"};
     b.CaricaCon({{6,
                   "1 \xF7 4 \xF7Tutta;2 \xF7 3 \xF7 motivo;1 \xF7 2 \xF7 a? -b;"
                   "4 \xF7 4 \xF7 \xE8;"}});
-    EXPECT_EQ(b.finestra.lstBookMark.List(), righe);
-    EXPECT_TRUE(b.finestra.frBookMark.Visible());
+    EXPECT_EQ(b.finestra.riferimenti.lstBookMark.List(), righe);
+    EXPECT_TRUE(b.finestra.riferimenti.frBookMark.Visible());
     EXPECT_EQ(b.V(basso).testoNote, "48;43;");
 }
 
 TEST(Carica, ABookmarkLineOfExactlyOneRowIsTakenForAVoiceThatIsUnknownAndDropped) {
     BancoCarica b;
     b.CaricaCon({{6, "1 \xF7 4 \xF7Tutta;"}});
-    EXPECT_TRUE(b.finestra.lstBookMark.List->empty());
-    EXPECT_FALSE(b.finestra.frBookMark.Visible());
+    EXPECT_TRUE(b.finestra.riferimenti.lstBookMark.List->empty());
+    EXPECT_FALSE(b.finestra.riferimenti.frBookMark.Visible());
     EXPECT_EQ(b.V(basso).testoNote, "48;43;");
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
@@ -45,14 +45,14 @@ TEST(Carica, ABookmarkLineOfExactlyOneRowIsTakenForAVoiceThatIsUnknownAndDropped
 TEST(Carica, TheWholeMelodysBookmarkTakesTheCountAndTheLabelOfToday) {
     BancoCarica b;
     b.CaricaCon({{6, "1 \xF7 9 \xF7Tout;2 \xF7 3 \xF7 motivo;"}});
-    EXPECT_EQ(b.finestra.lstBookMark.List(), (Righe{"1 ÷ 4 ÷Tutta", "2 ÷ 3 ÷ motivo"}));
+    EXPECT_EQ(b.finestra.riferimenti.lstBookMark.List(), (Righe{"1 ÷ 4 ÷Tutta", "2 ÷ 3 ÷ motivo"}));
 }
 
 TEST(Carica, AFileWithoutBookmarksClearsThoseOfTheMelodyBefore) {
     BancoCarica b;
-    b.finestra.lstBookMark.List = Righe{"1 ÷ 9 ÷Tutta", "5 ÷ 6 ÷ before"};
+    b.finestra.riferimenti.lstBookMark.List = Righe{"1 ÷ 9 ÷Tutta", "5 ÷ 6 ÷ before"};
     b.Carica(soloSoprano);
-    EXPECT_TRUE(b.finestra.lstBookMark.List->empty());
+    EXPECT_TRUE(b.finestra.riferimenti.lstBookMark.List->empty());
 }
 
 TEST(Carica, ABlockOrderOfBassoAndContraltoLoads) {
@@ -62,7 +62,7 @@ TEST(Carica, ABlockOrderOfBassoAndContraltoLoads) {
     EXPECT_EQ(b.V(basso).strumento, 32);
     EXPECT_EQ(b.V(contralto).testoNote, "55;");
     EXPECT_EQ(b.V(contralto).strumento, 48);
-    EXPECT_EQ(b.finestra.lblNfineB.Text() + b.finestra.lblNfineC.Text(), "11");
+    EXPECT_EQ(b.finestra.voci.lblNfineB.Text() + b.finestra.voci.lblNfineC.Text(), "11");
 }
 
 TEST(Carica, AFourthBlockIsIgnored) {
@@ -109,8 +109,8 @@ TEST(Carica, DurationsWithCommaAndPointComeOutWithTheSystemsSeparator) {
         EXPECT_EQ(b.V(basso).testoDurate, conSeparatore("0.5;0.375;"));
         const std::array<std::string, 4> parole = {"(1/4).", "(1/8).", "1/16", "na"};
         for (std::int16_t i = 0; i < 4; ++i) {
-            b.melodia.IndiceNotaPP = i;
-            EXPECT_EQ(b.finestra.TestoDurata(), parole.at(static_cast<std::size_t>(i)));
+            b.passo.IndiceNotaPP = i;
+            EXPECT_EQ(b.finestra.modifica.TestoDurata(), parole.at(static_cast<std::size_t>(i)));
         }
     }
 }

@@ -16,11 +16,11 @@ TEST(CaricaGuasto, ATempoOutsideOf20To250FailsWithTheNotesShownAndTheTempoAsItWa
         BancoGuasti b;
         b.CaricaCon({{4, tempo}});
         b.EsceGuasto(valoreErrato);
-        EXPECT_EQ(b.finestra.LblNoteString.Caption(), "Do;Re;Mi;Fa;") << tempo;
+        EXPECT_EQ(b.finestra.voci.LblNoteString.Caption(), "Do;Re;Mi;Fa;") << tempo;
         EXPECT_EQ(b.Programmi().size(), 4U) << tempo;
         EXPECT_EQ(b.melodia.tempo, 60) << tempo;
-        EXPECT_EQ(b.finestra.Slider1.Value(), 60) << tempo;
-        EXPECT_EQ(b.finestra.LblNoteStringB.Caption(), "") << tempo;
+        EXPECT_EQ(b.finestra.play.Slider1.Value(), 60) << tempo;
+        EXPECT_EQ(b.finestra.voci.LblNoteStringB.Caption(), "") << tempo;
     }
 }
 
@@ -58,7 +58,7 @@ TEST(CaricaGuasto, AMetronomeThatItsControlsCantShowFailsBeforeTheBookmarks) {
         b.CaricaCon({{5, linea}});
         b.EsceGuasto(box);
         EXPECT_EQ(b.V(soprano).testoAttributi, "n;n;n;n;") << linea;
-        EXPECT_TRUE(b.finestra.lstBookMark.List->empty()) << linea;
+        EXPECT_TRUE(b.finestra.riferimenti.lstBookMark.List->empty()) << linea;
         EXPECT_TRUE(b.V(basso).Vuota()) << linea;
     }
 }
@@ -66,9 +66,9 @@ TEST(CaricaGuasto, AMetronomeThatItsControlsCantShowFailsBeforeTheBookmarks) {
 TEST(CaricaGuasto, WhatWasSetOfTheMetronomeBeforeTheFaultStays) {
     BancoGuasti b;
     b.CaricaCon({{5, "16;3;8;4"}});
-    EXPECT_EQ(b.finestra.Pulsazioni.Text(), "3");
-    EXPECT_EQ(b.finestra.DurataPulsazioni.Text(), "8");
-    EXPECT_EQ(b.finestra.InizioPuls.Value(), 1);
+    EXPECT_EQ(b.finestra.pulsi.Pulsazioni.Text(), "3");
+    EXPECT_EQ(b.finestra.pulsi.DurataPulsazioni.Text(), "8");
+    EXPECT_EQ(b.finestra.pulsi.InizioPuls.Value(), 1);
 }
 
 TEST(CaricaGuasto, AVoicesInstrumentThatIsNoNumberFailsBeforeItsTexts) {
@@ -80,7 +80,7 @@ TEST(CaricaGuasto, AVoicesInstrumentThatIsNoNumberFailsBeforeItsTexts) {
         b.EsceGuasto(box);
         EXPECT_TRUE(b.V(basso).Vuota()) << testata;
         EXPECT_EQ(b.V(basso).strumento, 16) << testata;
-        EXPECT_EQ(b.finestra.lstBookMark.List->size(), 2U) << testata;
+        EXPECT_EQ(b.finestra.riferimenti.lstBookMark.List->size(), 2U) << testata;
     }
 }
 
@@ -100,15 +100,15 @@ TEST(CaricaGuasto, ANoteThatIsNoNumberFailsBeforeThePlay) {
     BancoGuasti altra;
     altra.CaricaCon({{8, "48;xx;"}});
     altra.EsceGuasto(nonNumero);
-    EXPECT_EQ(altra.finestra.LblNoteString.Caption(), "Do;Re;Mi;Fa;");
+    EXPECT_EQ(altra.finestra.voci.LblNoteString.Caption(), "Do;Re;Mi;Fa;");
 }
 
 TEST(CaricaGuasto, ADurationThatIsNoNumberEndsThePlayThatItMeets) {
     BancoGuasti b;
     b.CaricaCon({{2, "1;x;1;1;"}});
     EXPECT_EQ(b.riquadri.messaggi, Avvisi{nonNumero});
-    EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play");
-    EXPECT_FALSE(b.finestra.inEsecuzione);
+    EXPECT_EQ(b.finestra.play.cmdPlay.Caption(), "Play");
+    EXPECT_FALSE(b.finestra.stato.inEsecuzione);
     EXPECT_FALSE(b.melodia.inCaricamento);
     EXPECT_TRUE(b.uscita.NoteAccese().empty());
 }
@@ -141,7 +141,7 @@ TEST(Carica, TheOtherNumbersOfAFileAreTakenTheSameWay) {
     EXPECT_EQ(b.riquadri.messaggi, Avvisi{});
     EXPECT_EQ(b.V(soprano).strumento, 16);
     EXPECT_EQ(b.V(basso).strumento, 32);
-    EXPECT_EQ(b.finestra.InizioPuls.Value(), 2);
+    EXPECT_EQ(b.finestra.pulsi.InizioPuls.Value(), 2);
 }
 
 }  // namespace corvana::prova

@@ -9,7 +9,7 @@ namespace corvana::prova {
 namespace {
 
 struct BancoAscolto : BancoComposer {
-    BancoAscolto() { finestra.Fr2.Visible = true; }
+    BancoAscolto() { finestra.archivio.Fr2.Visible = true; }
     void Scelta(const Linee& linee) {
         PonFile("song", FileDi(linee));
         uscita.messaggi.clear();
@@ -37,7 +37,7 @@ TEST(CaricaESuona, ALoadPlaysTheMelodyAtOnceToItsEnd) {
     EXPECT_EQ(b.Suonate(4), (std::vector<int>{48, 43}));
     EXPECT_TRUE(b.Suonate(2).empty() && b.Suonate(3).empty());
     EXPECT_NEAR(b.pompa.Adesso() - inizio, 4 * 32 * 0.031, 1e-6);
-    EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play");
+    EXPECT_EQ(b.finestra.play.cmdPlay.Caption(), "Play");
     EXPECT_TRUE(b.uscita.NoteAccese().empty());
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
@@ -55,7 +55,7 @@ TEST(CaricaESuona, InCaricamentoFallsAtTheEndOfThatPlayAndUntilThenNothingIsMark
     BancoAscolto b;
     b.NelTick(20, [&] {
         EXPECT_TRUE(b.melodia.inCaricamento);
-        b.finestra.SceltaStrum(40);
+        b.finestra.mix.SceltaStrum(40);
     });
     b.Fa(b.pompa.Adesso() + 1, Fatto::Change, "Slider1", 100);
     b.NelTick(100, [&] {
@@ -64,9 +64,9 @@ TEST(CaricaESuona, InCaricamentoFallsAtTheEndOfThatPlayAndUntilThenNothingIsMark
     });
     b.Carica(dueVoci);
     EXPECT_FALSE(b.melodia.inCaricamento);
-    EXPECT_FALSE(b.finestra.lblModificato.Visible());
+    EXPECT_FALSE(b.finestra.stato.lblModificato.Visible());
     b.Subito(Fatto::Change, "Slider1", 110);
-    EXPECT_TRUE(b.finestra.lblModificato.Visible());
+    EXPECT_TRUE(b.finestra.stato.lblModificato.Visible());
 }
 
 TEST(CaricaESuona, AStopEndsThePlayAndInCaricamentoWithIt) {
@@ -87,10 +87,10 @@ TEST(CaricaESuona, ALoadDuringAPlayStopsItAndPlaysTheNewMelodyAlone) {
     EXPECT_EQ(b.Suonate(1), (std::vector<int>{72, 60, 62, 64, 65}));
     EXPECT_EQ(b.TickPassati(), 10 + 4 * 32);
     EXPECT_TRUE(b.uscita.NoteAccese().empty());
-    EXPECT_FALSE(b.finestra.inEsecuzione);
-    EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play");
+    EXPECT_FALSE(b.finestra.stato.inEsecuzione);
+    EXPECT_EQ(b.finestra.play.cmdPlay.Caption(), "Play");
     EXPECT_EQ(b.melodia.voci[soprano].testoNote, "60;62;64;65;");
-    EXPECT_EQ(b.finestra.lblNt.Caption(), "4");
+    EXPECT_EQ(b.finestra.stato.lblNt.Caption(), "4");
 }
 
 TEST(CaricaESuona, AMelodyWithoutSopranoIsTakenAndDoesntPlay) {
@@ -104,11 +104,11 @@ TEST(CaricaESuona, AMelodyWithoutSopranoIsTakenAndDoesntPlay) {
 
 TEST(CaricaESuona, ALoadFromAnotherVoiceEndsOnTheSoprano) {
     BancoAscolto b;
-    b.finestra.VoceAttiva_Click(2);
+    b.finestra.mix.VoceAttiva_Click(2);
     b.Carica(dueVoci);
     EXPECT_EQ(b.melodia.voceAttiva, "soprano");
-    EXPECT_EQ(b.finestra.VoceAttiva[soprano].BackColor(), Rgb(0, 255, 0));
-    EXPECT_TRUE(b.finestra.cmdAddBm.Enabled());
+    EXPECT_EQ(b.finestra.mix.VoceAttiva[soprano].BackColor(), Rgb(0, 255, 0));
+    EXPECT_TRUE(b.finestra.riferimenti.cmdAddBm.Enabled());
 }
 
 }  // namespace corvana::prova

@@ -7,7 +7,7 @@ namespace corvana::prova {
 void BancoCarica::Carica(const std::string& byte) {
     PonFile("song", byte);
     uscita.messaggi.clear();
-    finestra.Fr2.Visible = true;
+    finestra.archivio.Fr2.Visible = true;
     Subito(Fatto::Click, "cmdEseguiFile");
 }
 
@@ -20,7 +20,7 @@ void BancoCarica::CaricaCon(const std::map<std::size_t, std::string>& cambi) {
 
 BancoGuasti::BancoGuasti() {
     Voce(soprano, "72;", "1");
-    finestra.lstBookMark.List = Righe{"1 ÷ 1 ÷Tutta", "1 ÷ 1 ÷ before"};
+    finestra.riferimenti.lstBookMark.List = Righe{"1 ÷ 1 ÷Tutta", "1 ÷ 1 ÷ before"};
 }
 
 bool BancoGuasti::HaSuonato() const {
@@ -33,9 +33,9 @@ bool BancoGuasti::HaSuonato() const {
 void BancoGuasti::EsceGuasto(const std::string& box) const {
     EXPECT_EQ(riquadri.messaggi, std::vector<std::string>{box});
     EXPECT_EQ(melodia.nomeMelodia, "song");
-    EXPECT_EQ(finestra.lblNome.Caption(), "song");
+    EXPECT_EQ(finestra.stato.lblNome.Caption(), "song");
     EXPECT_FALSE(HaSuonato());
-    EXPECT_EQ(finestra.cmdPlay.Caption(), "Play");
+    EXPECT_EQ(finestra.play.cmdPlay.Caption(), "Play");
     EXPECT_TRUE(melodia.inCaricamento);
 }
 

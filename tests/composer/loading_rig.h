@@ -17,7 +17,7 @@ struct BancoCarica : BancoComposer {
     void Carica(const Linee& linee) { Carica(FileDi(linee)); }
     /// Loads the two voices with some lines, counted from 1, changed.
     void CaricaCon(const std::map<std::size_t, std::string>& cambi);
-    const VoceMelodia& V(std::size_t voce) const { return finestra.melodia.voci[voce]; }
+    const VoceMelodia& V(std::size_t voce) const { return finestra.stato.melodia.voci[voce]; }
 };
 
 /// Over another melody, with files that can't be loaded.

@@ -29,36 +29,36 @@ TEST(Carica, TheTextsOfTheVoicesComeBackAndAreSplit) {
 
 TEST(Carica, TheNameIsThatOfTheRow) {
     BancoCarica b;
-    b.finestra.lblNome.Caption = "Salvato: other";
+    b.finestra.stato.lblNome.Caption = "Salvato: other";
     b.Carica(dueVoci);
     EXPECT_EQ(b.melodia.nomeMelodia, "song");
-    EXPECT_EQ(b.finestra.lblNome.Caption(), "song");
+    EXPECT_EQ(b.finestra.stato.lblNome.Caption(), "song");
 }
 
 TEST(Carica, TheRangeIsTheWholeMelodyWhateverItWasBefore) {
     BancoCarica b;
     b.Voce(soprano, "60;62;64;65;67;", "1");
     b.Tratto(3, 4);
-    b.melodia.modoPasso = true;
+    b.passo.modoPasso = true;
     b.Carica(dueVoci);
     EXPECT_EQ(b.V(soprano).primaNota, 0);
     EXPECT_EQ(b.V(soprano).ultimaNota, 3);
-    EXPECT_EQ(b.finestra.lblNini.Text(), "1");
-    EXPECT_EQ(b.finestra.lblNfine.Text(), "4");
-    EXPECT_EQ(b.finestra.lblNt.Caption(), "4");
-    EXPECT_EQ(b.finestra.lblNiniB.Text(), "1");
-    EXPECT_EQ(b.finestra.lblNfineB.Text(), "2");
-    EXPECT_EQ(b.finestra.lblNiniC.Text() + b.finestra.lblNfineC.Text(), "");
-    EXPECT_FALSE(b.melodia.modoPasso);
+    EXPECT_EQ(b.finestra.voci.lblNini.Text(), "1");
+    EXPECT_EQ(b.finestra.voci.lblNfine.Text(), "4");
+    EXPECT_EQ(b.finestra.stato.lblNt.Caption(), "4");
+    EXPECT_EQ(b.finestra.voci.lblNiniB.Text(), "1");
+    EXPECT_EQ(b.finestra.voci.lblNfineB.Text(), "2");
+    EXPECT_EQ(b.finestra.voci.lblNiniC.Text() + b.finestra.voci.lblNfineC.Text(), "");
+    EXPECT_FALSE(b.passo.modoPasso);
     EXPECT_EQ(b.melodia.voceAttiva, "soprano");
 }
 
 TEST(Carica, TheNoteNamesOfEachVoiceAreShown) {
     BancoCarica b;
     b.Carica(dueVoci);
-    EXPECT_EQ(b.finestra.LblNoteString.Caption(), "Do;Re;Mi;Fa;");
-    EXPECT_EQ(b.finestra.LblNoteStringB.Caption(), "Do;Sol;");
-    EXPECT_EQ(b.finestra.LblNoteStringC.Caption(), "");
+    EXPECT_EQ(b.finestra.voci.LblNoteString.Caption(), "Do;Re;Mi;Fa;");
+    EXPECT_EQ(b.finestra.voci.LblNoteStringB.Caption(), "Do;Sol;");
+    EXPECT_EQ(b.finestra.voci.LblNoteStringC.Caption(), "");
 }
 
 TEST(Carica, OfALongSopranoTheLast40CharactersOfItsNamesAreShown) {
@@ -67,23 +67,23 @@ TEST(Carica, OfALongSopranoTheLast40CharactersOfItsNamesAreShown) {
         note += i % 2 ? "68;" : "60;", durate += "0.0625;", attributi += "n;";
     BancoCarica b;
     b.Carica({note, durate, attributi, " 250 ", " 16 "});
-    EXPECT_EQ(b.finestra.LblNoteString.Caption(), "Do;Sol#;Do;Sol#;Do;Sol#;Do;Sol#;Do;Sol#;");
+    EXPECT_EQ(b.finestra.voci.LblNoteString.Caption(), "Do;Sol#;Do;Sol#;Do;Sol#;Do;Sol#;Do;Sol#;");
 }
 
 TEST(Carica, SetsTheTempoWhileItLoadsSoThatTheMelodyIsntMarked) {
     BancoCarica b;
     b.CaricaCon({{4, " 250 "}});
     EXPECT_EQ(b.melodia.tempo, 250);
-    EXPECT_EQ(b.finestra.Slider1.Value(), 250);
-    EXPECT_EQ(b.finestra.Velocità.Caption(), "250");
-    EXPECT_FALSE(b.finestra.lblModificato.Visible());
+    EXPECT_EQ(b.finestra.play.Slider1.Value(), 250);
+    EXPECT_EQ(b.finestra.play.Velocità.Caption(), "250");
+    EXPECT_FALSE(b.finestra.stato.lblModificato.Visible());
 }
 
 TEST(Carica, LowersTheFlagOfTheMelodyBefore) {
     BancoCarica b;
-    b.finestra.lblModificato.Visible = true;
+    b.finestra.stato.lblModificato.Visible = true;
     b.Carica(dueVoci);
-    EXPECT_FALSE(b.finestra.lblModificato.Visible());
+    EXPECT_FALSE(b.finestra.stato.lblModificato.Visible());
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
@@ -93,10 +93,10 @@ TEST(Carica, SendsTheProgramsInTheOrderOfTheVoicesAndShowsAllFour) {
     b.melodia.voci[tenore].strumento = 42;
     b.Carica(dueVoci);
     EXPECT_EQ(b.Programmi(), (Programmi{{1, 16}, {2, 41}, {3, 42}, {4, 32}}));
-    EXPECT_EQ(b.finestra.lblInstr[0].Caption(), "16-Hammond Organ");
-    EXPECT_EQ(b.finestra.lblInstr[1].Caption(), "41-Viola");
-    EXPECT_EQ(b.finestra.lblInstr[2].Caption(), "42-Cello");
-    EXPECT_EQ(b.finestra.lblInstr[3].Caption(), "32-Acoustic Bass");
+    EXPECT_EQ(b.finestra.mix.lblInstr[0].Caption(), "16-Hammond Organ");
+    EXPECT_EQ(b.finestra.mix.lblInstr[1].Caption(), "41-Viola");
+    EXPECT_EQ(b.finestra.mix.lblInstr[2].Caption(), "42-Cello");
+    EXPECT_EQ(b.finestra.mix.lblInstr[3].Caption(), "32-Acoustic Bass");
 }
 
 TEST(Carica, TheInstrumentsOfVoicesWithoutABlockStayAsTheyWere) {
@@ -116,49 +116,49 @@ TEST(Carica, ANegativeInstrumentIsSentForTheSopranoAlone) {
     EXPECT_EQ(b.V(soprano).strumento, -1);
     EXPECT_EQ(b.V(basso).strumento, -1);
     EXPECT_EQ(b.Programmi(), (Programmi{{1, 255}, {2, 16}, {3, 16}}));
-    EXPECT_EQ(b.finestra.lblInstr[basso].Caption(), "-1-");
+    EXPECT_EQ(b.finestra.mix.lblInstr[basso].Caption(), "-1-");
 }
 
 TEST(Carica, TheFirstInstrumentOfAllIsSentForALowerVoiceToo) {
     BancoCarica b;
     b.CaricaCon({{7, "basso;0"}});
     EXPECT_EQ(b.Programmi(), (Programmi{{1, 16}, {2, 16}, {3, 16}, {4, 0}}));
-    EXPECT_EQ(b.finestra.lblInstr[basso].Caption(), "0-Acoustic Grand Piano");
+    EXPECT_EQ(b.finestra.mix.lblInstr[basso].Caption(), "0-Acoustic Grand Piano");
 }
 
 TEST(Carica, Instrument127WithoutTheMetronomeIsTheShortForm) {
     BancoCarica b;
     b.CaricaCon({{5, " 127 "}});
     EXPECT_EQ(b.V(soprano).strumento, 127);
-    EXPECT_EQ(b.finestra.Pulsazioni.Text(), "2");
-    EXPECT_EQ(b.finestra.lblInstr[soprano].Caption(), "127-Gunshot");
+    EXPECT_EQ(b.finestra.pulsi.Pulsazioni.Text(), "2");
+    EXPECT_EQ(b.finestra.mix.lblInstr[soprano].Caption(), "127-Gunshot");
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(Carica, AFileSavedWithTheMetronomeOnRestoresItsSettingsAndTheMetronomeStaysOff) {
     BancoCarica b;
     b.CaricaCon({{5, "16;5;8;3"}});
-    EXPECT_EQ(b.finestra.Pulsazioni.Text(), "5");
-    EXPECT_EQ(b.finestra.DurataPulsazioni.Text(), "8");
-    EXPECT_EQ(b.finestra.InizioPuls.Value(), 3);
-    EXPECT_EQ(b.finestra.LblInizioPuls.Caption(), "3");
-    EXPECT_EQ(b.finestra.pattern, "abbcb");
-    EXPECT_EQ(b.finestra.durataPulso, 0.5);
-    EXPECT_EQ(b.finestra.pulsoIniziale, 2);
-    EXPECT_FALSE(b.finestra.metroAttivo);
-    EXPECT_EQ(b.finestra.lblTs.Caption(), "Off");
-    EXPECT_FALSE(b.finestra.frMetro.Visible());
+    EXPECT_EQ(b.finestra.pulsi.Pulsazioni.Text(), "5");
+    EXPECT_EQ(b.finestra.pulsi.DurataPulsazioni.Text(), "8");
+    EXPECT_EQ(b.finestra.pulsi.InizioPuls.Value(), 3);
+    EXPECT_EQ(b.finestra.pulsi.LblInizioPuls.Caption(), "3");
+    EXPECT_EQ(b.finestra.pulsi.battuta.pattern, "abbcb");
+    EXPECT_EQ(b.finestra.pulsi.battuta.durataPulso, 0.5);
+    EXPECT_EQ(b.finestra.pulsi.battuta.pulsoIniziale, 2);
+    EXPECT_FALSE(b.finestra.pulsi.battuta.metroAttivo);
+    EXPECT_EQ(b.finestra.pulsi.lblTs.Caption(), "Off");
+    EXPECT_FALSE(b.finestra.pulsi.frMetro.Visible());
 }
 
 TEST(Carica, AFileSavedWithTheMetronomeOffLeavesItsSettingsAndItsBeingOn) {
     BancoCarica b;
-    b.finestra.lblTs_Click();
-    b.finestra.Pulsazioni.PonTesto("5");
-    b.finestra.InizioPuls.PonValore(4);
+    b.finestra.pulsi.lblTs_Click();
+    b.finestra.pulsi.Pulsazioni.PonTesto("5");
+    b.finestra.pulsi.InizioPuls.PonValore(4);
     b.Carica(soloSoprano);
-    EXPECT_TRUE(b.finestra.metroAttivo);
-    EXPECT_EQ(b.finestra.Pulsazioni.Text(), "5");
-    EXPECT_EQ(b.finestra.InizioPuls.Value(), 4);
+    EXPECT_TRUE(b.finestra.pulsi.battuta.metroAttivo);
+    EXPECT_EQ(b.finestra.pulsi.Pulsazioni.Text(), "5");
+    EXPECT_EQ(b.finestra.pulsi.InizioPuls.Value(), 4);
 }
 
 }  // namespace corvana::prova

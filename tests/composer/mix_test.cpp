@@ -14,7 +14,7 @@ using Programmi = std::vector<std::pair<int, int>>;
 
 struct BancoMix : BancoComposer {
     BancoMix() { uscita.messaggi.clear(); }
-    bool Modificata() const { return finestra.lblModificato.Visible(); }
+    bool Modificata() const { return finestra.stato.lblModificato.Visible(); }
 };
 
 }  // namespace
@@ -24,69 +24,69 @@ TEST(VoceAttivaClick, MakesTheVoiceTheGreenOneAndTheOthersRed) {
         BancoMix b;
         b.Subito(Fatto::Click, "VoceAttiva" + std::to_string(scelta));
         EXPECT_EQ(b.melodia.voceAttiva, nomiVoci[scelta]);
-        EXPECT_EQ(b.finestra.cmdAddBm.Enabled(), scelta == soprano);
+        EXPECT_EQ(b.finestra.riferimenti.cmdAddBm.Enabled(), scelta == soprano);
         for (std::size_t voce = 0; voce < numeroVoci; ++voce)
-            EXPECT_EQ(b.finestra.VoceAttiva[voce].BackColor(), voce == scelta ? verde : rosso);
+            EXPECT_EQ(b.finestra.mix.VoceAttiva[voce].BackColor(), voce == scelta ? verde : rosso);
     }
 }
 
 TEST(VoceAttivaClick, TheSopranoGivesTheBookmarkButtonBack) {
     BancoMix b;
-    b.finestra.VoceAttiva_Click(2);
-    b.finestra.VoceAttiva_Click(0);
-    EXPECT_TRUE(b.finestra.cmdAddBm.Enabled());
+    b.finestra.mix.VoceAttiva_Click(2);
+    b.finestra.mix.VoceAttiva_Click(0);
+    EXPECT_TRUE(b.finestra.riferimenti.cmdAddBm.Enabled());
 }
 
 TEST(VoceAttivaClick, ShowsTheVoicesRangeEndAndNotItsCount) {
     BancoMix b;
     for (std::size_t voce = 0; voce < numeroVoci; ++voce) {
         b.Voce(voce, "60;62;64;", "1");
-        b.finestra.perVoce[voce].ultima.Text = std::to_string(voce + 10);
+        b.finestra.voci.perVoce[voce].ultima.Text = std::to_string(voce + 10);
     }
     for (std::size_t voce = 0; voce < numeroVoci; ++voce) {
-        b.finestra.VoceAttiva_Click(static_cast<int>(voce));
-        EXPECT_EQ(b.finestra.lblNt.Caption(), std::to_string(voce + 10));
+        b.finestra.mix.VoceAttiva_Click(static_cast<int>(voce));
+        EXPECT_EQ(b.finestra.stato.lblNt.Caption(), std::to_string(voce + 10));
     }
 }
 
 TEST(VoceAttivaClick, SelectingAnEmptyVoiceLeavesLblNtAsItWas) {
     BancoMix b;
     b.Voce(soprano, "60;62;", "1");
-    b.finestra.VoceAttiva_Click(contralto);
-    EXPECT_EQ(b.finestra.lblNt.Caption(), "2");
+    b.finestra.mix.VoceAttiva_Click(contralto);
+    EXPECT_EQ(b.finestra.stato.lblNt.Caption(), "2");
 }
 
 TEST(VoceAttivaClick, InStepModeEndsTheModesFlagButLeavesFrmModificaOnTheScreen) {
     BancoMix b;
-    b.melodia.modoPasso = true;
-    b.finestra.frmModifica.Visible = true;
+    b.passo.modoPasso = true;
+    b.finestra.modifica.frmModifica.Visible = true;
     b.Subito(Fatto::Click, "VoceAttiva1");
-    EXPECT_FALSE(b.melodia.modoPasso);
-    EXPECT_TRUE(b.finestra.frmModifica.Visible());
+    EXPECT_FALSE(b.passo.modoPasso);
+    EXPECT_TRUE(b.finestra.modifica.frmModifica.Visible());
 }
 
 TEST(VoceAttivaClick, AnIndexOutsideOf0To3DoesNothing) {
     BancoMix b;
-    b.finestra.VoceAttiva_Click(contralto);
-    b.melodia.modoPasso = true;
+    b.finestra.mix.VoceAttiva_Click(contralto);
+    b.passo.modoPasso = true;
     for (const int indice : {-1, 4, 100}) {
-        b.finestra.VoceAttiva_Click(indice);
+        b.finestra.mix.VoceAttiva_Click(indice);
         EXPECT_EQ(b.melodia.voceAttiva, "contralto");
-        EXPECT_TRUE(b.melodia.modoPasso);
-        EXPECT_FALSE(b.finestra.cmdAddBm.Enabled());
-        EXPECT_EQ(b.finestra.VoceAttiva[contralto].BackColor(), verde);
+        EXPECT_TRUE(b.passo.modoPasso);
+        EXPECT_FALSE(b.finestra.riferimenti.cmdAddBm.Enabled());
+        EXPECT_EQ(b.finestra.mix.VoceAttiva[contralto].BackColor(), verde);
     }
 }
 
 TEST(SceltaStrum, GivesTheActiveVoiceTheInstrumentOnItsChannelAndShowsIt) {
     for (std::size_t voce = 0; voce < numeroVoci; ++voce) {
         BancoMix b;
-        b.finestra.VoceAttiva_Click(static_cast<int>(voce));
-        b.finestra.SceltaStrum(40);
+        b.finestra.mix.VoceAttiva_Click(static_cast<int>(voce));
+        b.finestra.mix.SceltaStrum(40);
         EXPECT_EQ(b.Programmi(), (Programmi{{static_cast<int>(voce) + 1, 40}}));
         for (std::size_t i = 0; i < numeroVoci; ++i) {
             EXPECT_EQ(b.melodia.voci[i].strumento, i == voce ? 40 : 16);
-            EXPECT_EQ(b.finestra.lblInstr[i].Caption(),
+            EXPECT_EQ(b.finestra.mix.lblInstr[i].Caption(),
                       i == voce ? "40-Violin" : "16-Hammond Organ");
         }
     }
@@ -95,18 +95,18 @@ TEST(SceltaStrum, GivesTheActiveVoiceTheInstrumentOnItsChannelAndShowsIt) {
 TEST(SceltaStrum, AnotherInstrumentMarksAMelodyThatHasASoprano) {
     BancoMix b;
     b.Voce(basso, "48;", "1");
-    b.finestra.VoceAttiva_Click(basso);
-    b.finestra.SceltaStrum(40);
+    b.finestra.mix.VoceAttiva_Click(basso);
+    b.finestra.mix.SceltaStrum(40);
     EXPECT_FALSE(b.Modificata());
     b.Voce(soprano, "60;", "1");
-    b.finestra.SceltaStrum(41);
+    b.finestra.mix.SceltaStrum(41);
     EXPECT_TRUE(b.Modificata());
 }
 
 TEST(SceltaStrum, TheSameValueAsBeforeMarksNothingAndIsStillSent) {
     BancoMix b;
     b.Voce(soprano, "60;", "1");
-    b.finestra.SceltaStrum(16);
+    b.finestra.mix.SceltaStrum(16);
     EXPECT_FALSE(b.Modificata());
     EXPECT_EQ(b.Programmi(), (Programmi{{1, 16}}));
 }
@@ -115,7 +115,7 @@ TEST(SceltaStrum, MarksNothingWhileAMelodyIsBeingLoaded) {
     BancoMix b;
     b.Voce(soprano, "60;", "1");
     b.melodia.inCaricamento = true;
-    b.finestra.SceltaStrum(40);
+    b.finestra.mix.SceltaStrum(40);
     EXPECT_FALSE(b.Modificata());
     EXPECT_EQ(b.melodia.voci[soprano].strumento, 40);
 }
@@ -126,7 +126,7 @@ TEST(Volumi, EachBarWritesItsPercentBesideItAlone) {
         BancoMix b;
         b.Subito(Fatto::Change, barre.at(voce), 40);
         for (std::size_t i = 0; i < numeroVoci; ++i)
-            EXPECT_EQ(b.finestra.perVoce[i].percento.Caption(), i == voce ? "60" : "100");
+            EXPECT_EQ(b.finestra.mix.perVoce[i].percento.Caption(), i == voce ? "60" : "100");
     }
 }
 
@@ -134,7 +134,8 @@ TEST(Volumi, ThePercentIs100LessTheValueAndNoughtAtTheSilentEnd) {
     BancoMix b;
     for (int valore = 0; valore <= 98; ++valore) {
         b.Subito(Fatto::Change, "VolT", valore);
-        EXPECT_EQ(b.finestra.lblVolT.Caption(), valore == 98 ? "0" : std::to_string(100 - valore));
+        EXPECT_EQ(b.finestra.mix.lblVolT.Caption(),
+                  valore == 98 ? "0" : std::to_string(100 - valore));
     }
     EXPECT_FALSE(b.Modificata());
 }

@@ -41,20 +41,20 @@ struct BancoSuDisco {
         b.Voce(3, "36;95;", "4;" + punto + ";", "n;a;");
         for (std::size_t voce = 0; voce < numeroVoci; ++voce)
             b.melodia.voci[voce].strumento = static_cast<std::int32_t>(voce) * 40;
-        b.finestra.lstBookMark.List = Righe{"1 ÷ 6 ÷Tutta", "2 ÷ 3 ÷ così"};
-        b.finestra.Slider1.PonValore(250);
-        b.finestra.lblTs_Click();
-        b.finestra.Pulsazioni.PonTesto("3");
-        b.finestra.InizioPuls.PonValore(2);
+        b.finestra.riferimenti.lstBookMark.List = Righe{"1 ÷ 6 ÷Tutta", "2 ÷ 3 ÷ così"};
+        b.finestra.play.Slider1.PonValore(250);
+        b.finestra.pulsi.lblTs_Click();
+        b.finestra.pulsi.Pulsazioni.PonTesto("3");
+        b.finestra.pulsi.InizioPuls.PonValore(2);
     }
     void Carica(const std::string& nome) {
-        b.finestra.ListaFD();
+        b.finestra.archivio.ListaFD();
         b.Scegli(nome);
-        b.finestra.cmdEseguiFile_Click();
+        b.finestra.archivio.cmdEseguiFile_Click();
     }
     /// The flag and the file stayed, and no temporary is left.
     void EsceRifiutata(const std::string& contenuto) const {
-        EXPECT_TRUE(b.finestra.lblModificato.Visible());
+        EXPECT_TRUE(b.finestra.stato.lblModificato.Visible());
         EXPECT_EQ(Contenuto(cartella.Di("song.mel")), contenuto);
         EXPECT_EQ(cartella.Quanti(), 1);
     }
@@ -75,18 +75,19 @@ void EsceUguale(const Melodia& una, const Melodia& altra) {
 void EsceAndataERitorno(char separatore, const std::string& terzina, const std::string& punto) {
     BancoSuDisco uno(separatore);
     uno.Componi(terzina, punto);
-    uno.b.finestra.SalvaMelodia("song");
+    uno.b.finestra.archivio.SalvaMelodia("song");
     ASSERT_TRUE(uno.b.riquadri.messaggi.empty());
     BancoSuDisco altro(separatore);
     altro.b.globali.percorsoCorrente = uno.b.globali.percorsoCorrente;
     altro.Carica("song");
     EXPECT_TRUE(altro.b.riquadri.messaggi.empty());
     EsceUguale(uno.b.melodia, altro.b.melodia);
-    EXPECT_EQ(altro.b.finestra.lstBookMark.List(), uno.b.finestra.lstBookMark.List());
-    EXPECT_EQ(altro.b.finestra.Pulsazioni.Text(), "3");
-    EXPECT_EQ(altro.b.finestra.InizioPuls.Value(), 2);
-    altro.b.finestra.lblTs_Click();
-    altro.b.finestra.SalvaMelodia("again");
+    EXPECT_EQ(altro.b.finestra.riferimenti.lstBookMark.List(),
+              uno.b.finestra.riferimenti.lstBookMark.List());
+    EXPECT_EQ(altro.b.finestra.pulsi.Pulsazioni.Text(), "3");
+    EXPECT_EQ(altro.b.finestra.pulsi.InizioPuls.Value(), 2);
+    altro.b.finestra.pulsi.lblTs_Click();
+    altro.b.finestra.archivio.SalvaMelodia("again");
     EXPECT_EQ(Contenuto(uno.cartella.Di("again.mel")), Contenuto(uno.cartella.Di("song.mel")));
 }
 
@@ -115,9 +116,9 @@ TEST(SuDisco, TheListShowsWhatLiesInTheFolder) {
     Scrivi(d.cartella.Di("a.mel"), "");
     Scrivi(d.cartella.Di("c.txt"), "");
     std::filesystem::create_directory(d.cartella.Di("folder"));
-    d.b.finestra.mnuApri_Click();
-    EXPECT_EQ(d.b.finestra.List1.List(), (Righe{"» ..", "» folder", "a", "b"}));
-    EXPECT_EQ(d.b.finestra.lblPercorso.Caption().back(), '/');
+    d.b.finestra.archivio.mnuApri_Click();
+    EXPECT_EQ(d.b.finestra.archivio.List1.List(), (Righe{"» ..", "» folder", "a", "b"}));
+    EXPECT_EQ(d.b.finestra.archivio.lblPercorso.Caption().back(), '/');
 }
 
 TEST(SuDisco, AFileThatMayNotGrowLeavesTheOldFileAndTheFlag) {
@@ -127,16 +128,16 @@ TEST(SuDisco, AFileThatMayNotGrowLeavesTheOldFileAndTheFlag) {
     for (int i = 0; i < 1000; ++i)
         note += "60;", durate += "1;", attributi += "n;";
     d.b.Voce(soprano, note, durate, attributi);
-    d.b.finestra.lblModificato.Visible = true;
+    d.b.finestra.stato.lblModificato.Visible = true;
     {
         const DiscoPieno pieno(1000);
-        d.b.finestra.SalvaMelodia("song");
+        d.b.finestra.archivio.SalvaMelodia("song");
     }
     EXPECT_EQ(d.b.riquadri.messaggi, Avvisi{std::to_string(EFBIG) + "\r\n" + ParoleSistema(EFBIG)});
     d.EsceRifiutata("old");
-    d.b.finestra.SalvaMelodia("song");
+    d.b.finestra.archivio.SalvaMelodia("song");
     EXPECT_EQ(Contenuto(d.cartella.Di("song.mel")).size(), 3 * 1000U + 2 * 2000U + 3 * 2 + 6 + 6);
-    EXPECT_FALSE(d.b.finestra.lblModificato.Visible());
+    EXPECT_FALSE(d.b.finestra.stato.lblModificato.Visible());
 }
 
 TEST(SuDisco, ADiskWithoutRoomIsFault61AndLeavesTheOldFileAndTheFlag) {
@@ -144,8 +145,8 @@ TEST(SuDisco, ADiskWithoutRoomIsFault61AndLeavesTheOldFileAndTheFlag) {
     Scrivi(d.cartella.Di("song.mel"), "old");
     std::filesystem::create_symlink("/dev/full", d.cartella.Di("song.mel.nuovo"));
     d.b.Voce(soprano, "60;", "1");
-    d.b.finestra.lblModificato.Visible = true;
-    d.b.finestra.SalvaMelodia("song");
+    d.b.finestra.stato.lblModificato.Visible = true;
+    d.b.finestra.archivio.SalvaMelodia("song");
     EXPECT_EQ(d.b.riquadri.messaggi, Avvisi{"61\r\n" + ParoleSistema(ENOSPC)});
     d.EsceRifiutata("old");
 }
@@ -155,11 +156,11 @@ TEST(SuDisco, ANameThatAFolderHasIsRefusedByTheDiskAndTheFolderStays) {
     std::filesystem::create_directory(d.cartella.Di("song.mel"));
     Scrivi(d.cartella.Di("song.mel/inside"), "kept");
     d.b.Voce(soprano, "60;", "1");
-    d.b.finestra.lblModificato.Visible = true;
-    d.b.finestra.SalvaMelodia("song");
+    d.b.finestra.stato.lblModificato.Visible = true;
+    d.b.finestra.archivio.SalvaMelodia("song");
     EXPECT_EQ(d.b.riquadri.messaggi,
               Avvisi{std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)});
-    EXPECT_TRUE(d.b.finestra.lblModificato.Visible());
+    EXPECT_TRUE(d.b.finestra.stato.lblModificato.Visible());
     EXPECT_EQ(Contenuto(d.cartella.Di("song.mel/inside")), "kept");
     EXPECT_EQ(d.cartella.Quanti(), 1);
 }
@@ -169,8 +170,8 @@ TEST(SuDisco, AFolderThatLetsNothingBeWrittenLeavesTheOldFileAndTheFlag) {
     Scrivi(d.cartella.Di("song.mel"), "old");
     std::filesystem::create_directory(d.cartella.Di("song.mel.nuovo"));
     d.b.Voce(soprano, "60;", "1");
-    d.b.finestra.lblModificato.Visible = true;
-    d.b.finestra.SalvaMelodia("song");
+    d.b.finestra.stato.lblModificato.Visible = true;
+    d.b.finestra.archivio.SalvaMelodia("song");
     EXPECT_EQ(d.b.riquadri.messaggi,
               Avvisi{std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)});
     std::filesystem::remove(d.cartella.Di("song.mel.nuovo"));
@@ -182,8 +183,8 @@ TEST(SuDisco, AFolderThatIsAFileIsNoneAndStopsASaveWithoutAWord) {
     Scrivi(d.cartella.Di("song.mel"), "old");
     d.b.globali.percorsoCorrente = d.cartella.Di("song.mel") + "/";
     d.b.Voce(soprano, "60;", "1");
-    d.b.finestra.lblModificato.Visible = true;
-    d.b.finestra.SalvaMelodia("song");
+    d.b.finestra.stato.lblModificato.Visible = true;
+    d.b.finestra.archivio.SalvaMelodia("song");
     EXPECT_TRUE(d.b.riquadri.messaggi.empty());
     d.EsceRifiutata("old");
 }
@@ -191,12 +192,12 @@ TEST(SuDisco, AFolderThatIsAFileIsNoneAndStopsASaveWithoutAWord) {
 TEST(SuDisco, AMissingFileAndAFolderInItsPlaceAreToldByTheSystemsWords) {
     BancoSuDisco d;
     Scrivi(d.cartella.Di("song.mel"), FileDi(dueVoci));
-    d.b.finestra.ListaFD();
+    d.b.finestra.archivio.ListaFD();
     d.b.Scegli("song");
     std::filesystem::remove(d.cartella.Di("song.mel"));
-    d.b.finestra.cmdEseguiFile_Click();
+    d.b.finestra.archivio.cmdEseguiFile_Click();
     std::filesystem::create_directory(d.cartella.Di("song.mel"));
-    d.b.finestra.cmdEseguiFile_Click();
+    d.b.finestra.archivio.cmdEseguiFile_Click();
     EXPECT_EQ(d.b.riquadri.messaggi,
               (Avvisi{"2\r\n" + ParoleSistema(ENOENT),
                       std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)}));
@@ -205,13 +206,13 @@ TEST(SuDisco, AMissingFileAndAFolderInItsPlaceAreToldByTheSystemsWords) {
 TEST(SuDisco, APipeIsntListedAndItsNameDoesntKeepTheLoadWaiting) {
     BancoSuDisco d;
     ASSERT_EQ(mkfifo(d.cartella.Di("x.mel").c_str(), 0600), 0);
-    d.b.finestra.ListaFD();
-    EXPECT_EQ(d.b.finestra.List1.List(), Righe{"» .."});
-    d.b.finestra.List1.List = Righe{"x"};
+    d.b.finestra.archivio.ListaFD();
+    EXPECT_EQ(d.b.finestra.archivio.List1.List(), Righe{"» .."});
+    d.b.finestra.archivio.List1.List = Righe{"x"};
     d.Carica("x");
-    d.b.finestra.List1.List = Righe{"x"};
+    d.b.finestra.archivio.List1.List = Righe{"x"};
     d.b.Scegli("x");
-    d.b.finestra.cmdEseguiFile_Click();
+    d.b.finestra.archivio.cmdEseguiFile_Click();
     EXPECT_EQ(d.b.riquadri.messaggi,
               Avvisi{std::to_string(EINVAL) + "\r\n" + ParoleSistema(EINVAL)});
 }

@@ -16,7 +16,7 @@ struct BancoPiano : BancoComposer {
             Lascia(pompa.Adesso(), codice);
         pompa.Attendi(0.001);
         pompa.PompaEventi();
-        finestra.EsaminaPiano();
+        finestra.tasti.EsaminaPiano();
     }
     std::vector<std::uint32_t> Inviati() const {
         std::vector<std::uint32_t> inviati;
@@ -48,11 +48,11 @@ TEST(PianoDaTastiera, InTheKeyPollTheKeyPSoundsAtVelocity100WhereAllOtherKeysSou
 TEST(PianoDaTastiera, AHeldKeyIsStruckOnceAndStaysLitUntilItIsLetGo) {
     BancoPiano b;
     b.Passo('Z', true);
-    b.finestra.EsaminaPiano();
+    b.finestra.tasti.EsaminaPiano();
     EXPECT_EQ(b.Inviati(), std::vector{Nota(48, 90)});
-    EXPECT_EQ(b.finestra.lb[12].BackStyle(), fondoOpaco);
+    EXPECT_EQ(b.finestra.tasti.lb[12].BackStyle(), fondoOpaco);
     b.Passo('Z', false);
-    EXPECT_EQ(b.finestra.lb[12].BackStyle(), fondoTrasparente);
+    EXPECT_EQ(b.finestra.tasti.lb[12].BackStyle(), fondoTrasparente);
 }
 
 TEST(PianoDaTastiera, KeysOfOnePassSoundInTheOrderOfTheKeyboard) {
@@ -64,18 +64,18 @@ TEST(PianoDaTastiera, KeysOfOnePassSoundInTheOrderOfTheKeyboard) {
 
 TEST(PianoDaTastiera, APlayedKeyBecomesTheActiveNote) {
     BancoPiano b;
-    b.finestra.baseTastiera = 60;
+    b.finestra.tasti.baseTastiera = 60;
     b.Passo('C', true);
-    EXPECT_EQ(b.melodia.notaAttiva, 64);
-    EXPECT_EQ(b.finestra.lblActNote.Caption(), "Mi");
+    EXPECT_EQ(b.inserimento.notaAttiva, 64);
+    EXPECT_EQ(b.finestra.stato.lblActNote.Caption(), "Mi");
 }
 
 TEST(PianoDaTastiera, WithTheTieLitAPlayedKeySoundsAndTheActiveNoteStays) {
     BancoPiano b;
-    b.melodia.attributoAttivo = 2;
+    b.inserimento.attributoAttivo = 2;
     b.Passo('C', true);
     EXPECT_EQ(b.Inviati(), std::vector{Nota(52, 90)});
-    EXPECT_EQ(b.melodia.notaAttiva, 60);
+    EXPECT_EQ(b.inserimento.notaAttiva, 60);
 }
 
 }  // namespace corvana::prova

@@ -28,17 +28,20 @@ struct BancoGuasto : BancoComposer {
             if (!vero) rimasti.emplace_back(cosa);
         };
         const auto& f = finestra;
-        esigi(f.cmdPlay.Caption() == "Play", "caption");
-        esigi(f.cmdPlay.BackColor() == f.lblNe.BackColor(), "colour");
-        esigi(!f.inEsecuzione && !f.melodia.inCaricamento, "flags");
-        esigi(f.cmdCanc.Enabled() && f.cmdAddBm.Enabled() && f.cmdPaste.Enabled(), "commands");
-        esigi(f.file.Enabled() && f.cmdInsPausa.Enabled() && f.cmdInsNota.Enabled(),
+        esigi(f.play.cmdPlay.Caption() == "Play", "caption");
+        esigi(f.play.cmdPlay.BackColor() == f.stato.lblNe.BackColor(), "colour");
+        esigi(!f.stato.inEsecuzione && !f.stato.melodia.inCaricamento, "flags");
+        esigi(f.modifica.cmdCanc.Enabled() && f.riferimenti.cmdAddBm.Enabled() &&
+                  f.modifica.cmdPaste.Enabled(),
+              "commands");
+        esigi(f.menu.file.Enabled() && f.inserimento.cmdInsPausa.Enabled() &&
+                  f.inserimento.cmdInsNota.Enabled(),
               "more commands");
-        esigi(!f.lblNini.Locked() && !f.lblNfineB.Locked(), "boxes");
-        esigi(f.lblNe.Caption().empty() && f.lblPnn.Caption().empty(), "display");
-        esigi(f.Cursore.Left() == 2190, "cursor");
+        esigi(!f.voci.lblNini.Locked() && !f.voci.lblNfineB.Locked(), "boxes");
+        esigi(f.stato.lblNe.Caption().empty() && f.stato.lblPnn.Caption().empty(), "display");
+        esigi(f.play.Cursore.Left() == 2190, "cursor");
         esigi(uscita.NoteAccese().empty(), "notes");
-        esigi(std::none_of(f.lb.begin(), f.lb.end(),
+        esigi(std::none_of(f.tasti.lb.begin(), f.tasti.lb.end(),
                            [](const Etichetta& t) { return t.BackStyle() == fondoOpaco; }),
               "keys");
         esigi(specchio.fuochi == std::vector<std::string>{"cmdPlay"}, "focus");
@@ -125,7 +128,7 @@ TEST(GuastoRiproduzione, TheNextPlayIsAsIfNothingHadBeen) {
 TEST(GuastoRiproduzione, AFaultInARepeatedRoundEndsThePlay) {
     BancoGuasto b;
     b.Voce(soprano, "60;62;", "0.25");
-    b.finestra.chekLoop.Value = true;
+    b.finestra.play.chekLoop.Value = true;
     b.NelTick(12, [&] { b.melodia.voci[soprano].noteVoce[0] = "x"; });
     b.Quando(1000, [] {});
     EXPECT_EQ(b.Messaggi(), tipo);
@@ -146,7 +149,7 @@ TEST(GuastoRiproduzione, AnyOtherExceptionPutsAllBackToo) {
         BancoGuasto b;
         b.Voce(soprano, "60;62;", "0.25");
         b.NelTick(tick, [] { throw std::out_of_range("at"); });
-        b.finestra.chekLoop.Value = true;
+        b.finestra.play.chekLoop.Value = true;
         EXPECT_EQ(b.Messaggi(), Testi{"51\r\nat"});
         EXPECT_EQ(b.Rimasti(), Testi{});
     }

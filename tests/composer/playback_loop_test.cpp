@@ -16,7 +16,7 @@ constexpr double pausa = 0.502;
 struct BancoGiri : BancoComposer {
     BancoGiri() {
         Voce(soprano, "60;62;64;65;", "0.25");
-        finestra.chekLoop.Value = true;
+        finestra.play.chekLoop.Value = true;
     }
 
     /// Stops in the tick `nelGiro` of round `giro`, whose rounds take `tickGiro`; all from 1.
@@ -25,7 +25,7 @@ struct BancoGiri : BancoComposer {
     }
     bool Muto() const {
         return uscita.NoteAccese().empty() &&
-               std::none_of(finestra.lb.begin(), finestra.lb.end(),
+               std::none_of(finestra.tasti.lb.begin(), finestra.tasti.lb.end(),
                             [](const Etichetta& tasto) { return tasto.BackStyle() == fondoOpaco; });
     }
     std::vector<int> PostiCursore() const {
@@ -95,7 +95,7 @@ TEST(GiriRiproduzione, ATripletTallyBeginsAnewWithEachRound) {
 
 TEST(GiriRiproduzione, TheTickBoxCountsAtTheEndOfEachRound) {
     BancoGiri b;
-    b.finestra.chekLoop.Value = false;
+    b.finestra.play.chekLoop.Value = false;
     const double giro = 32 * tick + pausa;
     b.Clicca(2 * tick, "chekLoop", 1);
     b.Clicca(giro + 2 * tick, "chekLoop", 0);
@@ -125,8 +125,8 @@ TEST(GiriRiproduzione, AfterAStopDuringThePauseNoFurtherTickRuns) {
     EXPECT_EQ(b.Messaggi(), giroIntero);
     EXPECT_EQ(b.PostiCursore().size(), 32U);  // 31 steps and the way back
     EXPECT_NEAR(b.pompa.Adesso(), istante, 1e-9);
-    EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play");
-    EXPECT_FALSE(b.finestra.inEsecuzione);
+    EXPECT_EQ(b.finestra.play.cmdPlay.Caption(), "Play");
+    EXPECT_FALSE(b.finestra.stato.inEsecuzione);
 }
 
 TEST(GiriRiproduzione, OtherClicksDuringThePauseDontShortenIt) {
@@ -152,10 +152,10 @@ TEST(GiriRiproduzione, AVolumeSetDuringThePauseCountsInTheNextRoundAndATempoDoes
 TEST(GiriRiproduzione, PulsesBeginAnewWithEachRoundAndAreSilentInThePause) {
     BancoGiri b;
     b.Voce(soprano, "60;", "0.375");
-    b.finestra.lblTs_Click();
-    b.finestra.Pulsazioni.PonTesto("3");
-    b.finestra.DurataPulsazioni.PonTesto("16");
-    b.NelTick(2, [&] { b.finestra.InizioPuls.PonValore(2); });
+    b.finestra.pulsi.lblTs_Click();
+    b.finestra.pulsi.Pulsazioni.PonTesto("3");
+    b.finestra.pulsi.DurataPulsazioni.PonTesto("16");
+    b.NelTick(2, [&] { b.finestra.pulsi.InizioPuls.PonValore(2); });
     b.FermaNelGiro(2, 12, 12);
     b.Suona();
     const auto giro = [](int primo) {
@@ -193,9 +193,9 @@ TEST(GiriRiproduzione, StopTakesEffectWithinOneTick) {
 TEST(GiriRiproduzione, AnyCallToPlayWhileItPlaysIsTheStop) {
     BancoGiri b;
     b.NelTick(5, [&] {
-        b.finestra.SuonaMelodia(0, 0, true);
-        EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play");
-        EXPECT_EQ(b.finestra.cmdPlay.BackColor(), b.finestra.lblNe.BackColor());
+        b.finestra.play.SuonaMelodia(0, 0, true);
+        EXPECT_EQ(b.finestra.play.cmdPlay.Caption(), "Play");
+        EXPECT_EQ(b.finestra.play.cmdPlay.BackColor(), b.finestra.stato.lblNe.BackColor());
     });
     b.Suona();
     EXPECT_EQ(b.TickPassati(), 5);
@@ -204,7 +204,7 @@ TEST(GiriRiproduzione, AnyCallToPlayWhileItPlaysIsTheStop) {
 
 TEST(GiriRiproduzione, StopAndPlayInOneTickPlayFromTheBeginningWithoutTheNotesThatWereHeld) {
     BancoGiri b;
-    b.finestra.chekLoop.Value = false;
+    b.finestra.play.chekLoop.Value = false;
     b.Voce(contralto, "30;", "1");
     b.Voce(tenore, "43;", "1");
     b.CliccaNelTick(10, "cmdPlay");
@@ -215,20 +215,20 @@ TEST(GiriRiproduzione, StopAndPlayInOneTickPlayFromTheBeginningWithoutTheNotesTh
     bool tastoSpento = false;
     b.NelTick(11, [&] {
         accese = b.uscita.NoteAccese();
-        tastoSpento = b.finestra.lb[43 - 36].BackStyle() == fondoTrasparente;
+        tastoSpento = b.finestra.tasti.lb[43 - 36].BackStyle() == fondoTrasparente;
     });
     b.Suona();
     EXPECT_EQ(accese, (std::vector<std::pair<int, int>>{{1, 60}, {2, 31}, {3, 44}}));
     EXPECT_TRUE(tastoSpento);
     EXPECT_EQ(b.TickPassati(), 42);
     EXPECT_TRUE(b.Muto());
-    EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play");
+    EXPECT_EQ(b.finestra.play.cmdPlay.Caption(), "Play");
 }
 
 TEST(GiriRiproduzione, StopAndPlayInOneTickReleaseAPulseThatWasHeld) {
     BancoGiri b;
-    b.finestra.chekLoop.Value = false;
-    b.finestra.lblTs_Click();
+    b.finestra.play.chekLoop.Value = false;
+    b.finestra.pulsi.lblTs_Click();
     b.CliccaNelTick(10, "cmdPlay");
     b.CliccaNelTick(10, "lblTs");
     b.CliccaNelTick(10, "cmdPlay");

@@ -17,9 +17,9 @@ struct BancoPulsi : BancoComposer {
             attributi += "n;";
         }
         Voce(soprano, note, durate, attributi);
-        finestra.lblTs_Click();
-        finestra.Pulsazioni.PonTesto(pulsazioni);
-        finestra.DurataPulsazioni.PonTesto("16");
+        finestra.pulsi.lblTs_Click();
+        finestra.pulsi.Pulsazioni.PonTesto(pulsazioni);
+        finestra.pulsi.DurataPulsazioni.PonTesto("16");
     }
 
     Mandati Pulsi() {
@@ -51,7 +51,7 @@ TEST(PulsiRiproduzione, InATickThePulseGoesBeforeTheVoices) {
 
 TEST(PulsiRiproduzione, BehindTheLastLetterThePulsesWrapToIndex0NotToTheStartPulse) {
     BancoPulsi b("3");
-    b.finestra.InizioPuls.PonValore(2);
+    b.finestra.pulsi.InizioPuls.PonValore(2);
     EXPECT_EQ(b.Pulsi(), (Mandati{{1, 10, 36, 120},
                                   {8, 10, 36, 0},
                                   {9, 10, 36, 120},
@@ -64,8 +64,8 @@ TEST(PulsiRiproduzione, BehindTheLastLetterThePulsesWrapToIndex0NotToTheStartPul
 
 TEST(PulsiRiproduzione, ALetterThatIsNoneKeepsTheKeyBeforeAlsoThatOfThePlayBefore) {
     BancoPulsi b("2", {24});
-    b.finestra.pattern = "xcx";
-    b.finestra.ultimoPulso = 2;
+    b.finestra.pulsi.battuta.pattern = "xcx";
+    b.finestra.pulsi.battuta.ultimoPulso = 2;
     const auto pulsi = [](int primo) {
         return Mandati{{1, 10, primo, 120}, {8, 10, primo, 0}, {9, 10, 46, 120},
                        {16, 10, 46, 0},     {17, 10, 46, 120}, {24, 10, 46, 0}};
@@ -76,7 +76,7 @@ TEST(PulsiRiproduzione, ALetterThatIsNoneKeepsTheKeyBeforeAlsoThatOfThePlayBefor
 
 TEST(PulsiRiproduzione, TheVolumeIsReadAtEachPulse) {
     BancoPulsi b("1", {24});
-    b.finestra.VolumeMetro.Value = 20;
+    b.finestra.pulsi.VolumeMetro.Value = 20;
     b.Fa(0.031 * 5, Fatto::Change, "VolumeMetro", 120);
     b.Fa(0.031 * 10, Fatto::Change, "VolumeMetro", 0);
     EXPECT_EQ(b.Pulsi(), (Mandati{{1, 10, 81, 100},
@@ -89,7 +89,7 @@ TEST(PulsiRiproduzione, TheVolumeIsReadAtEachPulse) {
 
 TEST(PulsiRiproduzione, ARangeFromTheFirstNoteBeginsAtIndex0WhateverTheStartPulse) {
     BancoPulsi b("3", {16, 16});
-    b.finestra.InizioPuls.PonValore(2);
+    b.finestra.pulsi.InizioPuls.PonValore(2);
     b.Tratto(1, 1);
     EXPECT_EQ(b.Pulsi(),
               (Mandati{{1, 10, 81, 120}, {8, 10, 81, 0}, {9, 10, 36, 120}, {16, 10, 36, 0}}));
@@ -98,7 +98,7 @@ TEST(PulsiRiproduzione, ARangeFromTheFirstNoteBeginsAtIndex0WhateverTheStartPuls
 
 TEST(PulsiRiproduzione, ALaterRangeBeginsWhereThePulsesFromTheStartPulseOnHaveCome) {
     BancoPulsi b("4", {19, 16, 8});
-    b.finestra.InizioPuls.PonValore(3);
+    b.finestra.pulsi.InizioPuls.PonValore(3);
     b.Tratto(2, 2);
     // Two pulses and 3 ticks lie before the range: the third and the fourth, and of the first 3.
     EXPECT_EQ(b.Pulsi(), (Mandati{{1, 10, 81, 120},
@@ -118,10 +118,10 @@ TEST(PulsiRiproduzione, ARangeThatBeginsWithAPulsesLastTickHasTheNextPulseATickL
 
 TEST(PulsiRiproduzione, TurnedOnDuringAPlayItTicksFromTheNextPlayOn) {
     BancoPulsi b("2", {16});
-    b.finestra.lblTs_Click();
+    b.finestra.pulsi.lblTs_Click();
     b.CliccaNelTick(2, "lblTs");
     EXPECT_EQ(b.Pulsi(), Mandati{});
-    EXPECT_TRUE(b.finestra.metroAttivo);
+    EXPECT_TRUE(b.finestra.pulsi.battuta.metroAttivo);
     EXPECT_EQ(b.Pulsi(),
               (Mandati{{1, 10, 81, 120}, {8, 10, 81, 0}, {9, 10, 36, 120}, {16, 10, 36, 0}}));
 }
@@ -150,7 +150,7 @@ TEST(PulsiRiproduzione, APulseThatSoundsAtTheEndOfThePlayIsReleasedThere) {
 
 TEST(PulsiRiproduzione, APulseIsReleasedByTheKeyThatItWasStruckWith) {
     BancoPulsi b("4", {32});
-    b.NelTick(26, [&] { b.finestra.Pulsazioni.PonTesto("5"); });
+    b.NelTick(26, [&] { b.finestra.pulsi.Pulsazioni.PonTesto("5"); });
     EXPECT_EQ(b.Pulsi(), (Mandati{{1, 10, 81, 120},
                                   {8, 10, 81, 0},
                                   {9, 10, 36, 120},
@@ -163,7 +163,7 @@ TEST(PulsiRiproduzione, APulseIsReleasedByTheKeyThatItWasStruckWith) {
 
 TEST(PulsiRiproduzione, WithFewerPulsesThanTheOneThatStandsNoneFollowsInThisPlay) {
     BancoPulsi b("3", {32});
-    b.NelTick(20, [&] { b.finestra.Pulsazioni.PonTesto("1"); });
+    b.NelTick(20, [&] { b.finestra.pulsi.Pulsazioni.PonTesto("1"); });
     EXPECT_EQ(b.Pulsi(), (Mandati{{1, 10, 81, 120},
                                   {8, 10, 81, 0},
                                   {9, 10, 36, 120},
@@ -175,8 +175,8 @@ TEST(PulsiRiproduzione, WithFewerPulsesThanTheOneThatStandsNoneFollowsInThisPlay
 TEST(PulsiRiproduzione, TheLengthOfAPulseIsReadOnceAndTheStartPulseAtTheBeginning) {
     BancoPulsi b("2", {16});
     b.NelTick(2, [&] {
-        b.finestra.DurataPulsazioni.PonTesto("4");
-        b.finestra.InizioPuls.PonValore(2);
+        b.finestra.pulsi.DurataPulsazioni.PonTesto("4");
+        b.finestra.pulsi.InizioPuls.PonValore(2);
     });
     EXPECT_EQ(b.Pulsi(),
               (Mandati{{1, 10, 81, 120}, {8, 10, 81, 0}, {9, 10, 36, 120}, {16, 10, 36, 0}}));
@@ -185,19 +185,19 @@ TEST(PulsiRiproduzione, TheLengthOfAPulseIsReadOnceAndTheStartPulseAtTheBeginnin
 
 TEST(PulsiRiproduzione, TheCounterCountsPulsesOnlyWhileItIsShown) {
     BancoPulsi b("2", {32});
-    b.NelTick(10, [&] { b.finestra.lblDebug.Visible = true; });
+    b.NelTick(10, [&] { b.finestra.pulsi.lblDebug.Visible = true; });
     b.Suona();
-    EXPECT_EQ(b.finestra.lblDebug.Caption(), "2");
+    EXPECT_EQ(b.finestra.pulsi.lblDebug.Caption(), "2");
     b.Suona();
-    EXPECT_EQ(b.finestra.lblDebug.Caption(), "6");
-    b.finestra.lblDebug.Visible = false;
+    EXPECT_EQ(b.finestra.pulsi.lblDebug.Caption(), "6");
+    b.finestra.pulsi.lblDebug.Visible = false;
     b.Suona();
-    EXPECT_EQ(b.finestra.lblDebug.Caption(), "6");
+    EXPECT_EQ(b.finestra.pulsi.lblDebug.Caption(), "6");
 }
 
 TEST(PulsiRiproduzione, WithTheMetronomeOffThereAreNone) {
     BancoPulsi b("2", {32});
-    b.finestra.lblTs_Click();
+    b.finestra.pulsi.lblTs_Click();
     EXPECT_EQ(b.Pulsi(), Mandati{});
 }
 

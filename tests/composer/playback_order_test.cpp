@@ -24,17 +24,17 @@ struct BancoOrdine : Banco {
     }
 
     void Soprano(const std::string& note, const std::string& durate, const std::string& attributi) {
-        VoceMelodia& voce = finestra.melodia.voci[soprano];
+        VoceMelodia& voce = finestra.stato.melodia.voci[soprano];
         voce.testoNote = note;
         voce.testoDurate = durate;
         voce.testoAttributi = attributi;
-        finestra.AggiornaVoce();
+        finestra.voci.AggiornaVoce();
     }
 
     /// The messages and the changes of keys, in order, of a play up to its end procedure.
     std::vector<std::string> Fatti() {
         specchio.cambi.clear();
-        finestra.cmdPlay_Click();
+        finestra.play.cmdPlay_Click();
         std::vector<std::string> fatti;
         std::size_t mandati = 0;
         const auto messaggiFino = [&](std::size_t cambi) {
@@ -98,10 +98,10 @@ TEST(OrdineRiproduzione, AVolumeIsReadAsEachNoteIsLoaded) {
     BancoComposer b;
     b.Voce(soprano, "60;61;62;63;", "0.25");
     b.Voce(contralto, "48;49;50;51;", "0.25;0.25;0.25;0.25;", "a;s;t;p;");
-    b.NelTick(3, [&] { b.finestra.VolS.PonValore(50); });
-    b.NelTick(8, [&] { b.finestra.VolC.PonValore(10); });
-    b.NelTick(17, [&] { b.finestra.VolS.PonValore(98); });
-    b.NelTick(20, [&] { b.finestra.VolS.PonValore(97); });
+    b.NelTick(3, [&] { b.finestra.mix.VolS.PonValore(50); });
+    b.NelTick(8, [&] { b.finestra.mix.VolC.PonValore(10); });
+    b.NelTick(17, [&] { b.finestra.mix.VolS.PonValore(98); });
+    b.NelTick(20, [&] { b.finestra.mix.VolS.PonValore(97); });
     b.Suona();
     EXPECT_EQ(b.Messaggi(1), (Mandati{{1, 1, 60, 96},
                                       {8, 1, 60, 0},
@@ -122,7 +122,7 @@ TEST(OrdineRiproduzione, WithVolSAt98AllSopranoNotesGoOutAtVelocity2AndLblVolSRe
     b.Fa(0, Fatto::Change, "VolS", 98);
     b.pompa.AttendiEvento(1);
     b.Suona();
-    EXPECT_EQ(b.finestra.lblVolS.Caption(), "0");
+    EXPECT_EQ(b.finestra.mix.lblVolS.Caption(), "0");
     EXPECT_EQ(b.Messaggi(1), (Mandati{{1, 1, 60, 2},
                                       {16, 1, 60, 0},
                                       {17, 1, 61, 2},
@@ -138,10 +138,10 @@ TEST(OrdineRiproduzione, EachVoiceHasItsOwnVolumeBar) {
     BancoComposer b;
     for (std::size_t voce = 0; voce < numeroVoci; ++voce)
         b.Voce(voce, std::to_string(60 - 4 * voce) + ";", "1");
-    b.finestra.VolS.Value = 10;
-    b.finestra.VolC.Value = 20;
-    b.finestra.VolT.Value = 30;
-    b.finestra.VolB.Value = 40;
+    b.finestra.mix.VolS.Value = 10;
+    b.finestra.mix.VolC.Value = 20;
+    b.finestra.mix.VolT.Value = 30;
+    b.finestra.mix.VolB.Value = 40;
     b.Suona();
     EXPECT_EQ(b.Messaggi(), (Mandati{{1, 1, 60, 88},
                                      {1, 2, 56, 78},

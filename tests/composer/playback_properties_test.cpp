@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "composer/ranges.h"
+#include "composer/play_panel.h"
 #include "tests/composer/voice_model.h"
 
 namespace corvana::prova {
@@ -25,13 +25,13 @@ void Compi(BancoComposer& b, const Gesto& gesto) {
     const auto voce = static_cast<std::size_t>(gesto.valore) % numeroVoci;
     switch (gesto.quale) {
         case 0:
-        case 1: return f.perVoce[voce].volume.PonValore(gesto.valore % 99);
+        case 1: return f.mix.perVoce[voce].volume.PonValore(gesto.valore % 99);
         case 2:
-        case 3: return f.VoceAttiva_Click(static_cast<int>(voce));
-        case 4: return f.lblTs_Click();
-        case 5: return f.Slider1.PonValore(20 + gesto.valore % 231);
-        case 6: return f.Pulsazioni.PonTesto(std::to_string(1 + gesto.valore % 9));
-        default: return f.InizioPuls.PonValore(1);
+        case 3: return f.mix.VoceAttiva_Click(static_cast<int>(voce));
+        case 4: return f.pulsi.lblTs_Click();
+        case 5: return f.play.Slider1.PonValore(20 + gesto.valore % 231);
+        case 6: return f.pulsi.Pulsazioni.PonTesto(std::to_string(1 + gesto.valore % 9));
+        default: return f.pulsi.InizioPuls.PonValore(1);
     }
 }
 
@@ -46,20 +46,21 @@ void AggiungiGesti(BancoComposer& b, int tick) {
 void EsigiFinita(const BancoComposer& b) {
     const auto& f = b.finestra;
     RC_ASSERT(b.uscita.NoteAccese().empty());
-    RC_ASSERT(std::none_of(f.lb.begin(), f.lb.end(),
+    RC_ASSERT(std::none_of(f.tasti.lb.begin(), f.tasti.lb.end(),
                            [](const Etichetta& tasto) { return tasto.BackStyle() == fondoOpaco; }));
-    RC_ASSERT(f.cmdPlay.Caption() == "Play");
-    RC_ASSERT(!f.inEsecuzione);
-    for (const Controllo* c :
-         {static_cast<const Controllo*>(&f.cmdCanc), static_cast<const Controllo*>(&f.cmdPaste),
-          static_cast<const Controllo*>(&f.file), static_cast<const Controllo*>(&f.cmdInsPausa),
-          static_cast<const Controllo*>(&f.cmdInsNota)})
+    RC_ASSERT(f.play.cmdPlay.Caption() == "Play");
+    RC_ASSERT(!f.stato.inEsecuzione);
+    for (const Controllo* c : {static_cast<const Controllo*>(&f.modifica.cmdCanc),
+                               static_cast<const Controllo*>(&f.modifica.cmdPaste),
+                               static_cast<const Controllo*>(&f.menu.file),
+                               static_cast<const Controllo*>(&f.inserimento.cmdInsPausa),
+                               static_cast<const Controllo*>(&f.inserimento.cmdInsNota)})
         RC_ASSERT(c->Enabled());
-    if (f.melodia.voceAttiva == "soprano") RC_ASSERT(f.cmdAddBm.Enabled());
-    for (const auto& voce : f.perVoce)
+    if (f.stato.melodia.voceAttiva == "soprano") RC_ASSERT(f.riferimenti.cmdAddBm.Enabled());
+    for (const auto& voce : f.voci.perVoce)
         RC_ASSERT(!voce.prima.Locked() && !voce.ultima.Locked());
-    RC_ASSERT(f.Cursore.Left() == sinistraRigaCur);
-    RC_ASSERT(f.lblNe.Caption().empty() && f.lblPnn.Caption().empty());
+    RC_ASSERT(f.play.Cursore.Left() == sinistraRigaCur);
+    RC_ASSERT(f.stato.lblNe.Caption().empty() && f.stato.lblPnn.Caption().empty());
 }
 
 /// The notes struck on a voice's channel come in the order of its tokens.
@@ -132,7 +133,7 @@ TEST(ProprietaRiproduzione, AStopAtAnyTickEndsAPlayThereHoweverOftenItIsRepeated
         RC_PRE(durata > 0);
         BancoComposer b;
         Scrivi(b, melodia);
-        b.finestra.chekLoop.Value = true;
+        b.finestra.play.chekLoop.Value = true;
         AggiungiGesti(b, durata);
         const int giro = Tra(1, 4);
         const int fermata = Tra(1, durata);
@@ -152,7 +153,7 @@ TEST(ProprietaRiproduzione, EachRoundSendsTheSameNotesAsTheFirst) {
         RC_PRE(durata > 0);
         BancoComposer b;
         Scrivi(b, melodia);
-        b.finestra.chekLoop.Value = true;
+        b.finestra.play.chekLoop.Value = true;
         b.Clicca(3 * (durata * 0.031 + 0.502) - 0.2, "cmdPlay");
         b.Suona();
         const auto nelGiro = [&](int giro) {

@@ -1,7 +1,7 @@
 // Plays of a range of the soprano, which the other voices join where the range begins.
 #include <gtest/gtest.h>
 
-#include "composer/ranges.h"
+#include "composer/play_panel.h"
 #include "tests/composer/composer_rig.h"
 
 namespace corvana::prova {
@@ -15,7 +15,7 @@ struct BancoTratto : BancoComposer {
     std::vector<int> TastiAccesi() const {
         std::vector<int> accesi;
         for (int tasto = 0; tasto < tastiTastiera; ++tasto)
-            if (finestra.lb[static_cast<std::size_t>(tasto)].BackStyle() == fondoOpaco)
+            if (finestra.tasti.lb[static_cast<std::size_t>(tasto)].BackStyle() == fondoOpaco)
                 accesi.push_back(tasto);
         return accesi;
     }
@@ -125,7 +125,7 @@ TEST(TrattoRiproduzione, ARangeThatEndsBeforeItBeginsPlaysNothing) {
     b.Suona();
     EXPECT_EQ(b.Messaggi(), Mandati{});
     EXPECT_EQ(b.TickPassati(), 0);
-    EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play");
+    EXPECT_EQ(b.finestra.play.cmdPlay.Caption(), "Play");
 }
 
 TEST(TrattoRiproduzione, ARangeOverTheWholeSopranoIsAWholePlay) {
@@ -145,7 +145,7 @@ TEST(TrattoRiproduzione, WithAnEmptySopranoThePlayIsWholeWhateverTheRange) {
     BancoTratto b;
     b.Voce(soprano, "", "", "");
     b.Voce(contralto, "48;", "1");
-    b.Suona([&] { b.finestra.SuonaMelodia(3, 4, false); });
+    b.Suona([&] { b.finestra.play.SuonaMelodia(3, 4, false); });
     EXPECT_FALSE(b.stato.parziale);
     EXPECT_EQ(b.Messaggi(), (Mandati{{1, 2, 48, 96}, {32, 2, 48, 0}}));
 }
@@ -187,8 +187,8 @@ TEST(TrattoRiproduzione, RangesOfTheOtherVoicesNeverSteerThePlayWhichOverwritesT
     b.Voce(contralto, "48;50;52;", "1");
     VoceMelodia& voce = b.melodia.voci[contralto];
     voce.primaNota = voce.ultimaNota = 1;
-    b.finestra.lblNiniC.Text = "2";
-    b.finestra.lblNfineC.Text = "2";
+    b.finestra.voci.lblNiniC.Text = "2";
+    b.finestra.voci.lblNfineC.Text = "2";
     std::int16_t durante = -1;
     b.NelTick(40, [&] { durante = voce.primaNota; });
     b.Suona();
@@ -201,8 +201,8 @@ TEST(TrattoRiproduzione, RangesOfTheOtherVoicesNeverSteerThePlayWhichOverwritesT
     EXPECT_EQ(durante, 1);
     EXPECT_EQ(voce.primaNota, 0);
     EXPECT_EQ(voce.ultimaNota, 2);
-    EXPECT_EQ(b.finestra.lblNiniC.Text(), "2");
-    EXPECT_EQ(b.finestra.lblNfineC.Text(), "2");
+    EXPECT_EQ(b.finestra.voci.lblNiniC.Text(), "2");
+    EXPECT_EQ(b.finestra.voci.lblNfineC.Text(), "2");
 }
 
 TEST(TrattoRiproduzione, TheSopranosRangeOutlastsAPlay) {

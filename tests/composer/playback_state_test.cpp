@@ -1,10 +1,9 @@
 // What the window shows, allows and focuses while a melody plays and when it has ended.
-#include "composer/playback_state.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
+#include "composer/composer_state.h"
 #include "tests/composer/composer_rig.h"
 
 namespace corvana::prova {
@@ -15,27 +14,28 @@ struct BancoStato : BancoComposer {
     BancoStato() {
         Voce(soprano, "60;00;62;", "0.25;0.25;0.25;", "n;p;n;");
         Voce(contralto, "48;50;", "0.25");
-        finestra.cmdPaste.Enabled = true;
+        finestra.modifica.cmdPaste.Enabled = true;
         specchio.fuochi.clear();
     }
 
     /// Names of those that a play disables which are enabled now.
     std::vector<std::string> Abilitati() const {
         std::vector<std::string> nomi;
-        for (const Controllo* c : {static_cast<const Controllo*>(&finestra.cmdCanc),
-                                   static_cast<const Controllo*>(&finestra.cmdAddBm),
-                                   static_cast<const Controllo*>(&finestra.cmdPaste),
-                                   static_cast<const Controllo*>(&finestra.file),
-                                   static_cast<const Controllo*>(&finestra.cmdInsPausa),
-                                   static_cast<const Controllo*>(&finestra.cmdInsNota)})
+        for (const Controllo* c : {static_cast<const Controllo*>(&finestra.modifica.cmdCanc),
+                                   static_cast<const Controllo*>(&finestra.riferimenti.cmdAddBm),
+                                   static_cast<const Controllo*>(&finestra.modifica.cmdPaste),
+                                   static_cast<const Controllo*>(&finestra.menu.file),
+                                   static_cast<const Controllo*>(&finestra.inserimento.cmdInsPausa),
+                                   static_cast<const Controllo*>(&finestra.inserimento.cmdInsNota)})
             if (c->Enabled()) nomi.push_back(c->Name);
         return nomi;
     }
     int CaselleBloccate() const {
         int bloccate = 0;
         for (const Casella* c :
-             {&finestra.lblNini, &finestra.lblNfine, &finestra.lblNiniC, &finestra.lblNfineC,
-              &finestra.lblNiniT, &finestra.lblNfineT, &finestra.lblNiniB, &finestra.lblNfineB})
+             {&finestra.voci.lblNini, &finestra.voci.lblNfine, &finestra.voci.lblNiniC,
+              &finestra.voci.lblNfineC, &finestra.voci.lblNiniT, &finestra.voci.lblNfineT,
+              &finestra.voci.lblNiniB, &finestra.voci.lblNfineB})
             bloccate += c->Locked();
         return bloccate;
     }
@@ -60,13 +60,14 @@ TEST(StatoRiproduzione, APlayShowsStopInTheColourOfInsertingAndEndsWithPlayInTha
     BancoStato b;
     EXPECT_EQ(b.Storia("cmdPlay"), (Nomi{"Stop", "Play"}));
     b.NelTick(1, [&] {
-        EXPECT_EQ(b.finestra.cmdPlay.BackColor(), b.finestra.cmdInsNota.BackColor());
-        EXPECT_TRUE(b.finestra.inEsecuzione);
+        EXPECT_EQ(b.finestra.play.cmdPlay.BackColor(),
+                  b.finestra.inserimento.cmdInsNota.BackColor());
+        EXPECT_TRUE(b.finestra.stato.inEsecuzione);
     });
     b.Suona();
-    EXPECT_EQ(b.finestra.cmdPlay.BackColor(), b.finestra.lblNe.BackColor());
-    EXPECT_NE(b.finestra.cmdInsNota.BackColor(), b.finestra.lblNe.BackColor());
-    EXPECT_FALSE(b.finestra.inEsecuzione);
+    EXPECT_EQ(b.finestra.play.cmdPlay.BackColor(), b.finestra.stato.lblNe.BackColor());
+    EXPECT_NE(b.finestra.inserimento.cmdInsNota.BackColor(), b.finestra.stato.lblNe.BackColor());
+    EXPECT_FALSE(b.finestra.stato.inEsecuzione);
 }
 
 TEST(StatoRiproduzione, APlayDisablesEditingAndFilesAndLocksTheRangeBoxes) {
@@ -87,14 +88,14 @@ TEST(StatoRiproduzione, APlayDisablesEditingAndFilesAndLocksTheRangeBoxes) {
 
 TEST(StatoRiproduzione, WithoutTheSopranoActiveCmdAddBmStaysDisabled) {
     BancoStato b;
-    b.finestra.VoceAttiva_Click(contralto);
+    b.finestra.mix.VoceAttiva_Click(contralto);
     b.Suona();
     EXPECT_EQ(b.Abilitati(), (Nomi{"cmdCanc", "cmdPaste", "file", "cmdInsPausa", "cmdInsNota"}));
 }
 
 TEST(StatoRiproduzione, TheSopranoChosenDuringAPlayEnablesCmdAddBmAtOnce) {
     BancoStato b;
-    b.finestra.VoceAttiva_Click(contralto);
+    b.finestra.mix.VoceAttiva_Click(contralto);
     b.CliccaNelTick(2, "VoceAttiva0");
     Nomi durante;
     b.NelTick(3, [&] { durante = b.Abilitati(); });
@@ -134,24 +135,24 @@ TEST(StatoRiproduzione, AVoiceChosenDuringAPlayIsShownFromItsNextNoteOn) {
 
 TEST(StatoRiproduzione, TheNumberOfNotesIsThatOfTheActiveVoice) {
     BancoStato b;
-    b.finestra.lblNt.Caption = "";
+    b.finestra.stato.lblNt.Caption = "";
     b.Suona();
-    EXPECT_EQ(b.finestra.lblNt.Caption(), "3");
-    b.finestra.VoceAttiva_Click(contralto);
-    b.finestra.lblNt.Caption = "";
+    EXPECT_EQ(b.finestra.stato.lblNt.Caption(), "3");
+    b.finestra.mix.VoceAttiva_Click(contralto);
+    b.finestra.stato.lblNt.Caption = "";
     b.Suona();
-    EXPECT_EQ(b.finestra.lblNt.Caption(), "2");
+    EXPECT_EQ(b.finestra.stato.lblNt.Caption(), "2");
 }
 
 TEST(StatoRiproduzione, WithAnEmptyVoiceActiveTheSopranoBecomesTheActiveOne) {
     BancoStato b;
-    b.finestra.VoceAttiva_Click(2);
+    b.finestra.mix.VoceAttiva_Click(2);
     Nomi durante;
     b.NelTick(1, [&] { durante = b.Abilitati(); });
     b.Suona();
     EXPECT_EQ(b.melodia.voceAttiva, "soprano");
-    EXPECT_EQ(b.finestra.lblNt.Caption(), "3");
-    EXPECT_EQ(b.finestra.VoceAttiva[soprano].BackColor(), Rgb(0, 255, 0));
+    EXPECT_EQ(b.finestra.stato.lblNt.Caption(), "3");
+    EXPECT_EQ(b.finestra.mix.VoceAttiva[soprano].BackColor(), Rgb(0, 255, 0));
     EXPECT_EQ(durante, Nomi{"cmdAddBm"});
 }
 
@@ -160,7 +161,7 @@ TEST(StatoRiproduzione, AnEmptySopranoThatIsActiveIsntChosenAnew) {
     b.Voce(soprano, "", "", "");
     Nomi durante;
     b.NelTick(1, [&] { durante = b.Abilitati(); });
-    b.Suona([&] { b.finestra.SuonaMelodia(0, 0, false); });
+    b.Suona([&] { b.finestra.play.SuonaMelodia(0, 0, false); });
     EXPECT_EQ(durante, Nomi{});
     EXPECT_EQ(b.TickPassati(), 16);
 }
@@ -182,8 +183,8 @@ TEST(StatoRiproduzione, TheKeysOfAllVoicesAreLitWhileTheySound) {
     BancoStato b;
     const auto accesi = [&] {
         std::vector<std::ptrdiff_t> tasti;
-        for (std::size_t tasto = 0; tasto < b.finestra.lb.size(); ++tasto)
-            if (b.finestra.lb[tasto].BackStyle() == fondoOpaco)
+        for (std::size_t tasto = 0; tasto < b.finestra.tasti.lb.size(); ++tasto)
+            if (b.finestra.tasti.lb[tasto].BackStyle() == fondoOpaco)
                 tasti.push_back(static_cast<std::ptrdiff_t>(tasto) + 36);
         return tasti;
     };

@@ -14,15 +14,15 @@ struct BancoPasso : BancoComposer {
     }
     /// As the step mode sounds the note under it.
     void Passo(std::int16_t indice) {
-        melodia.modoPasso = true;
-        Suona([this, indice] { finestra.SuonaMelodia(indice, indice, melodia.modoPasso); });
+        passo.modoPasso = true;
+        Suona([this, indice] { finestra.play.SuonaMelodia(indice, indice, passo.modoPasso); });
     }
     /// As an edit sounds the note that it has made.
     void SuonaSola(std::int16_t indice) {
-        Suona([this, indice] { finestra.SuonaMelodia(indice, indice, true); });
+        Suona([this, indice] { finestra.play.SuonaMelodia(indice, indice, true); });
     }
     bool TastoAcceso(std::size_t nota) const {
-        return finestra.lb[nota - 36].BackStyle() == fondoOpaco;
+        return finestra.tasti.lb[nota - 36].BackStyle() == fondoOpaco;
     }
 };
 
@@ -50,11 +50,11 @@ TEST(PassoRiproduzione, TheNoteEndsBeforeItsLastTickSleepsAndItsReleaseIsTheEndP
 
 TEST(PassoRiproduzione, AStepOfALowerVoiceSoundsOnItsChannel) {
     BancoPasso b;
-    b.finestra.VoceAttiva_Click(contralto);
+    b.finestra.mix.VoceAttiva_Click(contralto);
     b.Passo(1);
     EXPECT_EQ(b.Messaggi(), (Mandati{{1, 2, 50, 96}, {16, 2, 50, 0}}));
     EXPECT_EQ(b.TickPassati(), 15);
-    EXPECT_EQ(b.finestra.lblNe.Caption(), "2");
+    EXPECT_EQ(b.finestra.stato.lblNe.Caption(), "2");
 }
 
 TEST(PassoRiproduzione, ARestTakesItsTimeAndSendsNothing) {
@@ -63,37 +63,37 @@ TEST(PassoRiproduzione, ARestTakesItsTimeAndSendsNothing) {
     b.Passo(0);
     EXPECT_EQ(b.Messaggi(), Mandati{});
     EXPECT_EQ(b.TickPassati(), 31);
-    EXPECT_EQ(b.finestra.lblPnn.Caption(), "P");
+    EXPECT_EQ(b.finestra.stato.lblPnn.Caption(), "P");
 }
 
 TEST(PassoRiproduzione, NumberAndNameOfTheStepsNoteStayAndCmdCancStaysDisabled) {
     BancoPasso b;
-    b.NelTick(3, [&] { b.finestra.cmdCanc.Enabled = true; });
+    b.NelTick(3, [&] { b.finestra.modifica.cmdCanc.Enabled = true; });
     b.Passo(2);
-    EXPECT_EQ(b.finestra.lblNe.Caption(), "3");
-    EXPECT_EQ(b.finestra.lblPnn.Caption(), "Mi");
-    EXPECT_FALSE(b.finestra.cmdCanc.Enabled());
-    EXPECT_TRUE(b.finestra.cmdInsNota.Enabled());
-    EXPECT_TRUE(b.melodia.modoPasso);
-    EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play");
+    EXPECT_EQ(b.finestra.stato.lblNe.Caption(), "3");
+    EXPECT_EQ(b.finestra.stato.lblPnn.Caption(), "Mi");
+    EXPECT_FALSE(b.finestra.modifica.cmdCanc.Enabled());
+    EXPECT_TRUE(b.finestra.inserimento.cmdInsNota.Enabled());
+    EXPECT_TRUE(b.passo.modoPasso);
+    EXPECT_EQ(b.finestra.play.cmdPlay.Caption(), "Play");
 }
 
 TEST(PassoRiproduzione, TheActiveVoiceStaysTheActiveOneThoughItIsEmpty) {
     BancoPasso b;
-    b.finestra.VoceAttiva_Click(3);
-    b.finestra.lblNt.Caption = "as it was";
-    b.melodia.modoPasso = true;
+    b.finestra.mix.VoceAttiva_Click(3);
+    b.finestra.stato.lblNt.Caption = "as it was";
+    b.passo.modoPasso = true;
     b.melodia.voci[3].noteVoce = {"40", ""};
     b.melodia.voci[3].durateVoce = {"1", ""};
     b.melodia.voci[3].attributiVoce = {"n", ""};
     b.Passo(0);
     EXPECT_EQ(b.melodia.voceAttiva, "basso");
-    EXPECT_EQ(b.finestra.lblNt.Caption(), "as it was");
+    EXPECT_EQ(b.finestra.stato.lblNt.Caption(), "as it was");
 }
 
 TEST(PassoRiproduzione, NoMetronomeTicksAlong) {
     BancoPasso b;
-    b.finestra.lblTs_Click();
+    b.finestra.pulsi.lblTs_Click();
     b.Passo(0);
     EXPECT_EQ(b.Messaggi(10), Mandati{});
     b.SuonaSola(0);
@@ -102,11 +102,11 @@ TEST(PassoRiproduzione, NoMetronomeTicksAlong) {
 
 TEST(PassoRiproduzione, AVoiceChosenMeanwhileEndsTheStepModeAndThePlayRunsToTheMelodysEnd) {
     BancoPasso b;
-    b.finestra.lblTs_Click();
+    b.finestra.pulsi.lblTs_Click();
     b.CliccaNelTick(40, "lblTs");
     b.CliccaNelTick(5, "VoceAttiva1");
     b.Passo(0);
-    EXPECT_FALSE(b.melodia.modoPasso);
+    EXPECT_FALSE(b.passo.modoPasso);
     // From the 6th tick on the pulses join, the note is released in its own last tick.
     EXPECT_EQ(b.Messaggi(), (Mandati{{1, 1, 60, 96},
                                      {6, 10, 81, 120},
@@ -115,8 +115,8 @@ TEST(PassoRiproduzione, AVoiceChosenMeanwhileEndsTheStepModeAndThePlayRunsToTheM
                                      {38, 10, 36, 120},
                                      {97, 10, 36, 0}}));
     EXPECT_EQ(b.TickPassati(), 96);
-    EXPECT_EQ(b.finestra.lblNe.Caption(), "");
-    EXPECT_TRUE(b.finestra.cmdCanc.Enabled());
+    EXPECT_EQ(b.finestra.stato.lblNe.Caption(), "");
+    EXPECT_TRUE(b.finestra.modifica.cmdCanc.Enabled());
 }
 
 TEST(PassoRiproduzione, BehindAnEditAllVoicesJoinAndTheFirstNoteToEndEndsThePlay) {
@@ -148,12 +148,12 @@ TEST(PassoRiproduzione, ALoneNoteOfOneTickEndsInItsFirstTick) {
     b.SuonaSola(0);
     EXPECT_EQ(b.Messaggi(), Mandati{});
     EXPECT_EQ(b.TickPassati(), 0);
-    EXPECT_EQ(b.finestra.cmdPlay.Caption(), "Play");
+    EXPECT_EQ(b.finestra.play.cmdPlay.Caption(), "Play");
 }
 
 TEST(PassoRiproduzione, StopEndsAStepWithinOneTick) {
     BancoPasso b;
-    b.NelTick(7, [&] { b.finestra.SuonaMelodia(0, 0, true); });
+    b.NelTick(7, [&] { b.finestra.play.SuonaMelodia(0, 0, true); });
     b.Passo(0);
     EXPECT_EQ(b.TickPassati(), 7);
     EXPECT_EQ(b.Messaggi(), (Mandati{{1, 1, 60, 96}, {8, 1, 60, 0}}));
@@ -173,18 +173,18 @@ TEST(PassoRiproduzione, WhatThePlayBeforeLeftLoadedIsReleasedInTheOrderOfTheVoic
 TEST(PassoRiproduzione, TheRangeFieldsOfTheLowerVoicesAreThePlaysAndTheirBoxesKeepTheRange) {
     BancoPasso b;
     b.Voce(2, "43;45;47;", "1");
-    b.finestra.lblNiniC.Text = "2";
-    b.finestra.lblNfineT.Text = "2";
-    b.finestra.VoceAttiva_Click(contralto);
+    b.finestra.voci.lblNiniC.Text = "2";
+    b.finestra.voci.lblNfineT.Text = "2";
+    b.finestra.mix.VoceAttiva_Click(contralto);
     b.Passo(0);
     // What the step leaves behind in them is no range that an editor could read.
     EXPECT_EQ(b.melodia.voci[contralto].ultimaNota, 0);
     EXPECT_EQ(b.melodia.voci[2].ultimaNota, -1);
     EXPECT_EQ(b.melodia.voci[3].ultimaNota, -1);
     EXPECT_EQ(b.melodia.voci[contralto].primaNota, 0);
-    EXPECT_EQ(b.finestra.lblNiniC.Text(), "2");
-    EXPECT_EQ(b.finestra.lblNfineC.Text(), "2");
-    EXPECT_EQ(b.finestra.lblNfineT.Text(), "2");
+    EXPECT_EQ(b.finestra.voci.lblNiniC.Text(), "2");
+    EXPECT_EQ(b.finestra.voci.lblNfineC.Text(), "2");
+    EXPECT_EQ(b.finestra.voci.lblNfineT.Text(), "2");
     // The soprano has fields of its own for its plays.
     EXPECT_EQ(b.melodia.voci[soprano].ultimaNota, 2);
 }
@@ -192,17 +192,17 @@ TEST(PassoRiproduzione, TheRangeFieldsOfTheLowerVoicesAreThePlaysAndTheirBoxesKe
 TEST(PassoRiproduzione, BehindAStepNamesAreShownAsFarAsTheBoxSays) {
     BancoPasso b;
     b.Voce(2, "43;45;47;", "1");
-    b.finestra.lblNfineT.Text = "2";
+    b.finestra.voci.lblNfineT.Text = "2";
     b.Passo(0);
-    b.finestra.VoceAttiva_Click(2);
-    b.finestra.MostraNoteVoce();
-    EXPECT_EQ(b.finestra.LblNoteStringT.Caption(), "Sol;La;");
+    b.finestra.mix.VoceAttiva_Click(2);
+    b.finestra.voci.MostraNoteVoce();
+    EXPECT_EQ(b.finestra.voci.LblNoteStringT.Caption(), "Sol;La;");
 }
 
 TEST(PassoRiproduzione, BehindAStepAWholePlayHasAllNotesOfAllVoicesAgain) {
     BancoPasso b;
     b.Passo(0);
-    b.melodia.modoPasso = false;
+    b.passo.modoPasso = false;
     b.Suona();
     EXPECT_EQ(b.Messaggi(1).size(), 6U);
     EXPECT_EQ(b.Messaggi(2).size(), 4U);

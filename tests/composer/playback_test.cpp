@@ -187,7 +187,7 @@ TEST(Riproduzione, AVoiceOfTwoThousandWholeNotesPlaysToItsEnd) {
         attesi.push_back({i * 128 + 128, 1, i % 2 ? 62 : 60, 0});
     }
     EXPECT_EQ(b.Messaggi(), attesi);
-    EXPECT_EQ(b.finestra.Cursore.Left(), 2190);
+    EXPECT_EQ(b.finestra.play.Cursore.Left(), 2190);
 }
 
 }  // namespace corvana::prova

@@ -13,7 +13,7 @@ struct BancoRitardo : BancoComposer {
 
     std::string Luci() const {
         std::string luci;
-        for (const Figura& luce : finestra.Secondo)
+        for (const Figura& luce : finestra.play.Secondo)
             luci += luce.Visible() ? 'x' : '.';
         return luci;
     }
@@ -30,24 +30,24 @@ struct BancoRitardo : BancoComposer {
 TEST(CmdPlay, WithAnEmptySopranoNothingHappensWhateverTheOtherVoicesHold) {
     BancoComposer b;
     b.Voce(contralto, "48;", "1");
-    b.melodia.modoPasso = true;
-    b.finestra.frmModifica.Visible = true;
+    b.passo.modoPasso = true;
+    b.finestra.modifica.frmModifica.Visible = true;
     b.Suona();
     EXPECT_TRUE(b.uscita.messaggi.empty());
     EXPECT_EQ(b.TickPassati(), 0);
-    EXPECT_TRUE(b.melodia.modoPasso);
-    EXPECT_TRUE(b.finestra.frmModifica.Visible());
+    EXPECT_TRUE(b.passo.modoPasso);
+    EXPECT_TRUE(b.finestra.modifica.frmModifica.Visible());
 }
 
 TEST(CmdPlay, EndsTheStepModeHidesItsPanelAndPlaysTheRange) {
     BancoComposer b;
     b.Voce(soprano, "60;62;64;", "0.25");
     b.Tratto(2, 2);
-    b.melodia.modoPasso = true;
-    b.finestra.frmModifica.Visible = true;
+    b.passo.modoPasso = true;
+    b.finestra.modifica.frmModifica.Visible = true;
     b.Suona();
-    EXPECT_FALSE(b.melodia.modoPasso);
-    EXPECT_FALSE(b.finestra.frmModifica.Visible());
+    EXPECT_FALSE(b.passo.modoPasso);
+    EXPECT_FALSE(b.finestra.modifica.frmModifica.Visible());
     EXPECT_EQ(b.Messaggi(), (Mandati{{1, 1, 62, 96}}));
 }
 
@@ -66,7 +66,7 @@ TEST(PlayRitardo, FiveLightsGrowByOneASecondThenGoOutAndThePlayBegins) {
     std::vector<std::string> luci;
     for (const double istante : {0.5, 1.5, 2.5, 3.5, 4.5, 5.1})
         b.Quando(istante, [&] { luci.push_back(b.Luci()); });
-    b.finestra.mnuPlayRitardo_Click();
+    b.finestra.play.mnuPlayRitardo_Click();
     EXPECT_EQ(luci,
               (std::vector<std::string>{"x....", "xx...", "xxx..", "xxxx.", "xxxxx", "....."}));
     ASSERT_EQ(b.Attacchi().size(), 1U);
@@ -78,7 +78,7 @@ TEST(PlayRitardo, WithAnEmptySopranoThereIsNeitherLightNorWait) {
     BancoComposer b;
     b.Voce(contralto, "48;", "1");
     b.specchio.registra = true;
-    b.finestra.mnuPlayRitardo_Click();
+    b.finestra.play.mnuPlayRitardo_Click();
     EXPECT_EQ(b.pompa.Adesso(), 0);
     EXPECT_TRUE(b.specchio.cambi.empty());
 }
@@ -98,14 +98,14 @@ TEST(PlayRitardo, TheMenuEntryStartsItAndClicksWaitForTheNextLight) {
 TEST(PlayRitardo, WhatIsSetInItsLastSecondCountsForTheFirstNote) {
     BancoRitardo b;
     b.Fa(4.5, Fatto::Change, "VolS", 50);
-    b.Suona([&] { b.finestra.mnuPlayRitardo_Click(); });
+    b.Suona([&] { b.finestra.play.mnuPlayRitardo_Click(); });
     EXPECT_EQ(b.Messaggi().front().velocita, 48);
 }
 
 TEST(PlayRitardo, APlayAskedForMeanwhileBeginsWithTheNextLightAndTheWaitGoesOnBehindIt) {
     BancoRitardo b;
     b.Clicca(1.5, "cmdPlay");
-    b.finestra.mnuPlayRitardo_Click();
+    b.finestra.play.mnuPlayRitardo_Click();
     ASSERT_EQ(b.Attacchi().size(), 2U);
     EXPECT_NEAR(b.Attacchi()[0], 2 * 1.002, 1e-9);
     EXPECT_NEAR(b.Attacchi()[1], 5 * 1.002 + 8 * 0.031, 1e-9);
@@ -125,17 +125,17 @@ TEST(PlayRitardo, DuringAPlayItHoldsThePlayForFiveSecondsAndStopsIt) {
 TEST(PlayRitardo, AMelodyEmptiedMeanwhileIsntPlayed) {
     BancoRitardo b;
     b.Quando(2.5, [&] { b.finestra.cmdReset_Click(); });
-    b.finestra.mnuPlayRitardo_Click();
+    b.finestra.play.mnuPlayRitardo_Click();
     EXPECT_TRUE(b.Attacchi().empty());
     EXPECT_EQ(b.Luci(), ".....");
 }
 
 TEST(PlayRitardo, AWindowClosedMeanwhileIsntPlayedAndItsLightsGoOut) {
     BancoRitardo b;
-    b.finestra.chekLoop.Value = true;
+    b.finestra.play.chekLoop.Value = true;
     b.Fa(2.5, Fatto::Chiudi, "");
     b.Fine(60);
-    EXPECT_FALSE(b.SvolgiCopione([&] { b.finestra.mnuPlayRitardo_Click(); }));
+    EXPECT_FALSE(b.SvolgiCopione([&] { b.finestra.play.mnuPlayRitardo_Click(); }));
     EXPECT_EQ(b.specchio.chiuse, std::vector<std::string>{"frmComposer"});
     EXPECT_TRUE(b.Attacchi().empty());
     EXPECT_EQ(b.Luci(), ".....");
@@ -149,15 +149,15 @@ TEST(TickFinoANota, IsTheSumOfTheSopranosNotesUpToTheIndexAndNoughtBelowTheFirst
     b.Voce(contralto, "48;", "4");
     const std::vector<Tick> somme = {32, 43, 54, 64};
     for (std::size_t i = 0; i < somme.size(); ++i)
-        EXPECT_EQ(b.finestra.TickFinoANota(static_cast<std::int16_t>(i)), somme[i]) << i;
-    EXPECT_EQ(b.finestra.TickFinoANota(-1), 0);
-    EXPECT_EQ(b.finestra.TickFinoANota(-300), 0);
+        EXPECT_EQ(b.finestra.play.TickFinoANota(static_cast<std::int16_t>(i)), somme[i]) << i;
+    EXPECT_EQ(b.finestra.play.TickFinoANota(-1), 0);
+    EXPECT_EQ(b.finestra.play.TickFinoANota(-300), 0);
 }
 
 TEST(CalcolaTickTotali, IsTheLongestVoiceAndMinus1WithoutAny) {
     BancoComposer b;
     const auto totali = [&] {
-        b.finestra.CalcolaTickTotali();
+        b.finestra.play.CalcolaTickTotali();
         return b.stato.tickTotali;
     };
     EXPECT_EQ(totali(), -1);
@@ -176,11 +176,11 @@ TEST(CalcolaTickTotali, EachVoiceHasItsOwnTally) {
     BancoComposer b;
     b.Voce(soprano, "60;62;", "0.333333333333333");
     b.Voce(contralto, "48;50;", "0.333333333333333");
-    b.finestra.CalcolaTickTotali();
+    b.finestra.play.CalcolaTickTotali();
     // A tally that went on would make the contralto's first note the third of a group.
     EXPECT_EQ(b.stato.tickTotali, 22);
     b.Voce(contralto, "48;50;52;53;", "0.333333333333333");
-    b.finestra.CalcolaTickTotali();
+    b.finestra.play.CalcolaTickTotali();
     EXPECT_EQ(b.stato.tickTotali, 43);
 }
 
@@ -190,7 +190,7 @@ TEST(CalcolaTickTotali, SumsBeyond16BitsAreRight) {
     for (int i = 0; i < 32767; ++i)
         note += "60;";
     b.Voce(basso, note, "48");
-    b.finestra.CalcolaTickTotali();
+    b.finestra.play.CalcolaTickTotali();
     EXPECT_EQ(b.stato.tickTotali, 32767 * 1536);
 }
 

@@ -32,11 +32,11 @@ struct BancoUscita : BancoComposer {
 TEST(UscitaComposer, AMelodyThatPlaysStopsWithItsNotesReleased) {
     for (const bool giro : {false, true}) {
         BancoUscita b;
-        b.finestra.chekLoop.Value = giro;
+        b.finestra.play.chekLoop.Value = giro;
         b.Clicca(b.pompa.Adesso() + 0.1, "cmdPlay");
         b.Quando(b.pompa.Adesso() + 0.5, [&] { EXPECT_FALSE(b.uscita.NoteAccese().empty()); });
         b.Esci(0.6);
-        EXPECT_FALSE(b.finestra.inEsecuzione);
+        EXPECT_FALSE(b.finestra.stato.inEsecuzione);
     }
 }
 
@@ -44,7 +44,7 @@ TEST(UscitaComposer, InThePauseBetweenTwoRoundsItEndsToo) {
     BancoUscita b;
     b.Voce(soprano, "60;", "0.25");
     b.Voce(contralto, "", "1");
-    b.finestra.chekLoop.Value = true;
+    b.finestra.play.chekLoop.Value = true;
     b.Clicca(b.pompa.Adesso() + 0.1, "cmdPlay");
     b.Esci(0.5);
 }
@@ -59,7 +59,7 @@ TEST(UscitaComposer, ADelayedStartDoesntStart) {
 
 TEST(UscitaComposer, AMelodyThatIsntSavedAsksNobody) {
     BancoUscita b;
-    b.finestra.lblModificato.Visible = true;
+    b.finestra.stato.lblModificato.Visible = true;
     b.Esci(1);
 }
 

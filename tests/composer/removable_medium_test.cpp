@@ -16,9 +16,9 @@ struct BancoSupporto : BancoComposer {
 
     BancoSupporto() {
         Voce(soprano, "60;62;", "1");
-        finestra.lblModificato.Visible = true;
+        finestra.stato.lblModificato.Visible = true;
         melodia.nomeMelodia = "song";
-        finestra.lblNome.Caption = "shown";
+        finestra.stato.lblNome.Caption = "shown";
         file.supportoRimovibile = "/media/stick/";
         riquadri.durante = [this](const std::string&) {
             puntatori.push_back(finestra.MousePointer());
@@ -28,7 +28,7 @@ struct BancoSupporto : BancoComposer {
         const auto trovato = file.contenuti.find("/media/stick/" + nome);
         return trovato == file.contenuti.end() ? "no such file" : trovato->second;
     }
-    bool Modificata() const { return finestra.lblModificato.Visible(); }
+    bool Modificata() const { return finestra.stato.lblModificato.Visible(); }
     /// The one box was this, with the normal pointer back, and the flag stayed.
     void EsceErrore(const std::string& box) const {
         EXPECT_EQ(riquadri.messaggi, Avvisi{box});
@@ -57,18 +57,18 @@ TEST(SalvaSuSupporto, TheEntryOfTheContextMenuDoesTheSame) {
 
 TEST(SalvaSuSupporto, ChangesNeitherTheShownNameNorTheList) {
     BancoSupporto b;
-    b.finestra.ListaFD();
+    b.finestra.archivio.ListaFD();
     b.globali.percorsoCorrente = "/media/stick/";
-    b.finestra.mnuSalvaA_Click();
-    EXPECT_EQ(b.finestra.lblNome.Caption(), "shown");
-    EXPECT_EQ(b.finestra.List1.List(), Righe{"» .."});
+    b.finestra.archivio.mnuSalvaA_Click();
+    EXPECT_EQ(b.finestra.stato.lblNome.Caption(), "shown");
+    EXPECT_EQ(b.finestra.archivio.List1.List(), Righe{"» .."});
     EXPECT_EQ(b.melodia.nomeMelodia, "song");
 }
 
 TEST(SalvaSuSupporto, ThePointerWaitsWhileItWritesAndIsBackBeforeTheMessage) {
     BancoSupporto b;
     b.specchio.registra = true;
-    b.finestra.mnuSalvaA_Click();
+    b.finestra.archivio.mnuSalvaA_Click();
     std::vector<Valore> forme;
     for (const auto& cambio : b.specchio.cambi)
         if (cambio.nome == Nome::MousePointer) forme.push_back(cambio.valore);
@@ -80,7 +80,7 @@ TEST(SalvaSuSupporto, AnEmptySopranoStopsItWithoutAWord) {
     BancoSupporto b;
     b.Voce(soprano, "", "1");
     b.Voce(1, "60;", "1");
-    b.finestra.mnuSalvaA_Click();
+    b.finestra.archivio.mnuSalvaA_Click();
     EXPECT_EQ(b.SulSupporto("song.mel"), "no such file");
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
@@ -90,7 +90,7 @@ TEST(SalvaSuSupporto, WithoutANameAsksForOneAndProposesNone) {
     b.melodia.nomeMelodia.clear();
     b.PonFile("chosen", "");
     b.riquadri.testi = {" mine "};
-    b.finestra.mnuSalvaA_Click();
+    b.finestra.archivio.mnuSalvaA_Click();
     EXPECT_EQ(b.riquadri.messaggi, (Avvisi{"nome?", "mine.mel\r\nsalvata"}));
     EXPECT_EQ(b.riquadri.titoli, Avvisi{"salva con nome"});
     EXPECT_EQ(b.riquadri.proposte, Avvisi{""});
@@ -104,7 +104,7 @@ TEST(SalvaSuSupporto, ACancelledOrBlankNameStopsItWithoutAWord) {
         BancoSupporto b;
         b.melodia.nomeMelodia.clear();
         b.riquadri.testi = {risposta};
-        b.finestra.mnuSalvaA_Click();
+        b.finestra.archivio.mnuSalvaA_Click();
         EXPECT_EQ(b.riquadri.messaggi, Avvisi{"nome?"});
         EXPECT_EQ(b.melodia.nomeMelodia, "");
         EXPECT_TRUE(b.Modificata());
@@ -115,10 +115,10 @@ TEST(SalvaSuSupporto, ARefusedNameIsForgottenWhateverNameIsShown) {
     for (const char* nome : {"a?", "a.b", "1÷2§"}) {
         BancoSupporto b;
         b.melodia.nomeMelodia = nome;
-        b.finestra.mnuSalvaA_Click();
+        b.finestra.archivio.mnuSalvaA_Click();
         EXPECT_EQ(b.riquadri.messaggi, Avvisi{"nome errato"});
         EXPECT_EQ(b.melodia.nomeMelodia, "");
-        EXPECT_EQ(b.finestra.lblNome.Caption(), "shown");
+        EXPECT_EQ(b.finestra.stato.lblNome.Caption(), "shown");
         EXPECT_TRUE(b.Modificata());
     }
 }
@@ -126,7 +126,7 @@ TEST(SalvaSuSupporto, ARefusedNameIsForgottenWhateverNameIsShown) {
 TEST(SalvaSuSupporto, ReplacesAFileOfThatNameWithoutAQuestion) {
     BancoSupporto b;
     b.file.contenuti["/media/stick/song.mel"] = "old";
-    b.finestra.mnuSalvaA_Click();
+    b.finestra.archivio.mnuSalvaA_Click();
     EXPECT_EQ(b.SulSupporto("song.mel"), FileDi(soloSoprano));
     EXPECT_EQ(b.riquadri.messaggi, Avvisi{"song.mel\r\nsalvata"});
 }
@@ -136,7 +136,7 @@ TEST(SalvaSuSupporto, AFullDiskIsFault61InTheLanguagesWords) {
         BancoSupporto b;
         b.file.contenuti["/media/stick/song.mel"] = "old";
         b.file.erroreScrivi = errore;
-        b.finestra.mnuSalvaA_Click();
+        b.finestra.archivio.mnuSalvaA_Click();
         b.EsceErrore("Errore: 61\r\n\r\ndisco pieno");
         EXPECT_EQ(b.SulSupporto("song.mel"), "old");
     }
@@ -146,7 +146,7 @@ TEST(SalvaSuSupporto, ADiskThatIsntReadyIsFault71InTheLanguagesWords) {
     for (const int errore : {ENODEV, ENXIO, ENOMEDIUM, EIO}) {
         BancoSupporto b;
         b.file.erroreScrivi = errore;
-        b.finestra.mnuSalvaA_Click();
+        b.finestra.archivio.mnuSalvaA_Click();
         b.EsceErrore("Errore: 71\r\n\r\ndisco non pronto");
     }
 }
@@ -154,7 +154,7 @@ TEST(SalvaSuSupporto, ADiskThatIsntReadyIsFault71InTheLanguagesWords) {
 TEST(SalvaSuSupporto, NoMediumInTheMachineIsADiskThatIsntReady) {
     BancoSupporto b;
     b.file.supportoRimovibile.clear();
-    b.finestra.mnuSalvaA_Click();
+    b.finestra.archivio.mnuSalvaA_Click();
     b.EsceErrore("Errore: 71\r\n\r\ndisco non pronto");
     EXPECT_FALSE(b.file.contenuti.contains("song.mel"));
 }
@@ -162,14 +162,14 @@ TEST(SalvaSuSupporto, NoMediumInTheMachineIsADiskThatIsntReady) {
 TEST(SalvaSuSupporto, AnyOtherFaultIsToldInItsOwnWords) {
     BancoSupporto b;
     b.file.erroreScrivi = EACCES;
-    b.finestra.mnuSalvaA_Click();
+    b.finestra.archivio.mnuSalvaA_Click();
     b.EsceErrore("Errore: 13\r\n\r\n" + ParoleSistema(EACCES));
 }
 
 TEST(SalvaSuSupporto, ACharacterThatTheCodePageDoesntHaveIsAFaultToo) {
     BancoSupporto b;
-    b.finestra.lstBookMark.List = Righe{"1 ÷ 2 ÷Tutta", "1 ÷ 2 ÷ 日"};
-    b.finestra.mnuSalvaA_Click();
+    b.finestra.riferimenti.lstBookMark.List = Righe{"1 ÷ 2 ÷Tutta", "1 ÷ 2 ÷ 日"};
+    b.finestra.archivio.mnuSalvaA_Click();
     ASSERT_EQ(b.riquadri.messaggi.size(), 1U);
     EXPECT_TRUE(b.riquadri.messaggi[0].starts_with("Errore: 5\r\n\r\n")) << b.riquadri.messaggi[0];
     b.EsceErrore(b.riquadri.messaggi[0]);

@@ -15,13 +15,13 @@ struct BancoConNome : BancoComposer {
 
     BancoConNome() {
         Voce(soprano, "60;62;", "1");
-        finestra.lblModificato.Visible = true;
-        melodia.nomeMelodia = finestra.lblNome.Caption = "old";
+        finestra.stato.lblModificato.Visible = true;
+        melodia.nomeMelodia = finestra.stato.lblNome.Caption = "old";
     }
     /// Asks for the name, to which the user answers so.
     void Rispondi(const std::optional<std::string>& risposta) {
         riquadri.testi = {risposta};
-        finestra.mnuSaveAs_Click();
+        finestra.archivio.mnuSaveAs_Click();
     }
 };
 
@@ -35,13 +35,13 @@ TEST(SalvaConNome, AsksWithPromptAndTitleAndProposesNothingWithoutAChosenRow) {
     EXPECT_EQ(b.riquadri.proposte, Avvisi{""});
     EXPECT_EQ(b.melodia.nomeMelodia, "new");
     EXPECT_EQ(b.ContenutoFile("new"), FileDi(soloSoprano));
-    EXPECT_EQ(b.finestra.lblNome.Caption(), "Salvato: new");
-    EXPECT_FALSE(b.finestra.lblModificato.Visible());
+    EXPECT_EQ(b.finestra.stato.lblNome.Caption(), "Salvato: new");
+    EXPECT_FALSE(b.finestra.stato.lblModificato.Visible());
 }
 
 TEST(SalvaConNome, ProposesTheTextOfTheChosenRow) {
     BancoConNome b;
-    b.finestra.Fr2.Visible = true;
+    b.finestra.archivio.Fr2.Visible = true;
     b.PonFile("a song", "");
     b.Rispondi("new");
     EXPECT_EQ(b.riquadri.proposte, Avvisi{"a song"});
@@ -50,7 +50,7 @@ TEST(SalvaConNome, ProposesTheTextOfTheChosenRow) {
 TEST(SalvaConNome, OnAFolderOffersItsSignAndNameWhichTheTestOfCharactersDoesntCatch) {
     BancoConNome b;
     b.file.cartelle.insert("/programma/Melodie/Demo/mine");
-    b.finestra.mnuApri_Click();
+    b.finestra.archivio.mnuApri_Click();
     b.Scegli("» mine");
     b.Rispondi("» mine");
     EXPECT_EQ(b.riquadri.proposte, Avvisi{"» mine"});
@@ -63,7 +63,7 @@ TEST(SalvaConNome, OpensTheListAndAsksNothingWhenTheSopranoIsEmpty) {
     b.Voce(soprano, "", "1");
     b.Voce(1, "60;", "1");
     b.Rispondi("new");
-    EXPECT_TRUE(b.finestra.Fr2.Visible());
+    EXPECT_TRUE(b.finestra.archivio.Fr2.Visible());
     EXPECT_TRUE(b.riquadri.messaggi.empty());
     EXPECT_EQ(b.melodia.nomeMelodia, "old");
 }
@@ -73,7 +73,7 @@ TEST(SalvaConNome, TheEntriesOfBothMenusDoTheSame) {
         BancoConNome b;
         b.riquadri.testi = {"new"};
         b.Subito(Fatto::Click, voce);
-        EXPECT_TRUE(b.finestra.Fr2.Visible());
+        EXPECT_TRUE(b.finestra.archivio.Fr2.Visible());
         EXPECT_EQ(b.ContenutoFile("new"), FileDi(soloSoprano));
     }
 }
@@ -93,18 +93,18 @@ TEST(SalvaConNome, ARefusedNameGivesTheOldOneBackWhenANameIsShown) {
         EXPECT_EQ(b.riquadri.messaggi, (Avvisi{"nome?", "nome errato"})) << segno;
         EXPECT_EQ(b.melodia.nomeMelodia, "old") << segno;
         EXPECT_EQ(b.file.scritture, b.scrittePrima) << segno;
-        EXPECT_TRUE(b.finestra.lblModificato.Visible()) << segno;
+        EXPECT_TRUE(b.finestra.stato.lblModificato.Visible()) << segno;
     }
 }
 
 TEST(SalvaConNome, ARefusedNameLeavesNoneWhenLblNomeIsBlank) {
     for (const char* mostrato : {"", "   "}) {
         BancoConNome b;
-        b.finestra.lblNome.Caption = mostrato;
+        b.finestra.stato.lblNome.Caption = mostrato;
         b.Rispondi("a?");
         EXPECT_EQ(b.riquadri.messaggi, (Avvisi{"nome?", "nome errato"}));
         EXPECT_EQ(b.melodia.nomeMelodia, "");
-        EXPECT_EQ(b.finestra.lblNome.Caption(), mostrato);
+        EXPECT_EQ(b.finestra.stato.lblNome.Caption(), mostrato);
     }
 }
 
@@ -115,15 +115,15 @@ TEST(SalvaConNome, ACancelledBoxSavesNothingAndLeavesTheMelodyWithoutAName) {
         b.Rispondi(risposta);
         EXPECT_EQ(b.riquadri.messaggi, Avvisi{"nome?"});
         EXPECT_EQ(b.melodia.nomeMelodia, "");
-        EXPECT_EQ(b.finestra.lblNome.Caption(), "old");
-        EXPECT_TRUE(b.finestra.lblModificato.Visible());
+        EXPECT_EQ(b.finestra.stato.lblNome.Caption(), "old");
+        EXPECT_TRUE(b.finestra.stato.lblModificato.Visible());
         EXPECT_EQ(b.file.scritture, b.scrittePrima);
     }
 }
 
 TEST(SalvaConNome, ACancelledBoxIsNoYesToTheNameThatItProposed) {
     BancoConNome b;
-    b.finestra.Fr2.Visible = true;
+    b.finestra.archivio.Fr2.Visible = true;
     b.PonFile("a song", "another");
     b.riquadri.risposte = {true};
     b.Rispondi(std::nullopt);
@@ -140,8 +140,8 @@ TEST(SalvaConNome, ANoToReplacingAMelodyWritesNothingAndTheNewNameStaysInForce) 
     EXPECT_EQ(b.riquadri.messaggi, (Avvisi{"nome?", "esiste new\r\nsostituire?"}));
     EXPECT_EQ(b.ContenutoFile("new"), "another");
     EXPECT_EQ(b.melodia.nomeMelodia, "new");
-    EXPECT_EQ(b.finestra.lblNome.Caption(), "old");
-    EXPECT_TRUE(b.finestra.lblModificato.Visible());
+    EXPECT_EQ(b.finestra.stato.lblNome.Caption(), "old");
+    EXPECT_TRUE(b.finestra.stato.lblModificato.Visible());
 }
 
 TEST(SalvaConNome, AYesToReplacingAMelodyReplacesIt) {
@@ -150,7 +150,7 @@ TEST(SalvaConNome, AYesToReplacingAMelodyReplacesIt) {
     b.riquadri.risposte = {true};
     b.Rispondi("new");
     EXPECT_EQ(b.ContenutoFile("new"), FileDi(soloSoprano));
-    EXPECT_FALSE(b.finestra.lblModificato.Visible());
+    EXPECT_FALSE(b.finestra.stato.lblModificato.Visible());
 }
 
 TEST(SalvaConNome, AFailedSaveKeepsTheNewNameAndTheFlag) {
@@ -159,8 +159,8 @@ TEST(SalvaConNome, AFailedSaveKeepsTheNewNameAndTheFlag) {
     b.Rispondi("new");
     EXPECT_EQ(b.riquadri.messaggi, (Avvisi{"nome?", "61\r\n" + ParoleSistema(ENOSPC)}));
     EXPECT_EQ(b.melodia.nomeMelodia, "new");
-    EXPECT_EQ(b.finestra.lblNome.Caption(), "old");
-    EXPECT_TRUE(b.finestra.lblModificato.Visible());
+    EXPECT_EQ(b.finestra.stato.lblNome.Caption(), "old");
+    EXPECT_TRUE(b.finestra.stato.lblModificato.Visible());
 }
 
 }  // namespace corvana::prova

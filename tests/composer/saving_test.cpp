@@ -14,19 +14,19 @@ using Avvisi = std::vector<std::string>;
 struct BancoSalva : BancoComposer {
     BancoSalva() {
         Voce(soprano, "60;62;", "1");
-        finestra.lblModificato.Visible = true;
-        finestra.lblNome.Caption = "before";
+        finestra.stato.lblModificato.Visible = true;
+        finestra.stato.lblNome.Caption = "before";
     }
     std::string Salvato(const std::string& nome = "song") {
-        finestra.SalvaMelodia(nome);
+        finestra.archivio.SalvaMelodia(nome);
         return ContenutoFile(nome);
     }
-    bool Modificata() const { return finestra.lblModificato.Visible(); }
+    bool Modificata() const { return finestra.stato.lblModificato.Visible(); }
     /// Nothing was written and the window shows what it showed.
     void EsceIntatta() const {
         EXPECT_EQ(file.scritture, scrittePrima_);
         EXPECT_TRUE(Modificata());
-        EXPECT_EQ(finestra.lblNome.Caption(), "before");
+        EXPECT_EQ(finestra.stato.lblNome.Caption(), "before");
     }
 
 private:
@@ -48,11 +48,11 @@ TEST(SalvaMelodia, Instrument127WithTheMetronomeOffHasALineOfThreeCharactersBetw
 
 TEST(SalvaMelodia, WithTheMetronomeOnTheInstrumentsLineHoldsItsSettings) {
     BancoSalva b;
-    b.finestra.lblTs_Click();
-    b.finestra.Pulsazioni.PonTesto("3");
-    b.finestra.DurataPulsazioni.PonTesto("8");
-    b.finestra.InizioPuls.PonValore(2);
-    b.finestra.Slider1.PonValore(200);
+    b.finestra.pulsi.lblTs_Click();
+    b.finestra.pulsi.Pulsazioni.PonTesto("3");
+    b.finestra.pulsi.DurataPulsazioni.PonTesto("8");
+    b.finestra.pulsi.InizioPuls.PonValore(2);
+    b.finestra.play.Slider1.PonValore(200);
     EXPECT_EQ(b.Salvato(), FileDi({"60;62;", "1;1;", "n;n;", " 200 ", "16;3;8;2"}));
 }
 
@@ -61,14 +61,14 @@ TEST(SalvaMelodia, WritesTheBookmarksInTheBytesOfTheCodePageAndAVoiceInItsBlock)
     b.Voce(soprano, "60;62;64;65;", "1");
     b.Voce(basso, "48;43;", "2");
     b.melodia.voci[basso].strumento = 32;
-    b.finestra.lblTs_Click();
-    b.finestra.lstBookMark.List = Righe{"1 ÷ 4 ÷Tutta", "2 ÷ 3 ÷ motivo"};
+    b.finestra.pulsi.lblTs_Click();
+    b.finestra.riferimenti.lstBookMark.List = Righe{"1 ÷ 4 ÷Tutta", "2 ÷ 3 ÷ motivo"};
     EXPECT_EQ(b.Salvato(), FileDi(dueVoci));
 }
 
 TEST(SalvaMelodia, ASingleBookmarkRowIsWrittenToo) {
     BancoSalva b;
-    b.finestra.lstBookMark.List = Righe{"1 ÷ 2 ÷Tutta"};
+    b.finestra.riferimenti.lstBookMark.List = Righe{"1 ÷ 2 ÷Tutta"};
     EXPECT_EQ(b.Salvato(), FileDi(soloSoprano) + "1 \xF7 2 \xF7Tutta;\r\n");
 }
 
@@ -110,8 +110,8 @@ TEST(SalvaMelodia, LowersTheFlagNamesTheFileAndRefreshesTheList) {
     BancoSalva b;
     b.Salvato();
     EXPECT_FALSE(b.Modificata());
-    EXPECT_EQ(b.finestra.lblNome.Caption(), "Salvato: song");
-    EXPECT_EQ(b.finestra.List1.List(), (Righe{"» ..", "song"}));
+    EXPECT_EQ(b.finestra.stato.lblNome.Caption(), "Salvato: song");
+    EXPECT_EQ(b.finestra.archivio.List1.List(), (Righe{"» ..", "song"}));
 }
 
 TEST(SalvaMelodia, DoesntSetNomeMelodia) {
@@ -127,12 +127,12 @@ TEST(SalvaMelodia, LeavesTheMelodyInMemoryAsItIs) {
     b.Salvato();
     EXPECT_EQ(b.melodia.voci[soprano].testoNote, "60;62;64;");
     EXPECT_EQ(b.melodia.voci[soprano].numeroNote, 2);
-    EXPECT_EQ(b.finestra.LblNoteString.Caption(), "Do;Re;");
+    EXPECT_EQ(b.finestra.voci.LblNoteString.Caption(), "Do;Re;");
 }
 
 TEST(SalvaMelodia, AnEmptyNameStopsWithoutAWord) {
     BancoSalva b;
-    b.finestra.SalvaMelodia("");
+    b.finestra.archivio.SalvaMelodia("");
     b.EsceIntatta();
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
@@ -140,7 +140,7 @@ TEST(SalvaMelodia, AnEmptyNameStopsWithoutAWord) {
 TEST(SalvaMelodia, AFolderThatDoesntExistStopsItWithoutAWord) {
     BancoSalva b;
     b.globali.percorsoCorrente = "/gone/";
-    b.finestra.SalvaMelodia("song");
+    b.finestra.archivio.SalvaMelodia("song");
     b.EsceIntatta();
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
@@ -155,7 +155,7 @@ TEST(SalvaMelodia, WhatCantBeWrittenIsToldByNumberAndTextAndTheOldFileAndTheFlag
         BancoSalva b;
         b.PonFile("song", "old");
         b.file.erroreScrivi = errore;
-        b.finestra.SalvaMelodia("song");
+        b.finestra.archivio.SalvaMelodia("song");
         b.EsceIntatta();
         EXPECT_EQ(b.riquadri.messaggi, Avvisi{testo});
         EXPECT_EQ(b.ContenutoFile("song"), "old");
@@ -165,7 +165,7 @@ TEST(SalvaMelodia, WhatCantBeWrittenIsToldByNumberAndTextAndTheOldFileAndTheFlag
 TEST(SalvaMelodia, AfterAFailureTheSameMelodyCanBeSavedAgain) {
     BancoSalva b;
     b.file.erroreScrivi = ENOSPC;
-    b.finestra.SalvaMelodia("song");
+    b.finestra.archivio.SalvaMelodia("song");
     b.file.erroreScrivi = 0;
     EXPECT_EQ(b.Salvato(), FileDi(soloSoprano));
     EXPECT_FALSE(b.Modificata());
@@ -174,8 +174,8 @@ TEST(SalvaMelodia, AfterAFailureTheSameMelodyCanBeSavedAgain) {
 TEST(SalvaMelodia, ACharacterThatTheCodePageDoesntHaveIsAFaultBeforeAnythingIsWritten) {
     BancoSalva b;
     b.PonFile("song", "old");
-    b.finestra.lstBookMark.List = Righe{"1 ÷ 2 ÷Tutta", "1 ÷ 2 ÷ 日"};
-    b.finestra.SalvaMelodia("song");
+    b.finestra.riferimenti.lstBookMark.List = Righe{"1 ÷ 2 ÷Tutta", "1 ÷ 2 ÷ 日"};
+    b.finestra.archivio.SalvaMelodia("song");
     b.EsceIntatta();
     ASSERT_EQ(b.riquadri.messaggi.size(), 1U);
     EXPECT_TRUE(b.riquadri.messaggi[0].starts_with("5\r\n")) << b.riquadri.messaggi[0];
@@ -187,16 +187,16 @@ TEST(MenuSalva, OpensTheListAndSavesUnderTheMelodysName) {
     BancoSalva b;
     b.melodia.nomeMelodia = "mine";
     b.Subito(Fatto::Click, "mnuSalva");
-    EXPECT_TRUE(b.finestra.Fr2.Visible());
+    EXPECT_TRUE(b.finestra.archivio.Fr2.Visible());
     EXPECT_EQ(b.ContenutoFile("mine"), FileDi(soloSoprano));
-    EXPECT_EQ(b.finestra.lblNome.Caption(), "Salvato: mine");
+    EXPECT_EQ(b.finestra.stato.lblNome.Caption(), "Salvato: mine");
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(MenuSalva, WithoutANameAsksForOne) {
     BancoSalva b;
     b.riquadri.testi = {"mine"};
-    b.finestra.mnuSalva_Click();
+    b.finestra.archivio.mnuSalva_Click();
     EXPECT_EQ(b.riquadri.messaggi, Avvisi{"nome?"});
     EXPECT_EQ(b.melodia.nomeMelodia, "mine");
     EXPECT_EQ(b.ContenutoFile("mine"), FileDi(soloSoprano));
@@ -207,7 +207,7 @@ TEST(MenuSalva, TheEntryOfTheContextMenuDoesTheSame) {
     b.melodia.nomeMelodia = "mine";
     b.Subito(Fatto::Click, "mnuSalvaCont");
     EXPECT_EQ(b.ContenutoFile("mine"), FileDi(soloSoprano));
-    EXPECT_TRUE(b.finestra.Fr2.Visible());
+    EXPECT_TRUE(b.finestra.archivio.Fr2.Visible());
 }
 
 TEST(MenuSalva, DuringAPlayTheFileMenuIsOutOfReach) {

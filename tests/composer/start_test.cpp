@@ -15,7 +15,8 @@ constexpr Colore coloreProprio = Rgb(1, 2, 3);
 /// The window before it is opened.
 struct BancoApertura : Banco {
     frmComposer finestra{Tutto(), {[] { return "Piano"; }, [] { return "Organ"; }, {}}};
-    Melodia& melodia = finestra.melodia;
+    Melodia& melodia = finestra.stato.melodia;
+    StatoInserimento& inserimento = finestra.stato.inserimento;
 
     BancoApertura() { suono.ApriMidi(-1); }
     void Apri() { finestre.Mostra(finestra); }
@@ -28,34 +29,34 @@ struct BancoApertura : Banco {
         file.contenuti[globali.PercorsoLingua] = righe;
     }
     void SporcaEditing() {
-        melodia.figuraAttiva = 4;
-        melodia.attributoAttivo = 3;
-        melodia.letteraAttributo = "s";
-        melodia.valoreFigura = melodia.valoreNota = 7;
-        melodia.notaAttiva = 80;
+        inserimento.figuraAttiva = 4;
+        inserimento.attributoAttivo = 3;
+        inserimento.letteraAttributo = "s";
+        inserimento.valoreFigura = inserimento.valoreNota = 7;
+        inserimento.notaAttiva = 80;
         melodia.tempo = 99;
-        melodia.contaTerzina = 2;
-        finestra.tastoCorrente = 5;
+        inserimento.contaTerzina = 2;
+        finestra.tasti.tastoCorrente = 5;
     }
     void SporcaMelodia() {
         for (VoceMelodia& voce : melodia.voci)
             voce.testoNote = "60;", voce.primaNota = 3, voce.ultimaNota = 4;
         melodia.voceAttiva = "basso";
         melodia.semitoni = 5;
-        finestra.lblNini.Text = "9";
-        finestra.lblNfineB.Text = "9";
-        finestra.lblNt.Caption = "9";
+        finestra.voci.lblNini.Text = "9";
+        finestra.voci.lblNfineB.Text = "9";
+        finestra.stato.lblNt.Caption = "9";
     }
 };
 
 void EscePulsiIniziali(const frmComposer& f) {
-    EXPECT_EQ(f.Pulsazioni.Text(), "2");
-    EXPECT_EQ(f.DurataPulsazioni.Text(), "4");
-    EXPECT_EQ(f.pattern, "ab");
-    EXPECT_EQ(f.durataPulso, 1);
-    EXPECT_EQ(f.ultimoPulso, 1);
-    EXPECT_EQ(f.pulsoIniziale, 0);
-    EXPECT_FALSE(f.metroAttivo);
+    EXPECT_EQ(f.pulsi.Pulsazioni.Text(), "2");
+    EXPECT_EQ(f.pulsi.DurataPulsazioni.Text(), "4");
+    EXPECT_EQ(f.pulsi.battuta.pattern, "ab");
+    EXPECT_EQ(f.pulsi.battuta.durataPulso, 1);
+    EXPECT_EQ(f.pulsi.battuta.ultimoPulso, 1);
+    EXPECT_EQ(f.pulsi.battuta.pulsoIniziale, 0);
+    EXPECT_FALSE(f.pulsi.battuta.metroAttivo);
 }
 
 }  // namespace
@@ -67,9 +68,9 @@ TEST(AvvioComposer, TheTextsOfTheLanguageFileComeFirstAndTheCaptionsOfTheOtherEn
         "351;frmComposer;Remove\r\n356;frmComposer;All of it\r\n245;frmMetro;Other\r\n");
     b.Apri();
     EXPECT_EQ(b.finestra.Caption(), "Melodies");
-    EXPECT_EQ(b.finestra.mnuPlayRitardo.Caption(), "Play later");
-    EXPECT_EQ(b.finestra.cmdDelBm.Caption(), "Remove");
-    EXPECT_EQ(b.finestra.cmdDelete.Caption(), "Remove");
+    EXPECT_EQ(b.finestra.menu.mnuPlayRitardo.Caption(), "Play later");
+    EXPECT_EQ(b.finestra.riferimenti.cmdDelBm.Caption(), "Remove");
+    EXPECT_EQ(b.finestra.archivio.cmdDelete.Caption(), "Remove");
     EXPECT_EQ(b.globali.testi.TxtMelodiaIntera, "All of it");
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
@@ -79,17 +80,17 @@ TEST(AvvioComposer, WithoutALanguageFileTheWindowKeepsItsOwnTexts) {
     b.globali.PercorsoLingua = "/programma/none.csv";
     b.Apri();
     EXPECT_EQ(b.finestra.Caption(), "Composizione melodie e armonie");
-    EXPECT_EQ(b.finestra.cmdDelete.Caption(), "Elimina");
+    EXPECT_EQ(b.finestra.archivio.cmdDelete.Caption(), "Elimina");
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(AvvioComposer, TheInstrumentEntriesOfBothMenusReadAsThoseOfTheMainWindow) {
     BancoApertura b;
     b.Apri();
-    EXPECT_EQ(b.finestra.mnuPiano.Caption(), "Piano");
-    EXPECT_EQ(b.finestra.mnuPianoCont.Caption(), "Piano");
-    EXPECT_EQ(b.finestra.mnuOrgano.Caption(), "Organ");
-    EXPECT_EQ(b.finestra.mnuOrganoCont.Caption(), "Organ");
+    EXPECT_EQ(b.finestra.menu.mnuPiano.Caption(), "Piano");
+    EXPECT_EQ(b.finestra.menu.mnuPianoCont.Caption(), "Piano");
+    EXPECT_EQ(b.finestra.menu.mnuOrgano.Caption(), "Organ");
+    EXPECT_EQ(b.finestra.menu.mnuOrganoCont.Caption(), "Organ");
 }
 
 TEST(AvvioComposer, TheProgramKnowsThatTheWindowIsOpen) {
@@ -101,22 +102,22 @@ TEST(AvvioComposer, TheProgramKnowsThatTheWindowIsOpen) {
 
 TEST(AvvioComposer, TheCursorStandsOnRow19ByTheNote60) {
     BancoApertura b;
-    b.finestra.rigaCursore = 3;
-    b.finestra.notaCursore = 90;
+    b.finestra.regolo.rigaCursore = 3;
+    b.finestra.regolo.notaCursore = 90;
     b.SporcaEditing();
     b.Apri();
-    EXPECT_EQ(b.finestra.rigaCursore, 19);
-    EXPECT_EQ(b.finestra.notaCursore, 60);
-    EXPECT_EQ(b.finestra.lblCursore.Top(), 1732);
-    EXPECT_EQ(b.finestra.lblAccidente.Top(), 1732);
-    EXPECT_EQ(b.finestra.lblActNote.Caption(), "Do");
+    EXPECT_EQ(b.finestra.regolo.rigaCursore, 19);
+    EXPECT_EQ(b.finestra.regolo.notaCursore, 60);
+    EXPECT_EQ(b.finestra.regolo.lblCursore.Top(), 1732);
+    EXPECT_EQ(b.finestra.regolo.lblAccidente.Top(), 1732);
+    EXPECT_EQ(b.finestra.stato.lblActNote.Caption(), "Do");
 }
 
 TEST(AvvioComposer, TheNameUnderTheCursorIsInTheNotationInUse) {
     BancoApertura b;
     b.globali.NomiAnglo = true;
     b.Apri();
-    EXPECT_EQ(b.finestra.lblActNote.Caption(), "C");
+    EXPECT_EQ(b.finestra.stato.lblActNote.Caption(), "C");
 }
 
 TEST(AvvioComposer, AFirstStartWithNoLastDirOpensTheDemoFolderBesideTheProgram) {
@@ -146,31 +147,32 @@ TEST(AvvioComposer, AFolderInLastDirThatNoLongerExistsIsTakenWithoutAWord) {
     b.ApriCon("/gone/");
     EXPECT_EQ(b.globali.percorsoCorrente, "/gone/");
     EXPECT_TRUE(b.riquadri.messaggi.empty());
-    b.finestra.mnuApri_Click();
-    EXPECT_EQ(b.finestra.List1.List(), Righe{"» .."});
+    b.finestra.archivio.mnuApri_Click();
+    EXPECT_EQ(b.finestra.archivio.List1.List(), Righe{"» .."});
 }
 
 TEST(AvvioComposer, TheFirstNoteInsertedAtOnceIsDoCentraleAsAQuarterWithAttributeN) {
     BancoApertura b;
     b.SporcaEditing();
     b.Apri();
-    EXPECT_EQ(b.melodia.notaAttiva, 60);
-    EXPECT_EQ(b.melodia.figuraAttiva, 2);
-    EXPECT_EQ(b.melodia.valoreFigura, 1);
-    EXPECT_EQ(b.melodia.valoreNota, 1);
-    EXPECT_EQ(b.melodia.attributoAttivo, 6);
-    EXPECT_EQ(b.melodia.letteraAttributo, "n");
-    EXPECT_EQ(b.melodia.contaTerzina, 0);
+    EXPECT_EQ(b.inserimento.notaAttiva, 60);
+    EXPECT_EQ(b.inserimento.figuraAttiva, 2);
+    EXPECT_EQ(b.inserimento.valoreFigura, 1);
+    EXPECT_EQ(b.inserimento.valoreNota, 1);
+    EXPECT_EQ(b.inserimento.attributoAttivo, 6);
+    EXPECT_EQ(b.inserimento.letteraAttributo, "n");
+    EXPECT_EQ(b.inserimento.contaTerzina, 0);
     EXPECT_EQ(b.melodia.voceAttiva, "soprano");
 }
 
 TEST(AvvioComposer, OnlyTheFigureOfTheQuarterIsLit) {
     BancoApertura b;
-    b.finestra.cmdSimbNote[0].BackColor = coloreProprio;
+    b.finestra.inserimento.cmdSimbNote[0].BackColor = coloreProprio;
     b.Apri();
-    EXPECT_EQ(b.finestra.ColoreSpento, coloreProprio);
-    for (std::size_t i = 0; i < b.finestra.cmdSimbNote.size(); ++i)
-        EXPECT_EQ(b.finestra.cmdSimbNote[i].BackColor() == Rgb(10, 254, 10), i == 2) << i;
+    EXPECT_EQ(b.finestra.inserimento.ColoreSpento, coloreProprio);
+    for (std::size_t i = 0; i < b.finestra.inserimento.cmdSimbNote.size(); ++i)
+        EXPECT_EQ(b.finestra.inserimento.cmdSimbNote[i].BackColor() == Rgb(10, 254, 10), i == 2)
+            << i;
 }
 
 TEST(AvvioComposer, TheTempoIs60AndNoKeyWasUsedYet) {
@@ -178,8 +180,8 @@ TEST(AvvioComposer, TheTempoIs60AndNoKeyWasUsedYet) {
     b.SporcaEditing();
     b.Apri();
     EXPECT_EQ(b.melodia.tempo, 60);
-    EXPECT_EQ(b.finestra.Velocità.Caption(), "60");
-    EXPECT_EQ(b.finestra.tastoCorrente, 70);
+    EXPECT_EQ(b.finestra.play.Velocità.Caption(), "60");
+    EXPECT_EQ(b.finestra.tasti.tastoCorrente, 70);
 }
 
 TEST(AvvioComposer, AllVoicesAreEmptyAndTheSopranoIsTheActiveOne) {
@@ -191,9 +193,9 @@ TEST(AvvioComposer, AllVoicesAreEmptyAndTheSopranoIsTheActiveOne) {
         EXPECT_EQ(voce.primaNota, 0);
         EXPECT_EQ(voce.ultimaNota, 0);
     }
-    EXPECT_EQ(b.finestra.lblNini.Text(), "");
-    EXPECT_EQ(b.finestra.lblNfineB.Text(), "");
-    EXPECT_EQ(b.finestra.lblNt.Caption(), "");
+    EXPECT_EQ(b.finestra.voci.lblNini.Text(), "");
+    EXPECT_EQ(b.finestra.voci.lblNfineB.Text(), "");
+    EXPECT_EQ(b.finestra.stato.lblNt.Caption(), "");
     EXPECT_EQ(b.melodia.voceAttiva, "soprano");
 }
 
@@ -207,28 +209,28 @@ TEST(AvvioComposer, AllFourVoicesTakeTheInstrumentInUseWhichIsSentOnTheirChannel
     EXPECT_EQ(inviati, (std::vector<std::uint32_t>{0x28C0, 0x28C1, 0x28C2, 0x28C3}));
     for (std::size_t voce = 0; voce < numeroVoci; ++voce) {
         EXPECT_EQ(b.melodia.voci[voce].strumento, violino);
-        EXPECT_EQ(b.finestra.lblInstr[voce].Caption(), "40-Violin");
+        EXPECT_EQ(b.finestra.mix.lblInstr[voce].Caption(), "40-Violin");
     }
 }
 
 TEST(AvvioComposer, NoTranspositionWaits) {
     BancoApertura b;
     b.SporcaMelodia();
-    b.finestra.lblSemitoni.Caption = "5";
+    b.finestra.voci.lblSemitoni.Caption = "5";
     b.Apri();
     EXPECT_EQ(b.melodia.semitoni, 0);
-    EXPECT_EQ(b.finestra.lblSemitoni.Caption(), "0");
+    EXPECT_EQ(b.finestra.voci.lblSemitoni.Caption(), "0");
 }
 
 TEST(AvvioComposer, TheMetronomeIsOffAndSetToTwoQuarters) {
     BancoApertura b;
     frmComposer& f = b.finestra;
-    f.pattern = "abbcb";
-    f.ultimoPulso = f.pulsoIniziale = 3;
-    f.durataPulso = 4;
-    f.metroAttivo = true;
-    f.Pulsazioni.ListIndex = 0;
-    f.DurataPulsazioni.ListIndex = 0;
+    f.pulsi.battuta.pattern = "abbcb";
+    f.pulsi.battuta.ultimoPulso = f.pulsi.battuta.pulsoIniziale = 3;
+    f.pulsi.battuta.durataPulso = 4;
+    f.pulsi.battuta.metroAttivo = true;
+    f.pulsi.Pulsazioni.ListIndex = 0;
+    f.pulsi.DurataPulsazioni.ListIndex = 0;
     b.Apri();
     EscePulsiIniziali(f);
 }

@@ -197,13 +197,13 @@ void Scrivi(BancoComposer& banco, const MelodiaModello& melodia) {
             attributi += std::string(1, n.attributo) + ";";
         }
         banco.Voce(voce, note, durateTesto, attributi);
-        banco.finestra.perVoce[voce].volume.Value = melodia.volumi[voce];
+        banco.finestra.mix.perVoce[voce].volume.Value = melodia.volumi[voce];
     }
     banco.Tratto(melodia.prima + 1, melodia.ultima + 1);
-    banco.finestra.Pulsazioni.PonTesto(std::to_string(melodia.pulsazioni));
-    banco.finestra.DurataPulsazioni.PonTesto(melodia.durataPulsi);
-    banco.finestra.InizioPuls.PonValore(melodia.primoPulso);
-    if (melodia.conMetronomo) banco.finestra.lblTs_Click();
+    banco.finestra.pulsi.Pulsazioni.PonTesto(std::to_string(melodia.pulsazioni));
+    banco.finestra.pulsi.DurataPulsazioni.PonTesto(melodia.durataPulsi);
+    banco.finestra.pulsi.InizioPuls.PonValore(melodia.primoPulso);
+    if (melodia.conMetronomo) banco.finestra.pulsi.lblTs_Click();
 }
 
 int TickAttesi(const MelodiaModello& m) {

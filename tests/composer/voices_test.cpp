@@ -20,7 +20,7 @@ struct BancoVoci : BancoComposer {
     }
     void Aggiorna(std::size_t voce, const std::string& note) {
         Testi(voce, note);
-        finestra.AggiornaVoce();
+        finestra.voci.AggiornaVoce();
     }
 };
 
@@ -40,14 +40,14 @@ TEST(AggiornaVoce, On60GivesNumeroNote1ArraysOfTwoElementsAndUltimaNota0) {
 TEST(AggiornaVoce, OnAnEmptySopranoGivesMinus1EmptyRangeBoxesAndAnEmptyBookmarkList) {
     BancoVoci b;
     b.Aggiorna(soprano, "60;62;64;");
-    b.finestra.lstBookMark.List = Righe{"1 ÷ 3 ÷Tutta", "2 ÷ 3 ÷ a"};
+    b.finestra.riferimenti.lstBookMark.List = Righe{"1 ÷ 3 ÷Tutta", "2 ÷ 3 ÷ a"};
     b.melodia.voci[soprano].primaNota = 2;
     b.Aggiorna(soprano, "");
     EXPECT_EQ(b.melodia.voci[soprano].numeroNote, -1);
     EXPECT_EQ(b.melodia.voci[soprano].primaNota, 0);
-    EXPECT_EQ(b.finestra.lblNini.Text(), "");
-    EXPECT_EQ(b.finestra.lblNfine.Text(), "");
-    EXPECT_TRUE(b.finestra.lstBookMark.List->empty());
+    EXPECT_EQ(b.finestra.voci.lblNini.Text(), "");
+    EXPECT_EQ(b.finestra.voci.lblNfine.Text(), "");
+    EXPECT_TRUE(b.finestra.riferimenti.lstBookMark.List->empty());
 }
 
 TEST(AggiornaVoce, PullsTheSopranosLastNoteToItsEndAndLeavesItsFirstOne) {
@@ -57,18 +57,18 @@ TEST(AggiornaVoce, PullsTheSopranosLastNoteToItsEndAndLeavesItsFirstOne) {
     b.Aggiorna(soprano, "60;62;64;65;67;");
     EXPECT_EQ(b.melodia.voci[soprano].primaNota, 1);
     EXPECT_EQ(b.melodia.voci[soprano].ultimaNota, 4);
-    EXPECT_EQ(b.finestra.lblNini.Text(), "2");
-    EXPECT_EQ(b.finestra.lblNfine.Text(), "5");
-    EXPECT_EQ(b.finestra.lblNt.Caption(), "5");
+    EXPECT_EQ(b.finestra.voci.lblNini.Text(), "2");
+    EXPECT_EQ(b.finestra.voci.lblNfine.Text(), "5");
+    EXPECT_EQ(b.finestra.stato.lblNt.Caption(), "5");
 }
 
 TEST(AggiornaVoce, OfTheSopranoRefreshesTheFirstBookmarkWhenThereIsAny) {
     BancoVoci b;
     b.Aggiorna(soprano, "60;");
-    EXPECT_TRUE(b.finestra.lstBookMark.List->empty());
-    b.finestra.lstBookMark.List = Righe{"1 ÷ 1 ÷Tutta", "1 ÷ 1 ÷ a"};
+    EXPECT_TRUE(b.finestra.riferimenti.lstBookMark.List->empty());
+    b.finestra.riferimenti.lstBookMark.List = Righe{"1 ÷ 1 ÷Tutta", "1 ÷ 1 ÷ a"};
     b.Aggiorna(soprano, "60;62;");
-    EXPECT_EQ(b.finestra.lstBookMark.List(), (Righe{"1 ÷ 2 ÷Tutta", "1 ÷ 1 ÷ a"}));
+    EXPECT_EQ(b.finestra.riferimenti.lstBookMark.List(), (Righe{"1 ÷ 2 ÷Tutta", "1 ÷ 1 ÷ a"}));
 }
 
 TEST(AggiornaVoce, OfAnotherVoiceFillsItsFirstBoxOnlyWhenItIsBlankAndLeavesPrimaNota) {
@@ -76,31 +76,31 @@ TEST(AggiornaVoce, OfAnotherVoiceFillsItsFirstBoxOnlyWhenItIsBlankAndLeavesPrima
     for (std::size_t voce = contralto; voce < numeroVoci; ++voce) {
         b.melodia.voci[voce].primaNota = 7;
         b.Aggiorna(voce, "60;62;");
-        EXPECT_EQ(b.finestra.perVoce[voce].prima.Text(), "1");
-        EXPECT_EQ(b.finestra.perVoce[voce].ultima.Text(), "2");
+        EXPECT_EQ(b.finestra.voci.perVoce[voce].prima.Text(), "1");
+        EXPECT_EQ(b.finestra.voci.perVoce[voce].ultima.Text(), "2");
         EXPECT_EQ(b.melodia.voci[voce].ultimaNota, 1);
-        b.finestra.perVoce[voce].prima.Text = "2";
+        b.finestra.voci.perVoce[voce].prima.Text = "2";
         b.Aggiorna(voce, "60;62;64;");
-        EXPECT_EQ(b.finestra.perVoce[voce].prima.Text(), "2");
-        EXPECT_EQ(b.finestra.perVoce[voce].ultima.Text(), "3");
+        EXPECT_EQ(b.finestra.voci.perVoce[voce].prima.Text(), "2");
+        EXPECT_EQ(b.finestra.voci.perVoce[voce].ultima.Text(), "3");
         EXPECT_EQ(b.melodia.voci[voce].primaNota, 7);
     }
-    EXPECT_EQ(b.finestra.lblNt.Caption(), "");
+    EXPECT_EQ(b.finestra.stato.lblNt.Caption(), "");
 }
 
 TEST(AggiornaVoce, OfAnotherVoiceThatIsEmptyClearsItsTwoBoxesAndTheBookmarksStay) {
     BancoVoci b;
-    b.finestra.lstBookMark.List = Righe{"1 ÷ 3 ÷Tutta", "2 ÷ 3 ÷ a"};
+    b.finestra.riferimenti.lstBookMark.List = Righe{"1 ÷ 3 ÷Tutta", "2 ÷ 3 ÷ a"};
     for (std::size_t voce = contralto; voce < numeroVoci; ++voce) {
         b.Aggiorna(voce, "60;62;");
         b.melodia.voci[voce].primaNota = 1;
         b.Aggiorna(voce, "");
         EXPECT_EQ(b.melodia.voci[voce].primaNota, 0);
         EXPECT_EQ(b.melodia.voci[voce].numeroNote, -1);
-        EXPECT_EQ(b.finestra.perVoce[voce].prima.Text(), "");
-        EXPECT_EQ(b.finestra.perVoce[voce].ultima.Text(), "");
+        EXPECT_EQ(b.finestra.voci.perVoce[voce].prima.Text(), "");
+        EXPECT_EQ(b.finestra.voci.perVoce[voce].ultima.Text(), "");
     }
-    EXPECT_EQ(b.finestra.lstBookMark.List->size(), 2U);
+    EXPECT_EQ(b.finestra.riferimenti.lstBookMark.List->size(), 2U);
 }
 
 TEST(AggiornaVoce, SplitsTheActiveVoiceAlone) {
@@ -108,16 +108,16 @@ TEST(AggiornaVoce, SplitsTheActiveVoiceAlone) {
     b.Testi(contralto, "48;50;");
     b.Aggiorna(soprano, "60;");
     EXPECT_TRUE(b.melodia.voci[contralto].noteVoce.empty());
-    EXPECT_EQ(b.finestra.lblNfineC.Text(), "");
+    EXPECT_EQ(b.finestra.voci.lblNfineC.Text(), "");
 }
 
 TEST(AggiornaVoce, OneNoteTooManyIsAFaultThatLeavesTheVoiceAsItWas) {
     BancoVoci b;
     b.Aggiorna(soprano, "60;");
     b.Testi(soprano, Ripetuto("60;", 32768));
-    EXPECT_EQ(NumeroDelGuasto([&] { b.finestra.AggiornaVoce(); }), 6);
+    EXPECT_EQ(NumeroDelGuasto([&] { b.finestra.voci.AggiornaVoce(); }), 6);
     EXPECT_EQ(b.melodia.voci[soprano].numeroNote, 1);
-    EXPECT_EQ(b.finestra.lblNfine.Text(), "1");
+    EXPECT_EQ(b.finestra.voci.lblNfine.Text(), "1");
     b.Aggiorna(soprano, Ripetuto("60;", 32767));
     EXPECT_EQ(b.melodia.voci[soprano].numeroNote, 32767);
     EXPECT_EQ(b.melodia.voci[soprano].ultimaNota, 32766);
@@ -136,9 +136,9 @@ struct BancoPieno : BancoVoci {
         melodia.voceAttiva = "tenore";
         melodia.tempo = 99;
         stato.posizioneSoprano = stato.ultimaSoprano = 2;
-        finestra.lblNe.Caption = "x";
-        finestra.lblPnn.Caption = "x";
-        finestra.AzzeraMelodia();
+        finestra.stato.lblNe.Caption = "x";
+        finestra.stato.lblPnn.Caption = "x";
+        finestra.voci.AzzeraMelodia();
     }
 };
 
@@ -151,12 +151,12 @@ TEST(AzzeraMelodia, EmptiesTheTextsTheDisplaysAndTheRangesOfAllVoices) {
         EXPECT_EQ(v.testoNote + v.testoDurate + v.testoAttributi, "");
         EXPECT_EQ(v.primaNota, 0);
         EXPECT_EQ(v.ultimaNota, 0);
-        EXPECT_EQ(b.finestra.perVoce[voce].nomi.Caption(), "");
-        EXPECT_EQ(b.finestra.perVoce[voce].prima.Text(), "");
-        EXPECT_EQ(b.finestra.perVoce[voce].ultima.Text(), "");
+        EXPECT_EQ(b.finestra.voci.perVoce[voce].nomi.Caption(), "");
+        EXPECT_EQ(b.finestra.voci.perVoce[voce].prima.Text(), "");
+        EXPECT_EQ(b.finestra.voci.perVoce[voce].ultima.Text(), "");
     }
-    EXPECT_EQ(b.finestra.lblNt.Caption() + b.finestra.lblNe.Caption(), "");
-    EXPECT_EQ(b.finestra.lblPnn.Caption(), "");
+    EXPECT_EQ(b.finestra.stato.lblNt.Caption() + b.finestra.stato.lblNe.Caption(), "");
+    EXPECT_EQ(b.finestra.stato.lblPnn.Caption(), "");
     EXPECT_EQ(b.stato.posizioneSoprano, 0);
     EXPECT_EQ(b.stato.ultimaSoprano, 0);
 }

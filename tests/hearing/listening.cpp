@@ -42,15 +42,15 @@ void Ascolto::Voce(std::size_t voce, const std::string& note, const std::string&
 
 bool Ascolto::Carica(const std::string& cartella, const std::string& nome) {
     if (!palco.Scegli(cartella, nome)) return false;
-    orologio.Quando(orologio.Adesso(), [this] { palco.Premi(finestra.cmdPlay); });
-    finestra.cmdEseguiFile_Click();
+    orologio.Quando(orologio.Adesso(), [this] { palco.Premi(finestra.play.cmdPlay); });
+    finestra.archivio.cmdEseguiFile_Click();
     return true;
 }
 
 void Ascolto::Strumento(std::int32_t programma) {
     for (const std::string_view voce : nomiVoci) {
         melodia.voceAttiva = voce;
-        finestra.SceltaStrum(programma);
+        finestra.mix.SceltaStrum(programma);
     }
     melodia.voceAttiva = nomiVoci[soprano];
 }
@@ -71,9 +71,9 @@ void Ascolto::Suona() {
     palco.pompa.Attendi(pausaPrima);
     inizio_ = palco.pompa.Adesso();
     if (fermata_ > 0)
-        orologio.Quando(inizio_ + fermata_, [this] { palco.Premi(finestra.cmdPlay); });
+        orologio.Quando(inizio_ + fermata_, [this] { palco.Premi(finestra.play.cmdPlay); });
     fermata_ = 0;
-    finestra.cmdPlay_Click();
+    finestra.play.cmdPlay_Click();
     fine_ = palco.pompa.Adesso();
 }
 

@@ -67,7 +67,7 @@ public:
     ResaOffline* resa = nullptr;
     PalcoMelodia palco;
     frmComposer& finestra = palco.finestra;
-    Melodia& melodia = finestra.melodia;
+    Melodia& melodia = finestra.stato.melodia;
 
 private:
     double inizio_ = 0;

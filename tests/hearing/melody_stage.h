@@ -34,11 +34,11 @@ struct PalcoMelodia {
     /// the list doesn't have it.
     bool Scegli(const std::string& cartella, const std::string& nome) {
         globali.percorsoCorrente = cartella;
-        finestra.ListaFD();
-        const Righe& righe = finestra.List1.List();
+        finestra.archivio.ListaFD();
+        const Righe& righe = finestra.archivio.List1.List();
         const auto riga = std::find(righe.begin(), righe.end(), nome);
         if (riga == righe.end()) return false;
-        finestra.List1.ListIndex = static_cast<int>(riga - righe.begin());
+        finestra.archivio.List1.ListIndex = static_cast<int>(riga - righe.begin());
         return true;
     }
 
@@ -53,7 +53,7 @@ struct PalcoMelodia {
     /// Splits the texts of a voice, which may have been changed.
     void Aggiorna(std::size_t voce) {
         melodia.voceAttiva = nomiVoci[voce];
-        finestra.AggiornaVoce();
+        finestra.voci.AggiornaVoce();
         melodia.voceAttiva = nomiVoci[soprano];
     }
 
@@ -68,7 +68,7 @@ struct PalcoMelodia {
     CasualeFisso casuale;
     Globali globali;
     frmComposer finestra;
-    Melodia& melodia = finestra.melodia;
+    Melodia& melodia = finestra.stato.melodia;
 };
 
 }  // namespace corvana::prova

@@ -54,7 +54,7 @@ TEST(LinguaAlCaricamento, TheMelodyWindowReadsIt) {
     BancoCaricato b;
     frmComposer finestra{b.Tutto(), {[] { return ""; }, [] { return ""; }, {}}};
     b.Carica(finestra, "277;frmComposer;letto");
-    EXPECT_EQ(finestra.cmdInsPausa.Caption(), "letto");
+    EXPECT_EQ(finestra.inserimento.cmdInsPausa.Caption(), "letto");
 }
 
 TEST(LinguaAlCaricamento, WithoutItsFileTheTextsOfTheDesignStayAndNothingIsTold) {

@@ -26,8 +26,8 @@ const Luoghi daFare = {
     "lblid5",       "lblid6",        "lblid7",        "lblid8",        "lblid9",
     "lblid10",      "lblid11",       "lblid12",       "lblid13",       "lblid14",
     "lblid15",      "cmdCancNota",   "cmdInsertNote", "lblActualNote", "cmdModifica0",
-    "Lbdoc",        "cmdRenameBm",   "cmdPlayBm",     "cmdModBm",      "cmdMbUd0",
-    "cmdMbUd1",     "cmdRename",     "cmdMkdir"};
+    "cmdRenameBm",  "cmdPlayBm",     "cmdModBm",      "cmdMbUd0",      "cmdMbUd1",
+    "cmdRename",    "cmdMkdir"};
 
 void Aggiungi(Luoghi& luoghi, const Controllo& controllo, const ProprietaBase& proprieta,
               const std::string& testo) {

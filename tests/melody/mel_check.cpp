@@ -1,6 +1,7 @@
 #include "tests/melody/mel_check.h"
 
 #include "melody/code_page.h"
+#include "melody/edits.h"
 #include "melody/ticks.h"
 #include "melody/tokens.h"
 #include "tests/melody/mel_content.h"

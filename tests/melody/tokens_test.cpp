@@ -118,47 +118,6 @@ TEST(Spezza, OneNoteMoreIsAnOverflowThatLeavesTheVoiceAsItWas) {
     EXPECT_EQ(voce.testoNote.size(), 32768U * 3);
 }
 
-TEST(TogliTokenDopo, TakesTheTokenBehindTheIndexOutOfAllThreeTexts) {
-    VoceMelodia voce = Voce("60;62;64;", "1;0.5;2;", "n;s;t;");
-    Spezza(voce);
-    TogliTokenDopo(voce, 0);
-    EXPECT_EQ(voce.testoNote, "60;64;");
-    EXPECT_EQ(voce.testoDurate, "1;2;");
-    EXPECT_EQ(voce.testoAttributi, "n;t;");
-}
-
-TEST(TogliTokenDopo, BehindMinusOneStandsTheFirst) {
-    VoceMelodia voce = Voce("60;62;64;", "1;0.5;2;", "n;s;t;");
-    Spezza(voce);
-    TogliTokenDopo(voce, -1);
-    EXPECT_EQ(voce.testoNote, "62;64;");
-    EXPECT_EQ(voce.testoDurate, "0.5;2;");
-    EXPECT_EQ(voce.testoAttributi, "s;t;");
-}
-
-TEST(TogliTokenDopo, TheLastAndTheOnlyOneCanBeTaken) {
-    VoceMelodia voce = Voce("60;62;64;", "1;0.5;2;", "n;s;t;");
-    Spezza(voce);
-    TogliTokenDopo(voce, 1);
-    EXPECT_EQ(voce.testoNote, "60;62;");
-    VoceMelodia sola = Voce("60;", "1;", "n;");
-    Spezza(sola);
-    TogliTokenDopo(sola, -1);
-    EXPECT_TRUE(sola.Vuota());
-    EXPECT_EQ(sola.testoDurate, "");
-    EXPECT_EQ(sola.testoAttributi, "");
-}
-
-TEST(TogliTokenDopo, WorksFromTheArraysAndLeavesThem) {
-    VoceMelodia voce = Voce("60;62;", "1;1;", "n;n;");
-    Spezza(voce);
-    voce.testoNote = "stale;";
-    TogliTokenDopo(voce, 0);
-    EXPECT_EQ(voce.testoNote, "60;");
-    EXPECT_EQ(voce.noteVoce, (Campi{"60", "62", ""}));
-    EXPECT_EQ(voce.numeroNote, 2);
-}
-
 RC_GTEST_PROP(SostituisciToken, OnlyTheOneTokenChanges, ()) {
     const auto note =
         *rc::gen::nonEmpty(rc::gen::container<std::vector<int>>(rc::gen::inRange(36, 96)));

@@ -1,5 +1,5 @@
 // Saving: into the current folder, under a new name, and onto a removable medium.
-#include "composer/composer.h"
+#include "composer/file_panel.h"
 #include "core/file_faults.h"
 #include "core/text.h"
 #include "melody/names.h"
@@ -15,7 +15,7 @@ std::string NomeFile(const std::string& nome) {
 }  // namespace
 
 /// The file in the current folder that has the name, or that is to get it.
-std::string frmComposer::Percorso(const std::string& nome) const {
+std::string PannelloFile::Percorso(const std::string& nome) const {
     const std::string& cartella = a_.globali.percorsoCorrente;
     std::string usuale = cartella + NomeFile(nome);
     if (a_.file.Esiste(usuale)) return usuale;
@@ -25,89 +25,86 @@ std::string frmComposer::Percorso(const std::string& nome) const {
     return usuale;
 }
 
-void frmComposer::ScriviIn(const std::string& percorso) {
-    std::optional<MetronomoMel> metronomo;
-    if (metroAttivo) metronomo = {Pulsazioni.Text(), DurataPulsazioni.Text(), InizioPuls.Value()};
-    const DaScrivere melodiaIntera{melodia.voci, Slider1.Value(), metronomo, lstBookMark.List()};
-    Controlla(a_.file.ScriviAtomico(percorso, ScriviMel(melodiaIntera)));
+void PannelloFile::ScriviIn(const std::string& percorso) {
+    Controlla(a_.file.ScriviAtomico(percorso, vicine_.byte()));
 }
 
-void frmComposer::SalvaMelodia(const std::string& nome) {
+void PannelloFile::SalvaMelodia(const std::string& nome) {
     if (nome.empty() || !a_.file.EsisteCartella(a_.globali.percorsoCorrente)) return;
     try {
         ScriviIn(Percorso(nome));
-        lblModificato.Visible = false;
-        lblNome.Caption = "Salvato: " + nome;
+        stato_.lblModificato.Visible = false;
+        stato_.lblNome.Caption = "Salvato: " + nome;
         ListaFD();
     } catch (const Guasto& guasto) {
         a_.riquadri.MsgBox(TestoGuasto(guasto));
     }
 }
 
-void frmComposer::mnuSalva_Click() {
+void PannelloFile::mnuSalva_Click() {
     mnuApri_Click();
-    if (melodia.nomeMelodia.empty())
+    if (melodia_.nomeMelodia.empty())
         mnuSaveAs_Click();
     else
-        SalvaMelodia(melodia.nomeMelodia);
+        SalvaMelodia(melodia_.nomeMelodia);
 }
 
-void frmComposer::mnuSaveAs_Click() {
+void PannelloFile::mnuSaveAs_Click() {
     mnuApri_Click();
-    if (melodia.voci[soprano].Vuota()) return;
-    const std::string vecchio = melodia.nomeMelodia;
-    melodia.nomeMelodia = ChiediNome(List1.Scelta());
-    if (NomeRifiutato(melodia.nomeMelodia, rifiutatiMelodia)) {
-        melodia.nomeMelodia = SenzaBlanchi(lblNome.Caption()).empty() ? "" : vecchio;
+    if (melodia_.voci[soprano].Vuota()) return;
+    const std::string vecchio = melodia_.nomeMelodia;
+    melodia_.nomeMelodia = ChiediNome(List1.Scelta());
+    if (NomeRifiutato(melodia_.nomeMelodia, rifiutatiMelodia)) {
+        melodia_.nomeMelodia = SenzaBlanchi(stato_.lblNome.Caption()).empty() ? "" : vecchio;
         a_.riquadri.MsgBox(a_.globali.testi.msgNomeMelodiaErrato);
         return;
     }
     const TestiLingua& testi = a_.globali.testi;
-    if (a_.file.Esiste(Percorso(melodia.nomeMelodia)) &&
-        !a_.riquadri.Domanda(testi.msgMelodiaEsiste + melodia.nomeMelodia + "\r\n" +
+    if (a_.file.Esiste(Percorso(melodia_.nomeMelodia)) &&
+        !a_.riquadri.Domanda(testi.msgMelodiaEsiste + melodia_.nomeMelodia + "\r\n" +
                              testi.msgSostituirla))
         return;
-    SalvaMelodia(melodia.nomeMelodia);
+    SalvaMelodia(melodia_.nomeMelodia);
 }
 
 /// The answer without outer blanks; empty when the box was cancelled.
-std::string frmComposer::ChiediNome(const std::string& proposta) {
+std::string PannelloFile::ChiediNome(const std::string& proposta) {
     const TestiLingua& testi = a_.globali.testi;
     const auto risposta =
         a_.riquadri.InputBox(testi.prmNomeMelodia, testi.titSalvaConNome, proposta);
     return std::string(SenzaBlanchi(risposta.value_or("")));
 }
 
-void frmComposer::mnuSalvaA_Click() {
-    if (melodia.voci[soprano].Vuota()) return;
-    if (melodia.nomeMelodia.empty()) melodia.nomeMelodia = ChiediNome("");
-    if (melodia.nomeMelodia.empty()) return;
-    if (NomeRifiutato(melodia.nomeMelodia, rifiutatiMelodia)) {
-        melodia.nomeMelodia.clear();
+void PannelloFile::mnuSalvaA_Click() {
+    if (melodia_.voci[soprano].Vuota()) return;
+    if (melodia_.nomeMelodia.empty()) melodia_.nomeMelodia = ChiediNome("");
+    if (melodia_.nomeMelodia.empty()) return;
+    if (NomeRifiutato(melodia_.nomeMelodia, rifiutatiMelodia)) {
+        melodia_.nomeMelodia.clear();
         a_.riquadri.MsgBox(a_.globali.testi.msgNomeMelodiaErrato);
         return;
     }
-    const std::string nomeFile = NomeFile(melodia.nomeMelodia);
-    MousePointer = puntatoreAttesa;
+    const std::string nomeFile = NomeFile(melodia_.nomeMelodia);
+    finestra_.MousePointer = puntatoreAttesa;
     try {
         ScriviSulSupporto(nomeFile);
     } catch (const Guasto& guasto) {
-        MousePointer = puntatoreNormale;
+        finestra_.MousePointer = puntatoreNormale;
         MostraErroreSupporto(guasto);
         return;
     }
-    lblModificato.Visible = false;
-    MousePointer = puntatoreNormale;
+    stato_.lblModificato.Visible = false;
+    finestra_.MousePointer = puntatoreNormale;
     a_.riquadri.MsgBox(nomeFile + "\r\n" + a_.globali.testi.msgSalvataSuA);
 }
 
-void frmComposer::ScriviSulSupporto(const std::string& nomeFile) {
+void PannelloFile::ScriviSulSupporto(const std::string& nomeFile) {
     const std::string supporto = a_.file.SupportoRimovibile();
     if (supporto.empty()) throw GuastoFile(ENOMEDIUM);
     ScriviIn(supporto + nomeFile);
 }
 
-void frmComposer::MostraErroreSupporto(const Guasto& guasto) {
+void PannelloFile::MostraErroreSupporto(const Guasto& guasto) {
     std::string motivo = guasto.what();
     if (guasto.Numero() == guastoDiscoPieno) motivo = a_.globali.testi.msgDiscoPieno;
     if (guasto.Numero() == guastoDiscoNonPronto) motivo = a_.globali.testi.msgDiscoNonPronto;

@@ -1,0 +1,38 @@
+// The menus of the melody window. Those of the bar come first; the context menu repeats some of
+// their entries and does the same. Logic thread.
+#pragma once
+
+#include "forms/form.h"
+
+namespace corvana {
+
+class MenuComposer {
+public:
+    explicit MenuComposer(Form& finestra) : finestra_(finestra) {}
+
+private:
+    Form& finestra_;
+
+public:
+    VoceMenu file{finestra_, "file"};
+    VoceMenu mnuApri{finestra_, "mnuApri", &file};
+    VoceMenu mnuSalva{finestra_, "mnuSalva", &file};
+    VoceMenu mnuSaveAs{finestra_, "mnuSaveAs", &file};
+    VoceMenu mnuSalvaA{finestra_, "mnuSalvaA", &file};
+
+    VoceMenu strumento{finestra_, "strumento"};
+    VoceMenu mnuPiano{finestra_, "mnuPiano", &strumento};
+    VoceMenu mnuOrgano{finestra_, "mnuOrgano", &strumento};
+
+    VoceMenu mnuOp{finestra_, "mnuOp"};
+    VoceMenu mnuPlayRitardo{finestra_, "mnuPlayRitardo", &mnuOp};
+
+    VoceMenu mnuContestuale2{finestra_, "mnuContestuale2"};
+    VoceMenu mnuSalvaCont{finestra_, "mnuSalvaCont", &mnuContestuale2};
+    VoceMenu mnuSaveAsCont{finestra_, "mnuSaveAsCont", &mnuContestuale2};
+    VoceMenu mnucSalvaA{finestra_, "mnucSalvaA", &mnuContestuale2};
+    VoceMenu mnuPianoCont{finestra_, "mnuPianoCont", &mnuContestuale2};
+    VoceMenu mnuOrganoCont{finestra_, "mnuOrganoCont", &mnuContestuale2};
+};
+
+}  // namespace corvana

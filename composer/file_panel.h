@@ -1,0 +1,65 @@
+// The list of folders and melodies, and all that stores melodies or fetches them: file_panel.cpp
+// lists and opens, saving.cpp saves into the current folder, under a new name and onto a removable
+// medium. Logic thread.
+#pragma once
+
+#include <functional>
+
+#include "composer/composer_state.h"
+#include "core/globals.h"
+#include "forms/fault.h"
+
+namespace corvana {
+
+struct VicineFile {
+    std::function<std::string()> byte;  ///< the melody as its file; throws `Guasto`
+    std::function<void(const std::string& nome)> carica;  ///< loads a melody and plays it
+};
+
+class PannelloFile {
+public:
+    /// All must live as long as the panel.
+    PannelloFile(const Ambiente& ambiente, Form& finestra, StatoComposer& stato, VicineFile vicine);
+
+private:
+    Form& finestra_;
+
+public:
+    Cornice Fr2{finestra_, "Fr2"};
+    Lista List1{finestra_, "List1", &Fr2};
+    Etichetta lblPercorso{finestra_, "lblPercorso", &Fr2};
+    Bottone cmdEseguiFile{finestra_, "cmdEseguiFile", &Fr2};
+    Bottone cmdDelete{finestra_, "cmdDelete", &Fr2};
+
+    /// The current folder is that of the last time, at the window's load.
+    void Carica();
+    /// Keeps the current folder for the next time.
+    void Ricorda();
+
+    void mnuApri_Click();
+    void ListaFD();
+    /// Opens the chosen row: a folder is entered, a melody loaded and played.
+    void cmdEseguiFile_Click();
+
+    /// Writes the melody into the current folder, replacing a file of that name.
+    void SalvaMelodia(const std::string& nome);
+    void mnuSalva_Click();
+    void mnuSaveAs_Click();
+    void mnuSalvaA_Click();
+
+    /// The file in the current folder that has the name, or that is to get it.
+    std::string Percorso(const std::string& nome) const;
+
+private:
+    void ScriviIn(const std::string& percorso);
+    std::string ChiediNome(const std::string& proposta);
+    void ScriviSulSupporto(const std::string& nomeFile);
+    void MostraErroreSupporto(const Guasto& guasto);
+
+    Ambiente a_;
+    StatoComposer& stato_;
+    Melodia& melodia_;
+    VicineFile vicine_;
+};
+
+}  // namespace corvana
