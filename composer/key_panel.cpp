@@ -1,6 +1,7 @@
 #include "composer/key_panel.h"
 
 #include "core/notation.h"
+#include "core/octaves.h"
 
 namespace corvana {
 

@@ -2,6 +2,7 @@
 #include "composer/playback.h"
 
 #include "core/notation.h"
+#include "core/octaves.h"
 #include "melody/numbers.h"
 #include "melody/tokens.h"
 
@@ -137,7 +138,7 @@ void Esecuzione::PassoMetronomo() {
 void Esecuzione::MandaNote() {
     for (std::size_t voce = 0; voce < numeroVoci; ++voce) {
         StatoVoce& v = stato_.voci[voce];
-        const int tasto = v.notaCorrente - scartoIndiceNota;
+        const int tasto = v.notaCorrente - notaPiuBassa;
         switch (EventoVoce(v)) {
             case Messaggio::Spegni:
                 a_.suono.NotaOff(Canale(voce), v.notaCorrente);

@@ -1,6 +1,6 @@
 // How a play begins, what of the melody it goes over, and how it ends.
 #include "composer/playback.h"
-#include "core/notation.h"
+#include "core/octaves.h"
 #include "melody/tokens.h"
 
 namespace corvana {
@@ -11,7 +11,7 @@ void Esecuzione::SpegniResti() {
         StatoVoce& v = stato_.voci[voce];
         if (!v.staSuonando) continue;
         a_.suono.NotaOff(Canale(voce), v.notaCorrente);
-        vicine_.mostraTasto(v.notaCorrente - scartoIndiceNota, false);
+        vicine_.mostraTasto(v.notaCorrente - notaPiuBassa, false);
         v.staSuonando = false;
     }
     SpegniPulso();

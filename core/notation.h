@@ -16,14 +16,6 @@ namespace corvana {
 /// Index plus this is the MIDI number.
 constexpr std::int16_t scartoIndiceNota = 36;
 
-constexpr std::int16_t notaPiuBassa = 36;  ///< of the five octaves
-constexpr std::int16_t notaPiuAlta = 95;
-
-/// The MIDI number has a key among the five octaves.
-constexpr bool SullaTastiera(std::int16_t nota) {
-    return nota >= notaPiuBassa && nota <= notaPiuAlta;
-}
-
 /// Name of a MIDI number from 36 to 95, of 0 (a rest), or of a low code plus 36 (532, 534, 536);
 /// empty for any other. `nomiAnglo` gives C, D, E instead of Do, Re, Mi.
 std::string NomeNota(std::int16_t midi, bool nomiAnglo);

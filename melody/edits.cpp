@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "core/notation.h"
+#include "core/octaves.h"
 #include "forms/fault.h"
 #include "melody/tokens.h"
 

@@ -4,7 +4,7 @@
 #include <limits>
 #include <optional>
 
-#include "core/notation.h"
+#include "core/octaves.h"
 #include "forms/fault.h"
 #include "melody/edits.h"
 #include "melody/numbers.h"

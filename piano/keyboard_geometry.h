@@ -5,7 +5,7 @@
 #include <array>
 #include <cstdint>
 
-#include "core/notation.h"
+#include "core/octaves.h"
 
 namespace corvana {
 

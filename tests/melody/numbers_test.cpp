@@ -153,4 +153,16 @@ RC_GTEST_PROP(ArrotondaAlPari, IsNeverFurtherThanAHalfAndAtAHalfEven, ()) {
     RC_ASSERT(lontano < 0.5 || intero % 2 == 0);
 }
 
+TEST(NumeroLetto, IsTheNearestWholeNumberOfTheText) {
+    for (const auto& [testo, atteso] : {std::pair{" 60 ", 60},
+                                        {"60.5", 60},
+                                        {"61,5", 62},
+                                        {"-1", -1},
+                                        {"2147483647", 2147483647}})
+        EXPECT_EQ(NumeroLetto(testo), atteso) << testo;
+    for (const auto& [testo, numero] :
+         {std::pair{"", 13}, {"sixty", 13}, {"2147483648", 6}, {"-2147483649", 6}, {"1e400", 6}})
+        EXPECT_EQ(NumeroDelGuasto([t = testo] { NumeroLetto(t); }), numero) << testo;
+}
+
 }  // namespace corvana::prova
