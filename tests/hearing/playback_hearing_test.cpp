@@ -42,7 +42,7 @@ TEST(MelodiaUdita, EveryNoteSoundsAtItsPitchOnItsTick) {
     for (const int programma : {clavicembalo, xilofono}) {
         Ascolto a;
         a.Strumento(programma);
-        a.finestra.Slider1.PonValore(120);
+        a.finestra.play.Slider1.PonValore(120);
         a.Voce(soprano, "60;62;64;65;00;67;67;72;71;69;67;55;48;84;",
                "1;0.5;0.5;1.5;0.5;0.75;0.25;0.333333333333333;0.333333333333333;"
                "0.333333333333333;1;0.5;0.5;2;",
@@ -82,7 +82,7 @@ TEST(MelodiaUdita, InAChordEachVoiceComesThroughAndIsGoneWithItsBarAtTheSilentEn
         Ascolto a;
         PonAccordo(a, "2");
         a.Strumento(organo);
-        a.finestra.perVoce[muta].volume.PonValore(volumeMuto);
+        a.finestra.mix.perVoce[muta].volume.PonValore(volumeMuto);
         a.Suona();
         const auto suono = a.Senti(1);
         for (std::size_t voce = 0; voce < numeroVoci; ++voce) {
@@ -118,8 +118,8 @@ TEST(MelodiaUdita, AnAccentIsLouder) {
 TEST(MelodiaUdita, PulsesAreHeardOnTheirTicksWhereTheVoicesRest) {
     Ascolto a;
     a.Voce(soprano, "00;", "8;", "p");
-    a.finestra.lblTs_Click();
-    a.finestra.Pulsazioni.PonTesto("1");
+    a.finestra.pulsi.lblTs_Click();
+    a.finestra.pulsi.Pulsazioni.PonTesto("1");
     a.Suona();
     const auto attacchi = Attacchi(a.Senti(a.Fine()));
     ASSERT_EQ(attacchi.size(), 8U);
@@ -155,7 +155,7 @@ TEST(MelodiaUdita, NothingSoundsAfterAStopInTheMidstOfNotesAndPulses) {
     Ascolto a;
     PonAccordo(a, "40");
     a.Strumento(organo);
-    a.finestra.lblTs_Click();
+    a.finestra.pulsi.lblTs_Click();
     a.FermaDopo(1.2);
     a.Suona();
     EXPECT_NEAR(a.Fine() - anticipo, 1.2, a.Secondi(1));
