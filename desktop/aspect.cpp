@@ -60,10 +60,14 @@ void Poni(Aspetto& a, Nome nome, const Valore& valore) {
 Aspetto AspettoDa(const CopiaControllo& copia) {
     Aspetto aspetto;
     aspetto.nome = InQt(copia.nome);
-    aspetto.stile = InQt(copia.stile).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    aspetto.stile = ParoleDi(copia.stile);
     for (const auto& [nome, valore] : copia.proprieta)
         Poni(aspetto, nome, valore);
     return aspetto;
+}
+
+QStringList ParoleDi(const std::string& stile) {
+    return InQt(stile).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
 
 QString InQt(const std::string& testo) {

@@ -36,6 +36,9 @@ struct Aspetto {
 void Poni(Aspetto& aspetto, Nome nome, const Valore& valore);
 Aspetto AspettoDa(const CopiaControllo& copia);
 
+/// The words of a control's style.
+QStringList ParoleDi(const std::string& stile);
+
 /// The text as Qt wants it: line ends are one character.
 QString InQt(const std::string& testo);
 /// The colour, or `altrimenti` when the control leaves it to the face.

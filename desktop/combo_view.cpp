@@ -126,8 +126,8 @@ VistaCombo::VistaCombo(const CopiaControllo& copia, Mittente mittente, QWidget& 
     });
 }
 
-void VistaCombo::PonApertura(std::function<void()> apertura) {
-    static_cast<Scelta*>(combo_)->PonApertura(std::move(apertura));
+void VistaCombo::PonApertura(const std::function<void()>& apertura) {
+    static_cast<Scelta*>(combo_)->PonApertura(apertura);
 }
 
 void VistaCombo::PonRighe() {

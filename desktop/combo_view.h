@@ -13,8 +13,7 @@ class VistaCombo final : public Vista {
 public:
     VistaCombo(const CopiaControllo& copia, Mittente mittente, QWidget& padre);
 
-    /// To be called each time that its rows drop down; from then on they have the keyboard.
-    void PonApertura(std::function<void()> apertura);
+    void PonApertura(const std::function<void()>& apertura) override;
 
 protected:
     void Rinfresca(Nome nome) override;

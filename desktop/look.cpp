@@ -4,6 +4,7 @@
 #include <QFontDatabase>
 #include <QThreadPool>
 
+#include "desktop/face_reader.h"
 #include "desktop/icon_painter.h"
 #include "desktop/style.h"
 #include "desktop/theme.h"
@@ -26,6 +27,7 @@ void VestiProgramma(QApplication& qt) {
     QApplication::setDesktopFileName(QStringLiteral("org.corvana.Corvana"));
     QApplication::setWindowIcon(IconaDelProgramma(QStringLiteral("corvana")));
     QApplication::setQuitOnLastWindowClosed(false);
+    PreparaLettori();
     QApplication::setStyle(new Stile);
     QApplication::setPalette(TavolozzaDelProgramma());
     qt.setFont(Carattere({}, 1));

@@ -1,6 +1,5 @@
 #include "desktop/mouse.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QCursor>
 #include <QKeyEvent>
@@ -11,16 +10,12 @@
 #include <QWindow>
 
 #include "desktop/key_map.h"
+#include "desktop/mouse_event.h"
 #include "desktop/view.h"
 
 namespace corvana {
 
 namespace {
-
-int NumeroBottone(Qt::MouseButton bottone) {
-    if (bottone == Qt::LeftButton) return bottoneSinistro;
-    return bottone == Qt::RightButton ? bottoneDestro : 0;
-}
 
 /// A text box has a menu of its own.
 bool ChiedeMenu(const QKeyEvent& tasto) {
@@ -30,33 +25,10 @@ bool ChiedeMenu(const QKeyEvent& tasto) {
            !qobject_cast<QLineEdit*>(QApplication::focusWidget());
 }
 
-/// The event at that place of the control's widget.
-Evento FattoMouse(const Vista& vista, Fatto fatto, QPointF posto) {
-    const double twips = twipsPerPixel / vista.Scala();
-    Evento evento;
-    evento.fatto = fatto;
-    evento.x = static_cast<int>(posto.x() * twips);
-    evento.y = static_cast<int>(posto.y() * twips);
-    return evento;
-}
-
-bool Dipinta(const Vista& vista) {
-    switch (vista.Origine().tipo) {
-        case Genere::Finestra:
-        case Genere::Etichetta:
-        case Genere::Cornice:
-        case Genere::Figura: return true;
-        default: return false;
-    }
-}
-
 }  // namespace
 
 Mouse::Mouse(QWidget& widget, const Vista& vista)
-    : QObject(&widget),
-      widget_(widget),
-      vista_(vista),
-      inerte_(Dipinta(vista) && !qobject_cast<QAbstractButton*>(&widget)) {
+    : QObject(&widget), widget_(widget), vista_(vista) {
     widget.installEventFilter(this);
 }
 
@@ -66,13 +38,12 @@ bool Mouse::eventFilter(QObject*, QEvent* evento) {
         return static_cast<const QMouseEvent&>(*evento);
     };
     switch (evento->type()) {
-        case QEvent::MouseButtonPress: return Premi(mouse());
-        case QEvent::MouseButtonRelease: return inerte_;
-        case QEvent::MouseButtonDblClick: return Raddoppia(mouse());
+        case QEvent::MouseButtonPress: Premi(mouse()); return false;
+        case QEvent::MouseButtonDblClick: Raddoppia(mouse()); return false;
         case QEvent::MouseMove:
             Muovi(mouse());
             // A mere move must not climb to the parents, which would report it as their own.
-            return inerte_ || mouse().buttons() == Qt::NoButton;
+            return mouse().buttons() == Qt::NoButton;
         case QEvent::Leave: Esci(); return false;
         default: return false;
     }
@@ -80,7 +51,7 @@ bool Mouse::eventFilter(QObject*, QEvent* evento) {
 
 void Mouse::Manda(Fatto fatto, const QMouseEvent& mouse) const {
     const QPointF posto = mouse.position() + QPointF(widget_.mapTo(vista_.Widget(), QPoint()));
-    Evento evento = FattoMouse(vista_, fatto, posto);
+    Evento evento = EventoMouse(vista_, fatto, posto);
     evento.codice = NumeroBottone(mouse.button());
     evento.shift = BitMaiuscole(mouse.modifiers());
     vista_.Manda(std::move(evento));
@@ -98,13 +69,12 @@ void Mouse::Esci() const {
     if (vista_.Stato().Ascolta(ascoltaMossa)) vista_.MuoviFinestra();
 }
 
-bool Mouse::Premi(const QMouseEvent& mouse) {
+void Mouse::Premi(const QMouseEvent& mouse) {
     premuto_ = mouse.timestamp();
     Manda(Fatto::MouseDown, mouse);
-    return inerte_;
 }
 
-bool Mouse::Raddoppia(const QMouseEvent& mouse) {
+void Mouse::Raddoppia(const QMouseEvent& mouse) {
     // The second of two quick presses on different controls is the first on its own.
     const quint64 pausa = mouse.timestamp() - premuto_;
     const auto quanto =
@@ -113,7 +83,6 @@ bool Mouse::Raddoppia(const QMouseEvent& mouse) {
     const Genere tipo = vista_.Origine().tipo;
     if (tipo == Genere::Bottone || tipo == Genere::Spunta || pausa > quanto) return Premi(mouse);
     Manda(Fatto::DblClick, mouse);
-    return Dipinta(vista_);
 }
 
 TopoFinestra::TopoFinestra(QWindow& finestra, const Vista& faccia)
@@ -175,7 +144,7 @@ QPoint TopoFinestra::PostoMenu() const {
 
 void TopoFinestra::Manda(Fatto fatto, int codice, QPointF dove, int shift) const {
     const QWidget& faccia = *faccia_.Widget();
-    Evento evento = FattoMouse(faccia_, fatto, dove - faccia.mapTo(faccia.window(), QPointF()));
+    Evento evento = EventoMouse(faccia_, fatto, dove - faccia.mapTo(faccia.window(), QPointF()));
     evento.codice = codice;
     evento.shift = shift;
     faccia_.Manda(std::move(evento));

@@ -26,12 +26,11 @@ private:
     void Manda(Fatto fatto, const QMouseEvent& mouse) const;
     void Muovi(const QMouseEvent& mouse) const;
     void Esci() const;
-    bool Premi(const QMouseEvent& mouse);
-    bool Raddoppia(const QMouseEvent& mouse);
+    void Premi(const QMouseEvent& mouse);
+    void Raddoppia(const QMouseEvent& mouse);
 
     QWidget& widget_;
     const Vista& vista_;
-    const bool inerte_;    ///< the widget itself does nothing with the mouse
     quint64 premuto_ = 0;  ///< when a button last went down on it, in milliseconds
 };
 

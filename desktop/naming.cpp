@@ -23,8 +23,7 @@ Nominatore::Nominatore(const std::vector<std::unique_ptr<Vista>>& viste) {
             if (parola.startsWith(prefisso))
                 if (const Vista* etichetta = Cerca(viste, parola.mid(prefisso.size())))
                     etichette.push_back(etichetta);
-        if (vista->Widget() && !etichette.empty())
-            nominate_.push_back({vista.get(), std::move(etichette)});
+        if (!etichette.empty()) nominate_.push_back({vista.get(), std::move(etichette)});
     }
     Rinnova();
 }
@@ -34,7 +33,7 @@ void Nominatore::Rinnova() const {
         QStringList nomi;
         for (const Vista* etichetta : nominata.etichette)
             nomi.append(SenzaAccesso(etichetta->Stato().caption).trimmed());
-        nominata.vista->Widget()->setAccessibleName(nomi.join(QLatin1Char(' ')));
+        nominata.vista->PonNomeDetto(nomi.join(QLatin1Char(' ')));
     }
 }
 

@@ -19,7 +19,7 @@ public:
 
 private:
     struct Nominata {
-        const Vista* vista;
+        Vista* vista;
         std::vector<const Vista*> etichette;
     };
     std::vector<Nominata> nominate_;

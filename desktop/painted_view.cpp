@@ -1,146 +1,128 @@
 #include "desktop/painted_view.h"
 
-#include <QAbstractButton>
-#include <QKeyEvent>
-#include <QLabel>
-#include <QPaintEvent>
-
-#include "desktop/icon_painter.h"
+#include "desktop/face.h"
+#include "desktop/face_reader.h"
 #include "desktop/key_map.h"
-#include "desktop/letter_painter.h"
-#include "desktop/ornament_painter.h"
-#include "desktop/theme.h"
 
 namespace corvana {
 
 namespace {
 
-/// A widget that its view paints.
-template <class Base>
-class Dipinto : public Base {
-public:
-    Dipinto(VistaDipinta& vista, QWidget& padre) : Base(&padre), vista_(vista) {
-        this->setAttribute(Qt::WA_Hover);
-    }
-
-protected:
-    void paintEvent(QPaintEvent* evento) override {
-        QPainter p(this);
-        p.setClipRect(evento->rect());
-        vista_.Dipingi(p, QRectF(this->rect()), Tatto());
-    }
-    virtual Tocco Tatto() const {
-        return {this->underMouse(), false, this->hasFocus(), this->isEnabled()};
-    }
-
-private:
-    VistaDipinta& vista_;
-};
-
-class Premibile final : public Dipinto<QAbstractButton> {
-public:
-    Premibile(VistaDipinta& vista, QWidget& padre) : Dipinto(vista, padre) {
-        // Like any picture or label it leaves the focus where it is when the mouse clicks it.
-        setFocusPolicy(Qt::TabFocus);
-        setCursor(Qt::PointingHandCursor);
-    }
-
-protected:
-    Tocco Tatto() const override {
-        Tocco tocco = Dipinto::Tatto();
-        tocco.premuto = isDown();
-        return tocco;
-    }
-    void keyPressEvent(QKeyEvent* tasto) override {
-        if (!EInvio(tasto->key())) return QAbstractButton::keyPressEvent(tasto);
-        if (!tasto->isAutoRepeat()) click();
-    }
-};
-
-/// The question mark stays on its button when it is taken away to show that the help is on.
-Aspetto Acceso(Aspetto aspetto) {
-    if (!aspetto.Ha("aiuto") || !aspetto.caption.isEmpty()) return aspetto;
-    aspetto.caption = QStringLiteral("?");
-    aspetto.fondo = InColore(tinta::accento);
-    aspetto.penna = Rgb(255, 255, 255);
-    return aspetto;
+bool EMisura(Nome nome) {
+    return nome == Nome::Left || nome == Nome::Top || nome == Nome::Width || nome == Nome::Height;
 }
 
 }  // namespace
 
-VistaDipinta::VistaDipinta(const CopiaControllo& copia, Mittente mittente, QWidget& padre)
-    : Vista(copia, mittente) {
-    PonWidget(CreaWidget(padre));
-    VistaDipinta::Rinfresca(Nome::Caption);
-    if (copia.tipo == Genere::Casella) Widget()->setAccessibleName(Stato().text);
+VistaDipinta::VistaDipinta(const CopiaControllo& copia, Mittente mittente)
+    : Vista(copia, mittente) {}
+
+VistaDipinta::~VistaDipinta() {
+    if (lettore_) QAccessible::deleteAccessibleInterface(lettore_);
+}
+
+void VistaDipinta::DaiFaccia(QWidget& dove) {
+    faccia_ = new Faccia(*this, dove);
+    PonWidgetMuto(*faccia_);
+}
+
+const VistaDipinta* VistaDipinta::Sotto() const {
+    return static_cast<const VistaDipinta*>(Padre());
+}
+
+Faccia& VistaDipinta::FacciaDove() const {
+    return faccia_ ? *faccia_ : Sotto()->FacciaDove();
+}
+
+QRect VistaDipinta::Posto() const {
+    if (faccia_) return faccia_->rect();
+    return InPixel(Stato().Twips(), Scala()).translated(Sotto()->Posto().topLeft());
+}
+
+QRect VistaDipinta::Ritaglio() const {
+    return faccia_ ? Posto() : Portata() & Sotto()->Ritaglio();
+}
+
+bool VistaDipinta::InVista() const {
+    if (faccia_) return faccia_->isVisible();
+    return SiVede() && Sotto()->InVista();
+}
+
+bool VistaDipinta::Abilitata() const {
+    if (faccia_) return faccia_->isEnabled();
+    return Stato().enabled && Sotto()->Abilitata();
+}
+
+bool VistaDipinta::Usabile() const {
+    return InVista() && Abilitata();
+}
+
+bool VistaDipinta::HaFuoco() const {
+    return FacciaDove().Fuoco() == this;
+}
+
+void VistaDipinta::PrendiFuoco(Qt::FocusReason perche) {
+    if (Usabile()) FacciaDove().PonFuoco(*this, perche);
 }
 
 bool VistaDipinta::Cliccabile() const {
-    // One that lies behind another has what is clicked before it.
     return Stato().Ascolta(ascoltaClick) && Origine().tipo != Genere::Casella &&
-           !Stato().Ha("dietro");
+           Origine().tipo != Genere::Finestra && !Stato().Ha("dietro");
 }
 
-QWidget& VistaDipinta::CreaWidget(QWidget& padre) {
-    if (Cliccabile()) {
-        auto* bottone = new Premibile(*this, padre);
-        QObject::connect(bottone, &QAbstractButton::clicked, bottone,
-                         [this] { Manda(Fatto::Click); });
-        return *bottone;
+bool VistaDipinta::PremiTasto(const QKeyEvent& tasto) {
+    const bool spazio = tasto.key() == Qt::Key_Space || tasto.key() == Qt::Key_Select;
+    if (!spazio && !EInvio(tasto.key())) return false;
+    if (tasto.isAutoRepeat()) return true;
+    if (!spazio) {
+        Manda(Fatto::Click);
+        return true;
     }
-    if (Origine().tipo == Genere::Etichetta) return *new Dipinto<QLabel>(*this, padre);
-    return *new Dipinto<QWidget>(*this, padre);
+    premutaDaTasto_ = true;
+    Sporca();
+    return true;
 }
 
-void VistaDipinta::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
-    if (Stato().Ha("lettera")) return DipingiLettera(p, area, Stato(), Scala(), tocco);
-    if (Stato().Ha("pulsante")) return DipingiBottone(p, area, Stato(), Scala(), tocco);
-    const Aspetto aspetto = Acceso(Stato());
-    DipingiFondo(p, area, aspetto, Scala(), tocco);
-    if (Stato().Ha("ornamento")) DipingiOrnamento(p, area, Scala());
-    const bool finestra = Origine().tipo == Genere::Finestra;
-    if (!finestra) DipingiTesto(p, area, aspetto, Scala(), tocco.abilitato);
-    if (tocco.fuoco) DipingiAnello(p, area, Scala());
+bool VistaDipinta::LasciaTasto(const QKeyEvent& tasto) {
+    if (!premutaDaTasto_ || tasto.key() != Qt::Key_Space) return false;
+    if (tasto.isAutoRepeat()) return true;
+    premutaDaTasto_ = false;
+    Sporca();
+    Manda(Fatto::Click);
+    return true;
+}
+
+void VistaDipinta::Rinuncia() {
+    premutaDaTasto_ = false;
+}
+
+void VistaDipinta::Sporca() const {
+    FacciaDove().update(Ritaglio());
+}
+
+Accessibile& VistaDipinta::PerLettore() {
+    if (!lettore_) lettore_ = QAccessible::registerAccessibleInterface(new Accessibile(*this));
+    return *static_cast<Accessibile*>(QAccessible::accessibleInterface(lettore_));
+}
+
+void VistaDipinta::Prepara(Nome nome) {
+    if (EMisura(nome)) Sporca();
 }
 
 void VistaDipinta::Rinfresca(Nome nome) {
-    // The text stands in the widget for a screen reader; it is the painter that shows it.
-    if (nome == Nome::Caption)
-        if (auto* etichetta = qobject_cast<QLabel*>(Widget()))
-            etichetta->setText(SenzaAccesso(Stato().caption));
-    Vista::Rinfresca(nome);
+    if (nome == Nome::ToolTipText) return;
+    Sporca();
+    if (nome != Nome::Visible && nome != Nome::Enabled && nome != Nome::Ascolti) return;
+    DiStatoCambiato(*this);
+    FacciaDove().Controlla();
 }
 
-void VistaSpiegazione::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
-    Aspetto aspetto = Stato();
-    aspetto.caption = aspetto.text.replace(QLatin1Char('&'), QLatin1String("&&"));
-    DipingiFondo(p, area, aspetto, Scala(), tocco);
-    DipingiTesto(p, area, aspetto, Scala(), tocco.abilitato);
+void VistaDipinta::Riscala() {
+    if (faccia_) faccia_->update();
 }
 
-void VistaSpiegazione::Rinfresca(Nome nome) {
-    if (nome == Nome::Text) Widget()->setAccessibleName(Stato().text);
-    VistaDipinta::Rinfresca(nome);
-}
-
-void VistaColonne::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
-    const QStringList parole = SenzaAccesso(Stato().caption).split(QLatin1Char('-'));
-    const double passo = area.width() / static_cast<double>(parole.size());
-    for (qsizetype i = 0; i < parole.size(); ++i) {
-        Aspetto una = Stato();
-        una.caption = parole[i].trimmed();
-        una.stile << QStringLiteral("centro") << QStringLiteral("mezzo");
-        const QRectF colonna(area.x() + static_cast<double>(i) * passo, area.y(), passo,
-                             area.height());
-        if (Stato().Ha("tasti")) DipingiTasto(p, colonna, Scala());
-        DipingiTesto(p, colonna, una, Scala(), tocco.abilitato);
-    }
-}
-
-void VistaIcona::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
-    DipingiFondo(p, area, Stato(), Scala(), tocco);
-    DipingiIcona(p, area, Stato().stile, tocco);
-    if (tocco.fuoco) DipingiAnello(p, area, Scala());
+void VistaDipinta::NomeCambiato() {
+    DiNomeCambiato(*this);
 }
 
 }  // namespace corvana

@@ -1,51 +1,97 @@
-// The faces that are painted as a whole: labels, pictures, frames, and the ground of a window. One
-// that does something when it is clicked is a button to the keyboard and to a screen reader.
-// GUI thread.
+// A face that is painted: it has no widget, the face on which its control lies paints it, with all
+// that lies on it, beneath the widgets that stand there. It is told of the mouse and, where the Tab
+// key stops on it, of the keys. GUI thread.
+//
+// A control on which widgets stand gets a face of its own, and so does the ground of a window.
 #pragma once
+
+#include <QKeyEvent>
+#include <QPainter>
 
 #include "desktop/face_painter.h"
 #include "desktop/view.h"
 
 namespace corvana {
 
+class Accessibile;
+class Faccia;
+
 class VistaDipinta : public Vista {
 public:
-    VistaDipinta(const CopiaControllo& copia, Mittente mittente, QWidget& padre);
+    VistaDipinta(const CopiaControllo& copia, Mittente mittente);
+    ~VistaDipinta() override;
 
-    /// In the widget's own pixels.
-    virtual void Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco);
+    void DaiFaccia(QWidget& dove) override;
+    /// Its own face, or null.
+    Faccia* FacciaSua() const { return faccia_; }
+    /// The face that paints it; to be asked when it has been adopted.
+    Faccia& FacciaDove() const;
+    /// Its parent, where that is painted too.
+    const VistaDipinta* Sotto() const;
+
+    /// Where the control lies, in pixels of its face.
+    QRect Posto() const;
+    /// What of the face it is: there the mouse hits it.
+    virtual QRect Area() const { return Posto(); }
+    /// All that it can paint on.
+    virtual QRect Portata() const { return Area(); }
+    /// What it lies in ends it there.
+    QRect Ritaglio() const;
+    /// Of those that lie in one control, the larger lie over the smaller, and else the later over
+    /// the earlier.
+    virtual int Strato() const { return 0; }
+    /// By itself, whatever it lies in.
+    virtual bool SiVede() const { return Stato().visible; }
+    virtual bool Colpibile() const { return true; }
+    /// With all that it lies in.
+    bool InVista() const;
+    bool Abilitata() const;
+
+    /// `area` is its own, from 0, 0.
+    virtual void Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) = 0;
+
+    /// It does something when it is clicked. One that lies behind another has what is clicked
+    /// before it.
+    virtual bool Cliccabile() const;
+    /// The pointer's shape tells that there is something to do.
+    virtual bool Invita() const { return Cliccabile() || Fermata(); }
+    /// It looks different under the pointer.
+    virtual bool SenteIlPuntatore() const { return Cliccabile(); }
+    /// The pointer is there, from the upper left corner of its area.
+    virtual void Sorvola(const QPointF&) {}
+    virtual void Lasciata() {}
+    /// A key went down while it has the focus; false when it has no use for it.
+    virtual bool PremiTasto(const QKeyEvent& tasto);
+    virtual bool LasciaTasto(const QKeyEvent& tasto);
+    /// What was held down with the keyboard is let go without having been pressed.
+    virtual void Rinuncia();
+    bool PremutaDaTasto() const { return premutaDaTasto_; }
+
+    bool Fermata() const override { return Cliccabile(); }
+    bool Usabile() const override;
+    bool HaFuoco() const override;
+    void PrendiFuoco(Qt::FocusReason perche) override;
+
+    /// Its part of the face is to be painted anew.
+    void Sporca() const;
+
+    /// It is something to a screen reader.
+    virtual bool Detta() const { return Cliccabile() || !NomeDetto().isEmpty(); }
+    /// The one that has the focus, of those that share a stop of the Tab key.
+    virtual const VistaDipinta& DovEIlFuoco() const { return *this; }
+    /// What a screen reader knows of it; made when first asked for.
+    Accessibile& PerLettore();
 
 protected:
+    void Prepara(Nome nome) override;
     void Rinfresca(Nome nome) override;
+    void Riscala() override;
+    void NomeCambiato() override;
 
 private:
-    QWidget& CreaWidget(QWidget& padre);
-    bool Cliccabile() const;
-};
-
-/// A text of several lines that is only to be read: style "spiegazione" of a text box.
-class VistaSpiegazione final : public VistaDipinta {
-public:
-    using VistaDipinta::VistaDipinta;
-    void Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) override;
-
-protected:
-    void Rinfresca(Nome nome) override;
-};
-
-/// Words between dashes, each in its own column: style "colonne"; with "tasti" each looks like a
-/// key.
-class VistaColonne final : public VistaDipinta {
-public:
-    using VistaDipinta::VistaDipinta;
-    void Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) override;
-};
-
-/// A picture of the program's own set: style "icona:" and its name.
-class VistaIcona final : public VistaDipinta {
-public:
-    using VistaDipinta::VistaDipinta;
-    void Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) override;
+    Faccia* faccia_ = nullptr;
+    unsigned lettore_ = 0;  ///< what the toolkit calls it towards screen readers, 0 for not yet
+    bool premutaDaTasto_ = false;
 };
 
 }  // namespace corvana

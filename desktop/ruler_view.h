@@ -6,9 +6,24 @@
 
 namespace corvana {
 
-class VistaRegolo final : public Vista {
+class VistaRegolo final : public VistaDipinta {
 public:
-    VistaRegolo(const CopiaControllo& copia, Mittente mittente, QWidget& padre);
+    using VistaDipinta::VistaDipinta;
+
+    void Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) override;
+    bool Fermata() const override { return true; }
+    bool SenteIlPuntatore() const override { return true; }
+    void Sorvola(const QPointF& dove) override;
+    void Lasciata() override { Indica(0); }
+    bool PremiTasto(const QKeyEvent& tasto) override;
+
+private:
+    void Indica(int posizione);
+    void Sposta(int passi);
+    void Segna() const;
+
+    int sotto_ = 0;    ///< position under the pointer
+    int scelta_ = 46;  ///< position that the keyboard would mark: at first the lowest treble line
 };
 
 }  // namespace corvana

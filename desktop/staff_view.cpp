@@ -4,44 +4,46 @@
 
 namespace corvana {
 
+namespace {
+
+/// From here on everything is in twips; returns one pixel of the screen in them.
+double PassaATwips(QPainter& p, double scala) {
+    const double pixel = scala / twipsPerPixel;
+    p.scale(pixel, pixel);
+    return 1 / (pixel * p.device()->devicePixelRatioF());
+}
+
+}  // namespace
+
 void VistaPentagramma::Dipingi(QPainter& p, const QRectF& area, const Tocco&) {
-    const double scala = Scala() / twipsPerPixel;
-    const double pixel = 1 / (scala * p.device()->devicePixelRatioF());
-    p.scale(scala, scala);
-    DipingiFoglio(p, area.size() / scala, pixel);
+    const double pixel = PassaATwips(p, Scala());
+    DipingiFoglio(p, area.size() * twipsPerPixel / Scala(), pixel);
     DipingiPentagrammi(p, pixel);
-    for (const VistaNota* nota : note_)
-        if (nota->SiVede()) DipingiNota(p, nota->Posizione(), nota->Ascissa(), pixel);
 }
 
-void VistaPentagramma::Sporca(const VistaNota& nota) {
+VistaNota::VistaNota(const CopiaControllo& copia, Mittente mittente)
+    : VistaDipinta(copia, mittente), posizione_(Stato().nome.mid(1).toInt()) {}
+
+QRect VistaNota::Portata() const {
     const double scala = Scala() / twipsPerPixel;
-    const QRectF area = AreaNota(nota.Posizione(), nota.Ascissa());
-    Widget()->update(
-        QRectF(area.topLeft() * scala, area.size() * scala).toAlignedRect().adjusted(-1, -1, 1, 1));
-}
-
-VistaNota::VistaNota(const CopiaControllo& copia, Mittente mittente, VistaPentagramma& pentagramma)
-    : Vista(copia, mittente), pentagramma_(pentagramma), posizione_(Stato().nome.mid(1).toInt()) {
-    pentagramma_.Iscrivi(*this);
-}
-
-bool VistaNota::EStileDiNota(const QStringList& stile) {
-    for (const char* parola : {"maschera", "testa", "acuta"})
-        if (stile.contains(QLatin1String(parola))) return true;
-    return false;
+    const QRectF area = AreaNota(posizione_, Ascissa());
+    return QRectF(area.topLeft() * scala, area.size() * scala)
+        .translated(Area().topLeft())
+        .toAlignedRect()
+        .adjusted(-1, -1, 1, 1);
 }
 
 bool VistaNota::SiVede() const {
     return Stato().visible != Stato().Ha("maschera");
 }
 
-double VistaNota::Ascissa() const {
-    return Stato().left + Stato().width / 2.0;
+void VistaNota::Dipingi(QPainter& p, const QRectF&, const Tocco&) {
+    const double pixel = PassaATwips(p, Scala());
+    DipingiNota(p, posizione_, Ascissa(), pixel);
 }
 
-void VistaNota::Rinfresca(Nome nome) {
-    if (nome == Nome::Visible) pentagramma_.Sporca(*this);
+double VistaNota::Ascissa() const {
+    return Stato().left + Stato().width / 2.0;
 }
 
 }  // namespace corvana

@@ -22,6 +22,14 @@ inline const QColor accentoTenue{0xD6, 0xE8, 0xE6};
 inline const QColor giusto{0x2A, 0x7D, 0x3F};
 inline const QColor sbagliato{0xBF, 0x36, 0x2C};
 inline const QColor bottone{0xFF, 0xFD, 0xF8};
+
+// Of the keyboard on the screen.
+inline const QColor avorio{0xFF, 0xFE, 0xFB};
+inline const QColor frontaleTasti{0xCF, 0xC7, 0xB8};  ///< the fronts of white keys
+inline const QColor solcoTasti{0x57, 0x4F, 0x45};     ///< between them
+inline const QColor ebano{0x1C, 0x1A, 0x18};
+inline const QColor ebanoLucido{0x4A, 0x46, 0x41};
+inline const QColor ombraTasti{0, 0, 0, 0x50};
 }  // namespace tinta
 
 QPalette TavolozzaDelProgramma();

@@ -5,14 +5,26 @@
 namespace corvana {
 
 Vista::Vista(const CopiaControllo& copia, Mittente mittente)
-    : copia_(copia), mittente_(mittente), aspetto_(AspettoDa(copia)) {}
+    : copia_(copia),
+      mittente_(mittente),
+      aspetto_(AspettoDa(copia)),
+      nomeDetto_(NomeAccessibile(aspetto_)) {}
+
+void Vista::Adotta(Vista& figlia) {
+    figlia.padre_ = this;
+    figlie_.push_back(&figlia);
+}
 
 void Vista::PonWidget(QWidget& widget, QWidget* bersaglio) {
-    widget_ = &widget;
-    widget.setObjectName(aspetto_.nome);
+    PonWidgetMuto(widget);
     QWidget& udito = bersaglio ? *bersaglio : widget;
     new Mouse(udito, *this);
     udito.setMouseTracking(true);
+}
+
+void Vista::PonWidgetMuto(QWidget& widget) {
+    widget_ = &widget;
+    widget.setObjectName(aspetto_.nome);
     for (const auto& [nome, valore] : copia_.proprieta)
         RinfrescaComune(nome);
 }
@@ -27,8 +39,9 @@ void Vista::MuoviFinestra() const {
 }
 
 void Vista::Cambia(Nome nome, const Valore& valore) {
+    Prepara(nome);
     Poni(aspetto_, nome, valore);
-    if (widget_) RinfrescaComune(nome);
+    RinfrescaComune(nome);
     Rinfresca(nome);
 }
 
@@ -38,16 +51,39 @@ void Vista::Disponi(double scala) {
     Riscala();
 }
 
+bool Vista::Fermata() const {
+    return widget_ && (widget_->focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
+}
+
+bool Vista::Usabile() const {
+    return widget_ && widget_->isVisible() && widget_->isEnabled();
+}
+
+bool Vista::HaFuoco() const {
+    return widget_ && widget_->hasFocus();
+}
+
+void Vista::PrendiFuoco(Qt::FocusReason perche) {
+    if (widget_) widget_->setFocus(perche);
+}
+
+void Vista::PonNomeDetto(const QString& nome) {
+    nomeDetto_ = nome;
+    if (widget_) widget_->setAccessibleName(nome);
+    NomeCambiato();
+}
+
 void Vista::Rinfresca(Nome) {
     if (widget_) widget_->update();
 }
 
 void Vista::RinfrescaComune(Nome nome) {
+    if (nome == Nome::Caption || nome == Nome::ToolTipText) PonNomeDetto(NomeAccessibile(aspetto_));
+    if (!widget_) return;
     switch (nome) {
         case Nome::Visible: return widget_->setVisible(aspetto_.visible);
         case Nome::Enabled: return widget_->setEnabled(aspetto_.enabled);
-        case Nome::ToolTipText: widget_->setToolTip(aspetto_.toolTip); [[fallthrough]];
-        case Nome::Caption: return widget_->setAccessibleName(NomeAccessibile(aspetto_));
+        case Nome::ToolTipText: return widget_->setToolTip(aspetto_.toolTip);
         case Nome::Left:
         case Nome::Top:
         case Nome::Width:

@@ -1,53 +1,32 @@
 #include "desktop/window_view.h"
 
-#include <QCloseEvent>
-#include <QGuiApplication>
 #include <QMenuBar>
 #include <QPainterPath>
 #include <QScreen>
 #include <QShortcut>
 #include <QWindow>
 #include <algorithm>
-#include <set>
 #include <utility>
 
-#include "desktop/combo_view.h"
 #include "desktop/compositing.h"
+#include "desktop/face_table.h"
 #include "desktop/keyboard.h"
 #include "desktop/menu_painter.h"
 #include "desktop/mouse.h"
 #include "desktop/painted_view.h"
-#include "desktop/placement.h"
 #include "desktop/scale.h"
-#include "desktop/staff_view.h"
+#include "desktop/tab_order.h"
 #include "desktop/theme.h"
+#include "desktop/window_parts.h"
 
 namespace corvana {
 
 namespace {
+
 /// Below this share of the designed size the letters couldn't be read.
 constexpr double scalaMinima = 0.8;
 /// Of a rounded window's corners, at the designed size.
 constexpr double raggioFinestra = 11;
-/// False on Wayland, where a window neither knows nor chooses where it stands.
-bool DiceIPosti() {
-    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-}
-
-/// What windows may cover of the screen that has the point, or else of the window's own.
-QRect LiberoPresso(QPoint punto, const QWidget& finestra) {
-    const QScreen* schermo = QGuiApplication::screenAt(punto);
-    return (schermo ? schermo : finestra.screen())->availableGeometry();
-}
-
-/// Moves the window, and makes it smaller, so that it lies on the screen with its whole frame.
-void Contieni(QWidget& finestra) {
-    const QRect cornice = finestra.windowHandle()->frameGeometry();
-    const QRect giusta = DentroSchermo(cornice, finestra.screen()->availableGeometry());
-    if (giusta == cornice || finestra.isMaximized() || finestra.isFullScreen()) return;
-    finestra.resize(finestra.size() + giusta.size() - cornice.size());
-    finestra.windowHandle()->setFramePosition(giusta.topLeft());
-}
 
 /// What is to be seen of a rounded window: its face without the corners.
 QRegion Sagoma(const QWidget& faccia, double scala) {
@@ -58,40 +37,6 @@ QRegion Sagoma(const QWidget& faccia, double scala) {
     return sagoma.translated(faccia.mapTo(faccia.window(), QPoint()));
 }
 
-}  // namespace
-
-/// The window itself: what the system does to it goes to its view.
-class Guscio final : public QMainWindow {
-public:
-    explicit Guscio(VistaFinestra& vista) : vista_(vista) {}
-
-protected:
-    void closeEvent(QCloseEvent* evento) override {
-        vista_.ChiediChiusura();
-        evento->ignore();
-    }
-    bool eventFilter(QObject* oggetto, QEvent* evento) override {
-        switch (evento->type()) {
-            case QEvent::Resize:
-                if (oggetto == centralWidget()) vista_.Disponi();
-                break;
-            // The frame may become known after the last move: looked at again at the next occasion.
-            case QEvent::Move:
-            case QEvent::Expose:
-            case QEvent::FocusIn:
-                if (oggetto == windowHandle()) vista_.PrendiPosto();
-                break;
-            default: break;
-        }
-        return QMainWindow::eventFilter(oggetto, evento);
-    }
-
-private:
-    VistaFinestra& vista_;
-};
-
-namespace {
-
 void ApriPrimoMenu(QMenuBar& sbarra) {
     const auto voci = sbarra.actions();
     const auto prima = std::find_if(voci.begin(), voci.end(), [](const QAction* voce) {
@@ -100,57 +45,79 @@ void ApriPrimoMenu(QMenuBar& sbarra) {
     if (prima != voci.end()) sbarra.setActiveAction(*prima);
 }
 
-std::set<int> Padri(const std::vector<CopiaControllo>& controlli) {
-    std::set<int> padri;
-    for (const CopiaControllo& c : controlli)
-        if (c.tipo == Genere::VoceMenu) padri.insert(c.padre);
-    return padri;
-}
-
-QWidget& CentroDi(QMainWindow& finestra) {
-    auto* centro = new QWidget(&finestra);
-    centro->setAutoFillBackground(true);
-    finestra.setCentralWidget(centro);
-    centro->installEventFilter(&finestra);
-    return *centro;
-}
-
 }  // namespace
 
 VistaFinestra::VistaFinestra(const MostraFinestra& comando, CodaEventi& coda, Tastiera& tastiera,
                              VistaFinestra* sotto)
     : identita_(comando.finestra),
       mittente_(coda, comando.finestra),
-      finestra_(std::make_unique<Guscio>(*this)) {
-    CentroDi(*finestra_);
+      finestra_(std::make_unique<Guscio>(Casi())),
+      posto_(*finestra_, mittente_) {
     CreaTutti(comando.controlli, tastiera);
-    OrdinaFuoco();
+    Intitola();
+    if (viste_.front()->Stato().Ha("arrotondata")) Arrotonda();
+    PonPuntatore();
     Ridimensiona();
     if (sotto) Lega(*sotto, comando.modale);
-    Colloca(comando.collocata, sotto);
+    const QPoint detto = viste_.front()->Stato().Twips().topLeft() / twipsPerPixel;
+    posto_.Colloca(comando.collocata ? &detto : nullptr, sotto ? sotto->finestra_.get() : nullptr);
     Apri(comando.modale, sotto);
     tastiera.Segui(*finestra_->windowHandle(), mittente_);
 }
 
 VistaFinestra::~VistaFinestra() = default;
 
+CasiFinestra VistaFinestra::Casi() {
+    return {.chiusura = [this] { mittente_.Manda(0, Fatto::Chiudi); },
+            .misura = [this] { Disponi(); },
+            .posto = [this] { posto_.Guarda(); },
+            .prossima = [this](bool avanti) { return Avanza(avanti); }};
+}
+
+bool VistaFinestra::Avanza(bool avanti) {
+    Vista* fermata = ProssimaFermata(viste_, avanti);
+    if (fermata) fermata->PrendiFuoco(avanti ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return fermata != nullptr;
+}
+
 void VistaFinestra::CreaTutti(const std::vector<CopiaControllo>& controlli, Tastiera& tastiera) {
-    const std::set<int> padri = Padri(controlli);
-    const bool conMenu = padri.contains(0);
+    const std::set<int> menus = VociConVoci(controlli), facce = ConWidget(controlli);
     const Menu menu{*finestra_->menuBar(), [&tastiera] { tastiera.Perdi(); }};
-    menu.sbarra.setVisible(conMenu);
+    menu.sbarra.setVisible(menus.contains(0));
     auto* effeDieci = new QShortcut(Qt::Key_F10, finestra_.get());
     QObject::connect(effeDieci, &QShortcut::activated, &menu.sbarra,
                      [&sbarra = menu.sbarra] { ApriPrimoMenu(sbarra); });
     for (const CopiaControllo& copia : controlli)
-        Crea(copia, menu, padri.contains(copia.numero));
+        if (EDiMenu(copia))
+            CreaVoce(copia, menu, menus.contains(copia.numero));
+        else
+            CreaControllo(copia, menu, facce.contains(copia.numero));
     nomi_ = std::make_unique<Nominatore>(viste_);
-    if (viste_.front()->Stato().Ha("arrotondata")) Arrotonda();
-    finestra_->setWindowTitle(viste_.front()->Stato().caption);
-    finestra_->setObjectName(viste_.front()->Stato().nome);
+}
+
+void VistaFinestra::CreaVoce(const CopiaControllo& copia, const Menu& menu, bool haVoci) {
+    Vista* padre = Controllo(copia.padre);
+    const bool sotto = padre && EDiMenu(padre->Origine());
+    viste_.push_back(std::make_unique<VistaVoce>(
+        copia, mittente_, menu, sotto ? static_cast<VistaVoce*>(padre) : nullptr, haVoci));
+}
+
+void VistaFinestra::CreaControllo(const CopiaControllo& copia, const Menu& menu, bool conFaccia) {
+    Vista* padre = Controllo(copia.padre);
+    QWidget* faccia = padre ? padre->Widget() : nullptr;
+    QWidget& dove = faccia ? *faccia : *finestra_->centralWidget();
+    Vista& vista = *viste_.emplace_back(CreaVista(copia, mittente_, dove));
+    if (padre) padre->Adotta(vista);
+    vista.PonApertura(menu.apertura);
+    if (conFaccia) vista.DaiFaccia(dove);
+}
+
+void VistaFinestra::Intitola() {
+    const Aspetto& aspetto = viste_.front()->Stato();
+    finestra_->setWindowTitle(aspetto.caption);
+    finestra_->setObjectName(aspetto.nome);
     // Where the platform has it, whoever looks from outside tells the windows apart by this.
-    finestra_->setWindowRole(viste_.front()->Stato().nome);
-    PonPuntatore();
+    finestra_->setWindowRole(aspetto.nome);
 }
 
 void VistaFinestra::Arrotonda() {
@@ -176,49 +143,9 @@ void VistaFinestra::Lega(const VistaFinestra& sotto, bool modale) {
     if (modale) finestra_->setWindowModality(Qt::WindowModal);
 }
 
-void VistaFinestra::Colloca(bool detto, const VistaFinestra* finestraSotto) {
-    const bool nuda = finestra_->windowFlags() & Qt::FramelessWindowHint;
-    // Its own frame isn't there yet; that of the window beneath is the window manager's, too.
-    const QWindow* vicina = finestraSotto ? finestraSotto->finestra_->windowHandle() : nullptr;
-    const QMargins cornice = vicina && !nuda ? vicina->frameMargins() : QMargins();
-    const QSize misura = finestra_->size().grownBy(cornice);
-    const QPoint posto = viste_.front()->Stato().Twips().topLeft() / twipsPerPixel;
-    const QRect sotto = vicina ? vicina->frameGeometry() : QRect();
-    const QRect libero = LiberoPresso(detto ? posto : sotto.center(), *finestra_);
-    if (detto)
-        finestra_->move(DentroSchermo({posto, misura}, libero).topLeft());
-    else if (vicina)
-        finestra_->move(AlCentro(misura, sotto, libero).topLeft());
-}
-
-void VistaFinestra::Crea(const CopiaControllo& copia, const Menu& menu, bool haVoci) {
-    Vista* padre = Controllo(copia.padre);
-    if (copia.tipo == Genere::VoceMenu || copia.tipo == Genere::MenuContestuale) {
-        viste_.push_back(std::make_unique<VistaVoce>(copia, mittente_, menu,
-                                                     dynamic_cast<VistaVoce*>(padre), haVoci));
-        return;
-    }
-    QWidget* dove = padre ? padre->Contenitore() : nullptr;
-    viste_.push_back(
-        CreaVista(copia, mittente_, dove ? *dove : *finestra_->centralWidget(), pentagramma_));
-    if (auto* staff = dynamic_cast<VistaPentagramma*>(viste_.back().get())) pentagramma_ = staff;
-    if (auto* combo = dynamic_cast<VistaCombo*>(viste_.back().get()))
-        combo->PonApertura(menu.apertura);
-}
-
 Vista* VistaFinestra::Controllo(int numero) {
     const auto indice = static_cast<std::size_t>(numero);
     return numero >= 0 && indice < viste_.size() ? viste_[indice].get() : nullptr;
-}
-
-void VistaFinestra::OrdinaFuoco() {
-    QWidget* prima = nullptr;
-    for (const auto& vista : viste_) {
-        QWidget* widget = vista->Widget();
-        if (!widget || widget->focusPolicy() == Qt::NoFocus) continue;
-        if (prima) QWidget::setTabOrder(prima, widget);
-        prima = widget;
-    }
 }
 
 QSize VistaFinestra::Disegnata() const {
@@ -245,6 +172,7 @@ void VistaFinestra::PonScalaFaccia(double scala) {
 }
 
 void VistaFinestra::Disponi() {
+    if (viste_.empty()) return;
     const QSize disegnata = Disegnata();
     if (disegnata.isEmpty()) return;
     // Reckoned from the whole window: the bar grows with the face, and leaves it the rest.
@@ -269,32 +197,12 @@ void VistaFinestra::Apri(bool modale, const VistaFinestra* sotto) {
     if (!modale) finestra_->centralWidget()->setFocus();
     finestra_->winId();
     if (sotto) finestra_->windowHandle()->setTransientParent(sotto->finestra_->windowHandle());
-    finestra_->windowHandle()->installEventFilter(finestra_.get());
+    finestra_->Segui();
     topo_ = new TopoFinestra(*finestra_->windowHandle(), *viste_.front());
     finestra_->show();
     finestra_->raise();
     finestra_->activateWindow();
-}
-
-void VistaFinestra::PrendiPosto() {
-    const QWindow& vera = *finestra_->windowHandle();
-    // Where the platform doesn't tell places, it finds good ones itself.
-    if (!vera.isExposed() || !DiceIPosti()) return;
-    if (!std::exchange(intera_, true)) Contieni(*finestra_);
-    const QPoint posto = vera.framePosition() * twipsPerPixel;
-    if (posto == std::exchange(posto_, posto)) return;
-    Evento evento;
-    evento.fatto = Fatto::Spostata;
-    evento.x = posto.x();
-    evento.y = posto.y();
-    mittente_.Manda(std::move(evento));
-}
-
-void VistaFinestra::Sposta(Nome nome, int twips) {
-    nome == Nome::Left ? posto_.setX(twips) : posto_.setY(twips);
-    const QRect cornice(posto_ / twipsPerPixel, finestra_->frameGeometry().size());
-    finestra_->windowHandle()->setFramePosition(
-        DentroSchermo(cornice, LiberoPresso(cornice.topLeft(), *finestra_)).topLeft());
+    if (modale) Avanza(true);
 }
 
 void VistaFinestra::Cambia(int numero, Nome nome, const Valore& valore) {
@@ -306,7 +214,7 @@ void VistaFinestra::Cambia(int numero, Nome nome, const Valore& valore) {
     if (numero != 0) return;
     if (nome == Nome::Caption) finestra_->setWindowTitle(vista->Stato().caption);
     if (nome == Nome::MousePointer) PonPuntatore();
-    if (nome == Nome::Left || nome == Nome::Top) Sposta(nome, std::get<int>(valore));
+    if (nome == Nome::Left || nome == Nome::Top) posto_.Sposta(nome, std::get<int>(valore));
     if (misura) Ridimensiona();
     Disponi();
 }
@@ -319,12 +227,12 @@ void VistaFinestra::PonPuntatore() {
 }
 
 void VistaFinestra::DaiFuoco(int numero) {
-    Vista* vista = Controllo(numero);
-    if (vista && vista->Widget()) vista->Widget()->setFocus(Qt::OtherFocusReason);
+    if (Vista* vista = Controllo(numero)) vista->PrendiFuoco(Qt::OtherFocusReason);
 }
 
 void VistaFinestra::ApriMenu(int numero) {
-    if (auto* menu = dynamic_cast<VistaVoce*>(Controllo(numero))) menu->Apri(topo_->PostoMenu());
+    Vista* menu = Controllo(numero);
+    if (menu && EDiMenu(menu->Origine())) static_cast<VistaVoce*>(menu)->Apri(topo_->PostoMenu());
 }
 
 }  // namespace corvana

@@ -1,21 +1,21 @@
 // One showing of a form as a real window: its menu bar, and its controls on a face that grows with
 // the window. It belongs to the window beneath: the window manager keeps it in front of that one.
-// GUI thread. Closing it only asks the logic, which closes it by destroying this; moving it is told
-// to the logic.
+// GUI thread. Closing it only asks the logic, which closes it by destroying this.
 #pragma once
 
-#include <QMainWindow>
-#include <map>
 #include <memory>
 #include <vector>
 
 #include "desktop/menu_view.h"
 #include "desktop/naming.h"
 #include "desktop/view.h"
+#include "desktop/window_place.h"
+#include "desktop/window_shell.h"
 
 namespace corvana {
 
 class Tastiera;
+class TopoFinestra;
 
 class VistaFinestra {
 public:
@@ -35,28 +35,24 @@ public:
     void DaiFuoco(int numero);
     /// Opens the context menu of that number.
     void ApriMenu(int numero);
-    void ChiediChiusura() const { mittente_.Manda(0, Fatto::Chiudi); }
 
 private:
-    friend class Guscio;
-    void Crea(const CopiaControllo& copia, const Menu& menu, bool haVoci);
+    CasiFinestra Casi();
     void CreaTutti(const std::vector<CopiaControllo>& controlli, Tastiera& tastiera);
+    void CreaVoce(const CopiaControllo& copia, const Menu& menu, bool haVoci);
+    void CreaControllo(const CopiaControllo& copia, const Menu& menu, bool conFaccia);
+    void Intitola();
     /// Without the system's frame; the face paints its own round corners.
     void Arrotonda();
-    void OrdinaFuoco();
     void PonPuntatore();
     void Lega(const VistaFinestra& sotto, bool modale);
-    /// Says where the window is to appear.
-    void Colloca(bool detto, const VistaFinestra* finestraSotto);
     void Apri(bool modale, const VistaFinestra* sotto);
     /// The face as large as the window lets it be, in its middle.
     void Disponi();
     void Ridimensiona();
     QSize Disegnata() const;
-    /// The platform has put the window somewhere.
-    void PrendiPosto();
-    /// The logic wants it elsewhere.
-    void Sposta(Nome nome, int twips);
+    /// The Tab key's next stop takes the focus; false where there is none.
+    bool Avanza(bool avanti);
     /// Of the menu bar at the designed size; 0 without one.
     int AltezzaSbarra() const;
     void PonScalaFaccia(double scala);
@@ -66,13 +62,11 @@ private:
     // The widgets must go first: some still tell their views that they lose the focus.
     std::vector<std::unique_ptr<Vista>> viste_;
     std::unique_ptr<Nominatore> nomi_;
-    class VistaPentagramma* pentagramma_ = nullptr;
-    std::unique_ptr<QMainWindow> finestra_;
-    class TopoFinestra* topo_ = nullptr;
-    double scala_ = 0;       ///< not laid out yet
-    QPoint posto_;           ///< twips, as the logic knows it
-    bool intera_ = false;    ///< it was made sure that it lies on the screen as a whole
-    bool sagomata_ = false;  ///< its corners are cut off, since they can't be transparent
+    std::unique_ptr<Guscio> finestra_;
+    PostoFinestra posto_;
+    TopoFinestra* topo_ = nullptr;  ///< the native window's
+    double scala_ = 0;              ///< not laid out yet
+    bool sagomata_ = false;         ///< its corners are cut off, since they can't be transparent
 };
 
 }  // namespace corvana

@@ -38,6 +38,18 @@ constexpr Rettangolo PostoTasto(int tasto) {
     return TastoNero(tasto) ? Rettangolo{left, 90, 135, 300} : Rettangolo{left, 435, 195, 300};
 }
 
+/// All that is to be seen of a key, but for what the black keys cover.
+constexpr Rettangolo TastoIntero(int tasto) {
+    constexpr int alto = 90, bordo = 735, bordoNeri = 425;
+    const Rettangolo posto = PostoTasto(tasto);
+    if (TastoNero(tasto)) return {posto.left, alto, posto.width, bordoNeri - alto};
+    // White keys meet in the middle between their labels.
+    constexpr auto confine = [](int bianco) { return 17 + (bianco * larghezzaOttava + 3) / 7; };
+    constexpr std::array bianchi = {0, 0, 1, 1, 2, 3, 3, 4, 4, 5, 5, 6};
+    const int bianco = tasto / 12 * 7 + bianchi[static_cast<std::size_t>(tasto % 12)];
+    return {confine(bianco), alto, confine(bianco + 1) - confine(bianco), bordo - alto};
+}
+
 /// The mark of a key: under a white one, above a black one.
 constexpr Rettangolo PostoBarra(int tasto) {
     constexpr int larghezza = 165;

@@ -18,11 +18,9 @@ public:
     Fotografo(Scrivania& scrivania, const char* cartella)
         : scrivania_(scrivania), cartella_(QString::fromLocal8Bit(cartella)) {}
 
-    QWidget& Di(const char* nome) { return Trova(scrivania_, QString::fromUtf8(nome)); }
+    Cosa Di(const char* nome) { return Trova(scrivania_, QString::fromUtf8(nome)); }
     const Aspetto& Stato(const char* nome) { return StatoDi(scrivania_, QString::fromUtf8(nome)); }
-    QString Testo(const char* bottone) {
-        return dynamic_cast<QAbstractButton&>(Di(bottone)).text();
-    }
+    QString Testo(const char* bottone) { return Di(bottone).Come<QAbstractButton>().text(); }
     void Premi(const char* nome) { Clicca(scrivania_, QString::fromUtf8(nome)); }
     void Scegli(const char* voce) { TrovaVoce(scrivania_, QString::fromUtf8(voce)).trigger(); }
     void Attendi(const char* finestra) { AspettaFinestra(scrivania_, QLatin1String(finestra)); }
@@ -46,8 +44,8 @@ public:
 
 private:
     QRect Posto(const char* nome) {
-        QWidget& widget = Di(nome);
-        return {widget.mapTo(widget.window(), QPoint()), widget.size()};
+        const Cosa cosa = Di(nome);
+        return {cosa.NellaFinestra(QPoint()), cosa.rect().size()};
     }
     void Salva(const QImage& foto, const char* nome) const {
         const QString file = QDir(cartella_).filePath(QLatin1String(nome) + ".png");

@@ -31,11 +31,11 @@ PalcoProgramma::~PalcoProgramma() {
 }
 
 QString PalcoProgramma::Testo(const char* casella) {
-    return dynamic_cast<QLineEdit&>(Trova(scrivania, QLatin1String(casella))).text();
+    return Trova(scrivania, QLatin1String(casella)).Come<QLineEdit>().text();
 }
 
 QString PalcoProgramma::Scritta(const char* bottone) {
-    return dynamic_cast<QAbstractButton&>(Trova(scrivania, QLatin1String(bottone))).text();
+    return Trova(scrivania, QLatin1String(bottone)).Come<QAbstractButton>().text();
 }
 
 int PalcoProgramma::Risposte() {

@@ -6,6 +6,8 @@
 #include <QWindow>
 #include <stdexcept>
 
+#include "desktop/face.h"
+#include "desktop/face_reader.h"
 #include "desktop/menu_painter.h"
 
 namespace corvana::prova {
@@ -30,10 +32,47 @@ bool Aspetta(const std::function<bool()>& condizione) {
     return QTest::qWaitFor(condizione, pazienza);
 }
 
-QWidget& Trova(Scrivania& scrivania, const QString& nome) {
-    auto* widget = Davanti(scrivania).Finestra().findChild<QWidget*>(nome);
-    if (!widget) throw Manca(nome);
-    return *widget;
+bool Cosa::isVisible() const {
+    const auto* dipinta = dynamic_cast<const VistaDipinta*>(vista_);
+    return dipinta ? dipinta->InVista() && dipinta->FacciaDove().isVisible()
+                   : vista_->Widget()->isVisible();
+}
+
+bool Cosa::isEnabled() const {
+    const auto* dipinta = dynamic_cast<const VistaDipinta*>(vista_);
+    return dipinta ? dipinta->Abilitata() : vista_->Widget()->isEnabled();
+}
+
+QAccessibleInterface* Cosa::PerLettore() const {
+    if (QWidget* widget = vista_->Widget()) return QAccessible::queryAccessibleInterface(widget);
+    return &dynamic_cast<VistaDipinta&>(*vista_).PerLettore();
+}
+
+QRect Cosa::rect() const {
+    if (QWidget* widget = vista_->Widget()) return widget->rect();
+    return {QPoint(), dynamic_cast<const VistaDipinta&>(*vista_).Area().size()};
+}
+
+QPoint Cosa::NellaFinestra(QPoint dove) const {
+    if (!vista_->Widget()) dove += dynamic_cast<const VistaDipinta&>(*vista_).Area().topLeft();
+    return Suolo().mapTo(Suolo().window(), dove);
+}
+
+QWidget& Cosa::Suolo() const {
+    if (QWidget* widget = vista_->Widget()) return *widget;
+    return dynamic_cast<const VistaDipinta&>(*vista_).FacciaDove();
+}
+
+Cosa::operator QWidget&() const {
+    if (QWidget* widget = vista_->Widget()) return *widget;
+    throw std::logic_error(objectName().toStdString() + " is no widget");
+}
+
+Cosa Trova(Scrivania& scrivania, const QString& nome) {
+    VistaFinestra& davanti = Davanti(scrivania);
+    for (int numero = 0; Vista* vista = davanti.Controllo(numero); ++numero)
+        if (vista->Stato().nome == nome) return Cosa(*vista);
+    throw Manca(nome);
 }
 
 QAction& TrovaVoce(Scrivania& scrivania, const QString& nome) {
@@ -43,10 +82,7 @@ QAction& TrovaVoce(Scrivania& scrivania, const QString& nome) {
 }
 
 const Aspetto& StatoDi(Scrivania& scrivania, const QString& nome) {
-    VistaFinestra& davanti = Davanti(scrivania);
-    for (int numero = 0; const Vista* vista = davanti.Controllo(numero); ++numero)
-        if (vista->Stato().nome == nome) return vista->Stato();
-    throw Manca(nome);
+    return Trova(scrivania, nome).LaVista().Stato();
 }
 
 void Ingrandisci(VistaFinestra& finestra, double volte) {
@@ -71,8 +107,12 @@ VistaFinestra& AspettaFinestra(Scrivania& scrivania, const QString& nome) {
 }
 
 void Clicca(Scrivania& scrivania, const QString& nome) {
-    QWidget& widget = Trova(scrivania, nome);
-    Clicca(widget, widget.rect().center());
+    const Cosa cosa = Trova(scrivania, nome);
+    Clicca(cosa, cosa.rect().center());
+}
+
+void Clicca(const Cosa& cosa, QPoint dove) {
+    QTest::mouseClick(cosa.window()->windowHandle(), Qt::LeftButton, {}, cosa.NellaFinestra(dove));
 }
 
 void Clicca(QWidget& widget, QPoint dove) {
@@ -85,6 +125,10 @@ void Muovi(QWidget& widget, QPoint dove) {
     // The pointer may lie there already, and what doesn't move isn't told.
     QTest::mouseMove(finestra, QPoint(0, 0));
     QTest::mouseMove(finestra, widget.mapTo(widget.window(), dove));
+}
+
+void Muovi(const Cosa& cosa, QPoint dove) {
+    Muovi(*cosa.window(), cosa.NellaFinestra(dove));
 }
 
 void Premi(Scrivania& scrivania, Qt::Key tasto, Qt::KeyboardModifiers modificatori) {
@@ -106,6 +150,10 @@ QImage Fotografa(Scrivania& scrivania) {
 
 QImage Fotografa(QWidget& widget) {
     return widget.grab().toImage();
+}
+
+QImage Fotografa(const Cosa& cosa) {
+    return cosa.window()->grab(QRect(cosa.NellaFinestra(QPoint()), cosa.rect().size())).toImage();
 }
 
 }  // namespace corvana::prova

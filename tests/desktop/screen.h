@@ -2,6 +2,7 @@
 // GUI thread.
 #pragma once
 
+#include <QAccessible>
 #include <QImage>
 #include <QPoint>
 #include <QString>
@@ -15,8 +16,45 @@ namespace corvana::prova {
 /// Runs the Qt loop until the condition holds; false when it doesn't within a generous time.
 bool Aspetta(const std::function<bool()>& condizione);
 
-/// The widget of the control of that name in the window in front; throws when there is none.
-QWidget& Trova(Scrivania& scrivania, const QString& nome);
+/// A control as the user meets it, whether it is a widget or painted on a face.
+class Cosa {
+public:
+    explicit Cosa(Vista& vista) : vista_(&vista) {}
+
+    Vista& LaVista() const { return *vista_; }
+    QString objectName() const { return vista_->Stato().nome; }
+    bool isVisible() const;
+    bool isEnabled() const;
+    bool hasFocus() const { return vista_->HaFuoco(); }
+    void setFocus(Qt::FocusReason perche = Qt::OtherFocusReason) const {
+        vista_->PrendiFuoco(perche);
+    }
+    bool Fermata() const { return vista_->Fermata(); }
+    QString toolTip() const { return vista_->Stato().toolTip; }
+    QString accessibleName() const { return vista_->NomeDetto(); }
+    /// What a screen reader is given of it.
+    QAccessibleInterface* PerLettore() const;
+    QRect rect() const;
+    int width() const { return rect().width(); }
+    int height() const { return rect().height(); }
+    QWidget* window() const { return Suolo().window(); }
+    /// A place in it, as one in its window.
+    QPoint NellaFinestra(QPoint dove) const;
+    /// The widget itself, or else what it is painted on.
+    QWidget& Suolo() const;
+    /// Of one that is a widget; throws for any other.
+    operator QWidget&() const;  // NOLINT(google-explicit-constructor): it is one
+    template <class T>
+    T& Come() const {
+        return dynamic_cast<T&>(static_cast<QWidget&>(*this));
+    }
+
+private:
+    Vista* vista_;
+};
+
+/// The control of that name in the window in front; throws when there is none.
+Cosa Trova(Scrivania& scrivania, const QString& nome);
 /// The same for a menu entry.
 QAction& TrovaVoce(Scrivania& scrivania, const QString& nome);
 /// What the face knows of a control of the window in front, one without a widget too.
@@ -29,9 +67,11 @@ VistaFinestra& AspettaFinestra(Scrivania& scrivania, const QString& nome);
 /// Clicks the control in its middle, or at a place in it given in pixels.
 void Clicca(Scrivania& scrivania, const QString& nome);
 void Clicca(QWidget& widget, QPoint dove);
+void Clicca(const Cosa& cosa, QPoint dove);
 
 /// Brings the pointer there, with no button down.
 void Muovi(QWidget& widget, QPoint dove);
+void Muovi(const Cosa& cosa, QPoint dove);
 
 /// A key of the window in front goes down, up, or both, as the system would tell it.
 void Premi(Scrivania& scrivania, Qt::Key tasto, Qt::KeyboardModifiers modificatori = {});
@@ -41,5 +81,7 @@ void Batti(Scrivania& scrivania, Qt::Key tasto, Qt::KeyboardModifiers modificato
 /// What the window in front shows, in the screen's pixels.
 QImage Fotografa(Scrivania& scrivania);
 QImage Fotografa(QWidget& widget);
+/// With what lies beneath it.
+QImage Fotografa(const Cosa& cosa);
 
 }  // namespace corvana::prova

@@ -37,7 +37,7 @@ public:
     }
     /// Of what is photographed from now on, the beginning of the names.
     void PonLingua(const QString& lingua) { lingua_ = lingua; }
-    QWidget& Di(const char* nome) { return Trova(scrivania_, QString::fromUtf8(nome)); }
+    Cosa Di(const char* nome) { return Trova(scrivania_, QString::fromUtf8(nome)); }
     void Scegli(const char* voce) {
         TrovaVoce(scrivania_, QString::fromUtf8(voce)).trigger();
         Respira();

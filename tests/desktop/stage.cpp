@@ -58,7 +58,7 @@ void Palco::NellaLogica(std::function<void(FormDiProva&)> azione) {
         if (azione) azione(form);
         form.servizio.ToolTipText = giro;
     });
-    const QWidget& servizio = Trova(scrivania, QStringLiteral("servizio"));
+    const Cosa servizio = Trova(scrivania, QStringLiteral("servizio"));
     Aspetta([&] { return servizio.toolTip().toStdString() == giro; });
 }
 

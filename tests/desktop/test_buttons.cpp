@@ -12,9 +12,9 @@ namespace corvana::prova {
 namespace {
 
 void FaiDoppioClick(Scrivania& scrivania, const QString& nome) {
-    QWidget& widget = Trova(scrivania, nome);
+    const Cosa widget = Trova(scrivania, nome);
     QWindow* finestra = widget.window()->windowHandle();
-    const QPoint dove = widget.mapTo(widget.window(), widget.rect().center());
+    const QPoint dove = widget.NellaFinestra(widget.rect().center());
     QTest::mouseDClick(finestra, Qt::LeftButton, {}, dove);
 }
 
@@ -74,9 +74,9 @@ TEST(Etichetta, ADoubleClickIsDownUpClickDoubleClickUp) {
 
 TEST(Etichetta, OneThatCanBeClickedIsAButtonToTheKeyboardAndToAScreenReader) {
     Palco palco;
-    QWidget& toccabile = Trova(palco.scrivania, "toccabile");
-    EXPECT_TRUE(toccabile.focusPolicy() & Qt::TabFocus);
-    const auto* accessibile = QAccessible::queryAccessibleInterface(&toccabile);
+    const Cosa toccabile = Trova(palco.scrivania, "toccabile");
+    EXPECT_TRUE(toccabile.Fermata());
+    const auto* accessibile = toccabile.PerLettore();
     ASSERT_TRUE(accessibile);
     EXPECT_EQ(accessibile->role(), QAccessible::Button);
     EXPECT_EQ(accessibile->text(QAccessible::Name), "Mostra il nome");
@@ -108,17 +108,17 @@ TEST(Bottone, EnterHeldDownIsOneClick) {
 
 TEST(Etichetta, APlainOneIsTextToAScreenReaderAndNoStopOfTheTabKey) {
     Palco palco;
-    QWidget& scritta = Trova(palco.scrivania, "scritta");
-    const auto* accessibile = QAccessible::queryAccessibleInterface(&scritta);
+    const Cosa scritta = Trova(palco.scrivania, "scritta");
+    const auto* accessibile = scritta.PerLettore();
     ASSERT_TRUE(accessibile);
     EXPECT_EQ(accessibile->role(), QAccessible::StaticText);
     EXPECT_EQ(accessibile->text(QAccessible::Name), "Una scritta");
-    EXPECT_EQ(scritta.focusPolicy(), Qt::NoFocus);
+    EXPECT_FALSE(scritta.Fermata());
 }
 
 TEST(Spunta, AClickTellsItsNewStateAndTheLogicCanSetItSilently) {
     Palco palco;
-    auto& spunta = dynamic_cast<QCheckBox&>(Trova(palco.scrivania, "spunta"));
+    auto& spunta = Trova(palco.scrivania, "spunta").Come<QCheckBox>();
     spunta.click();
     EXPECT_EQ(palco.Diario(), (Righe{"spunta click"}));
     palco.NellaLogica([](FormDiProva& form) {

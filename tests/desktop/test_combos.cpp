@@ -16,7 +16,7 @@ namespace corvana::prova {
 namespace {
 
 QComboBox& ComboDi(Palco& palco) {
-    return dynamic_cast<QComboBox&>(Trova(palco.scrivania, "combo"));
+    return Trova(palco.scrivania, "combo").Come<QComboBox>();
 }
 
 bool Aperta() {

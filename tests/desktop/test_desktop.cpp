@@ -31,7 +31,7 @@ TEST(Scrivania, ThePointerSaysThatTheWindowIsBusy) {
     Palco palco([](FormDiProva& form) { form.MousePointer = puntatoreAttesa; });
     QMainWindow& finestra = palco.scrivania.Davanti()->Finestra();
     EXPECT_EQ(finestra.cursor().shape(), Qt::WaitCursor);
-    EXPECT_EQ(Trova(palco.scrivania, "scritta").cursor().shape(), Qt::WaitCursor);
+    EXPECT_EQ(Trova(palco.scrivania, "scritta").Suolo().cursor().shape(), Qt::WaitCursor);
     palco.NellaLogica([](FormDiProva& form) { form.MousePointer = puntatoreNormale; });
     EXPECT_EQ(finestra.cursor().shape(), Qt::ArrowCursor);
     palco.NellaLogica([](FormDiProva& form) { form.MousePointer = puntatoreAttesa; });
@@ -70,9 +70,9 @@ TEST(Scrivania, TenChangesCostOneRepaint) {
         }
     };
     Palco palco;
-    QWidget& scritta = Trova(palco.scrivania, "scritta");
+    const Cosa scritta = Trova(palco.scrivania, "scritta");
     Conta conta;
-    scritta.installEventFilter(&conta);
+    scritta.Suolo().installEventFilter(&conta);
     int giro = 0;
     // The platform may yet ask for the whole window of its own accord, but not for ever.
     EXPECT_TRUE(Aspetta([&] {

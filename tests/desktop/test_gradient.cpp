@@ -53,7 +53,7 @@ TEST(Gradiente, ItRunsAcrossWhenItIsTold) {
 
 TEST(Gradiente, AControlShowsItFromEdgeToEdgeAndChangesItAtOnce) {
     prova::Palco palco([](prova::FormDiProva& form) { form.sfumata.Sfondo = semplice; });
-    QWidget& sfumata = prova::Trova(palco.scrivania, "sfumata");
+    const prova::Cosa sfumata = prova::Trova(palco.scrivania, "sfumata");
     QImage foto = prova::Fotografa(sfumata);
     EXPECT_EQ(foto.pixel(20, 0), RigheSfumatura(semplice)[1]);
     EXPECT_EQ(foto.pixel(20, 40), RigheSfumatura(semplice)[141]);

@@ -194,7 +194,7 @@ TEST(AiutoNelProgramma, AModalWindowBlocksTheMainOneButNotTheHelp) {
     ProgrammaConAiuto p;
     Scrivania& s = p.scrivania;
     QWidget& principale = s.Davanti()->Finestra();
-    auto& start = dynamic_cast<QAbstractButton&>(Trova(s, "Start"));
+    auto& start = Trova(s, "Start").Come<QAbstractButton>();
     const QPoint dove = start.mapTo(&principale, start.rect().center());
     // Open before the modal window, and asked for again from it.
     Batti(s, Qt::Key_F1);

@@ -76,7 +76,7 @@ TEST(Tastiera, AKeyThatClosedAMenuIsntPressedByBeingHeld) {
 
 TEST(Tastiera, TheKeypadWithoutNumberLockMovesNeitherFocusNorSlider) {
     Palco palco;
-    auto& bottone = Trova(palco.scrivania, "bottone");
+    QWidget& bottone = Trova(palco.scrivania, "bottone");
     bottone.setFocus();
     Batti(palco.scrivania, Qt::Key_Down, Qt::KeypadModifier);
     EXPECT_TRUE(bottone.hasFocus());

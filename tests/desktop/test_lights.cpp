@@ -71,10 +71,9 @@ TEST(Luce, ALitOneLiesOverItsNeighboursAndGoesOutWithoutATrace) {
     const QImage spente = foto();
     palco.NellaLogica([](FormDiProva& form) { form.scritta.BackColor = rosso; });
     const QImage accesa = foto();
-    QWidget* luci = palco.scrivania.Davanti()->Finestra().findChild<QWidget*>("luci");
-    ASSERT_TRUE(luci);
-    EXPECT_EQ(luci->focusPolicy(), Qt::NoFocus);
-    const QPoint prima = luci->parentWidget()->mapTo(luci->window(), QPoint(44, 45));
+    const Cosa luce = Trova(palco.scrivania, "scritta");
+    EXPECT_FALSE(luce.Fermata());
+    const QPoint prima = luce.NellaFinestra(luce.rect().center());
     EXPECT_EQ(accesa.pixelColor(prima), InQt(rosso, {}));
     EXPECT_EQ(accesa.pixelColor(prima + QPoint(7, 0)), InQt(rosso, {})) << "its neighbour hides it";
     palco.NellaLogica([](FormDiProva& form) { form.scritta.BackColor = grigio; });

@@ -10,7 +10,7 @@ namespace corvana::prova {
 namespace {
 
 QListWidget& ListaDi(Palco& palco) {
-    return dynamic_cast<QListWidget&>(Trova(palco.scrivania, "lista"));
+    return Trova(palco.scrivania, "lista").Come<QListWidget>();
 }
 
 void CliccaRiga(QListWidget& lista, int riga) {

@@ -22,8 +22,8 @@ private:
 };
 
 QPoint Mezzo(Palco& palco, const char* nome) {
-    const QWidget& widget = Trova(palco.scrivania, nome);
-    return widget.mapTo(widget.window(), widget.rect().center());
+    const Cosa cosa = Trova(palco.scrivania, nome);
+    return cosa.NellaFinestra(cosa.rect().center());
 }
 
 TEST(Mouse, TheButtonComesUpForTheControlWhereverThePointerIs) {

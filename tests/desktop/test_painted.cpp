@@ -10,7 +10,7 @@ namespace corvana::prova {
 namespace {
 
 void Sorvola(Palco& palco, const char* nome) {
-    QWidget& widget = Trova(palco.scrivania, nome);
+    const Cosa widget = Trova(palco.scrivania, nome);
     Muovi(widget, widget.rect().center());
 }
 
@@ -24,7 +24,7 @@ TEST(Figura, TheToolTipIsLive) {
 
 TEST(Figura, APictureThatCanBeClickedIsReachedAndPushedFromTheKeyboard) {
     Palco palco;
-    QWidget& icona = Trova(palco.scrivania, "icona");
+    const Cosa icona = Trova(palco.scrivania, "icona");
     icona.setFocus(Qt::TabFocusReason);
     const QImage conAnello = Fotografa(icona);
     Batti(palco.scrivania, Qt::Key_Return);
@@ -64,7 +64,7 @@ TEST(Figura, AnIconIsSharpAtEverySizeOfTheWindow) {
     Palco palco;
     for (const double volte : {1.0, 2.0}) {
         Ingrandisci(*palco.scrivania.Davanti(), volte);
-        QWidget& icona = Trova(palco.scrivania, "icona");
+        const Cosa icona = Trova(palco.scrivania, "icona");
         const QImage foto = Fotografa(icona);
         const int lato = std::min(icona.width(), icona.height());
         QImage attesa(lato, lato, QImage::Format_ARGB32_Premultiplied);
@@ -87,7 +87,7 @@ TEST(Figura, AnIconIsSharpAtEverySizeOfTheWindow) {
 
 TEST(Etichetta, HidingItAndColouringItIsSeen) {
     Palco palco;
-    QWidget& scritta = Trova(palco.scrivania, "scritta");
+    const Cosa scritta = Trova(palco.scrivania, "scritta");
     palco.NellaLogica([](FormDiProva& form) { form.scritta.BackColor = Rgb(1, 2, 250); });
     EXPECT_EQ(Fotografa(scritta).pixelColor(99, 19), QColor(1, 2, 250));
     palco.NellaLogica([](FormDiProva& form) { form.scritta.Visible = false; });
@@ -96,8 +96,8 @@ TEST(Etichetta, HidingItAndColouringItIsSeen) {
 
 TEST(Etichetta, ATransparentOneShowsWhatLiesBeneathWhateverItsColour) {
     Palco palco;
-    QWidget& scritta = Trova(palco.scrivania, "scritta");
-    const QPoint dove = scritta.mapTo(scritta.window(), QPoint(90, 15));
+    const Cosa scritta = Trova(palco.scrivania, "scritta");
+    const QPoint dove = scritta.NellaFinestra({90, 15});
     const auto colore = [&] { return Fotografa(palco.scrivania).pixelColor(dove); };
     palco.NellaLogica([](FormDiProva& form) {
         form.BackColor = Rgb(9, 90, 9);
@@ -144,8 +144,8 @@ TEST(Casella, AnExplanationIsATextOfSeveralLinesThatTakesNoFocus) {
         form.casella.stile = "spiegazione";
         form.casella.Text = "Bach & figli\r\nseconda riga";
     });
-    QWidget& casella = Trova(palco.scrivania, "casella");
-    EXPECT_EQ(casella.focusPolicy(), Qt::NoFocus);
+    const Cosa casella = Trova(palco.scrivania, "casella");
+    EXPECT_FALSE(casella.Fermata());
     EXPECT_EQ(casella.accessibleName(), "Bach & figli\nseconda riga");
     palco.NellaLogica([](FormDiProva& form) { form.casella.Text = "altro"; });
     EXPECT_EQ(casella.accessibleName(), "altro");
@@ -153,7 +153,7 @@ TEST(Casella, AnExplanationIsATextOfSeveralLinesThatTakesNoFocus) {
 
 TEST(Etichetta, TheHelpButtonKeepsItsSignWhileItIsOn) {
     Palco palco([](FormDiProva& form) { form.toccabile.stile = "aiuto"; });
-    QWidget& aiuto = Trova(palco.scrivania, "toccabile");
+    const Cosa aiuto = Trova(palco.scrivania, "toccabile");
     Trova(palco.scrivania, "bottone").setFocus();
     EXPECT_FALSE(HaColore(Fotografa(aiuto), tinta::accento));
     palco.NellaLogica([](FormDiProva& form) { form.toccabile.Caption = ""; });

@@ -6,7 +6,7 @@
 namespace corvana::prova {
 namespace {
 
-QWidget& RegoloDi(Palco& palco) {
+Cosa RegoloDi(Palco& palco) {
     return Trova(palco.scrivania, "Regolo");
 }
 
@@ -46,7 +46,7 @@ TEST(Regolo, TheArrowsStopAtItsEnds) {
 
 TEST(Regolo, TheBandUnderThePointerStandsOut) {
     Palco palco;
-    QWidget& regolo = RegoloDi(palco);
+    const Cosa regolo = RegoloDi(palco);
     const QImage prima = Fotografa(regolo);
     Muovi(regolo, {8, 120});
     ASSERT_TRUE(Aspetta([&] { return Fotografa(regolo) != prima; }));

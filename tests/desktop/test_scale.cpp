@@ -22,7 +22,7 @@ TEST(Scala, TheFaceKeepsItsShapeInTheMiddleOfTheWindow) {
     QMainWindow& finestra = palco.scrivania.Davanti()->Finestra();
     finestra.resize(1000, finestra.height());
     ASSERT_TRUE(Aspetta([&] { return finestra.centralWidget()->width() == 1000; }));
-    const QRect faccia = Trova(palco.scrivania, "scritta").parentWidget()->geometry();
+    const QRect faccia = Trova(palco.scrivania, "scritta").Suolo().geometry();
     EXPECT_EQ(faccia, QRect(110, 0, 780, 320));
 }
 
@@ -39,7 +39,7 @@ TEST(Scala, AControlThatTheLogicMovesGoesToItsScaledPlace) {
     Palco palco;
     Ingrandisci(*palco.scrivania.Davanti(), 2);
     palco.NellaLogica([](FormDiProva& form) { form.bottone.Left = 300; });
-    EXPECT_EQ(Trova(palco.scrivania, "bottone").x(), 40);
+    EXPECT_EQ(Trova(palco.scrivania, "bottone").Come<QWidget>().x(), 40);
 }
 
 TEST(Scala, AFormThatGrowsMakesItsWindowGrow) {

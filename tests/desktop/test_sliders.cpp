@@ -12,7 +12,7 @@ namespace corvana::prova {
 namespace {
 
 QSlider& BarraDi(Palco& palco, const char* nome = "barra") {
-    return dynamic_cast<QSlider&>(Trova(palco.scrivania, nome));
+    return Trova(palco.scrivania, nome).Come<QSlider>();
 }
 
 QPoint Pollice(QSlider& barra) {

@@ -99,7 +99,7 @@ TEST(Pentagramma, OnlyThePlaceOfANoteIsPaintedAnew) {
     };
     Palco palco;
     Area area;
-    Trova(palco.scrivania, "staff").installEventFilter(&area);
+    Trova(palco.scrivania, "staff").Suolo().installEventFilter(&area);
     // The platform may yet ask for the whole window of its own accord, but not for ever.
     EXPECT_TRUE(Aspetta([&] {
         area.dipinta = {};

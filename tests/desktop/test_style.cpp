@@ -20,7 +20,7 @@ namespace {
 constexpr double volte[] = {1, 1.5, 2, 3};
 
 QSlider& BarraInScena(Palco& palco, const char* nome) {
-    return dynamic_cast<QSlider&>(Trova(palco.scrivania, nome));
+    return Trova(palco.scrivania, nome).Come<QSlider>();
 }
 
 /// Where the handle's light middle is seen on the slider's line.
@@ -79,7 +79,7 @@ TEST(Stile, ScrollBarsCheckBoxesAndLettersOfMenusGrow) {
             form.lista.AddItem("riga");
     });
     VistaFinestra& finestra = *palco.scrivania.Davanti();
-    auto& lista = dynamic_cast<QListWidget&>(Trova(palco.scrivania, "lista"));
+    auto& lista = Trova(palco.scrivania, "lista").Come<QListWidget>();
     QWidget& spunta = Trova(palco.scrivania, "spunta");
     QMenuBar& sbarra = *finestra.Finestra().menuBar();
     QMenu& menu = *TrovaVoce(palco.scrivania, "File").menu();
@@ -142,7 +142,7 @@ TEST(Stile, AScrollBarsThumbTakesTheShareThatIsSeen) {
         for (int i = 0; i < 40; ++i)
             form.lista.AddItem("riga");
     });
-    auto& lista = dynamic_cast<QListWidget&>(Trova(palco.scrivania, "lista"));
+    auto& lista = Trova(palco.scrivania, "lista").Come<QListWidget>();
     QScrollBar& barra = *lista.verticalScrollBar();
     lista.scrollToBottom();
     const QImage foto = Fotografa(barra);

@@ -1,58 +1,74 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QApplication>
 #include <QMainWindow>
 
+#include "desktop/face.h"
 #include "tests/desktop/program_stage.h"
 
 namespace corvana::prova {
 namespace {
 
-/// Nothing lies over the widget's middle.
-bool Scoperto(const QWidget& widget) {
-    QWidget& finestra = *widget.window();
-    const QWidget* sopra = finestra.childAt(widget.mapTo(&finestra, widget.rect().center()));
-    return sopra && (sopra == &widget || widget.isAncestorOf(sopra));
+/// Nothing lies over the control's middle.
+bool Scoperto(const Cosa& cosa) {
+    const QWidget& finestra = *cosa.window();
+    const QPoint dove = cosa.NellaFinestra(cosa.rect().center());
+    const QWidget* sopra = finestra.childAt(dove);
+    QWidget& suolo = cosa.Suolo();
+    if (!sopra || (sopra != &suolo && !suolo.isAncestorOf(sopra))) return false;
+    if (cosa.LaVista().Widget()) return true;
+    const auto& faccia = dynamic_cast<const Faccia&>(suolo);
+    const Vista* incontrata = &faccia.Sotto(faccia.mapFrom(&finestra, dove));
+    while (incontrata && incontrata != &cosa.LaVista())
+        incontrata = incontrata->Padre();
+    return incontrata;
 }
 
 /// The focus goes to the window's ground and back; the picture must tell.
-bool MostraIlFuoco(QWidget& widget) {
-    QWidget& finestra = *widget.window();
-    const QImage con = Fotografa(finestra);
+bool MostraIlFuoco(const Cosa& cosa) {
+    QWidget& finestra = *cosa.window();
+    const QImage con = Fotografa(cosa);
     QWidget& fondo = *dynamic_cast<QMainWindow&>(finestra).centralWidget();
     fondo.setFocus();
-    const QImage senza = Fotografa(finestra);
-    widget.setFocus(Qt::TabFocusReason);
-    const QRect posto(widget.mapTo(&finestra, QPoint()), widget.size());
+    const QImage senza = Fotografa(cosa);
+    cosa.setFocus(Qt::TabFocusReason);
     int diversi = 0;
-    for (int x = posto.left(); x <= posto.right(); ++x)
-        for (int y = posto.top(); y <= posto.bottom(); ++y)
+    for (int x = 0; x < con.width(); ++x)
+        for (int y = 0; y < con.height(); ++y)
             diversi += con.pixel(x, y) != senza.pixel(x, y);
     return diversi >= 40;
 }
 
-void ControllaFermata(QWidget& fermata) {
+void ControllaFermata(const Cosa& fermata) {
     const std::string nome = fermata.objectName().toStdString();
     EXPECT_TRUE(fermata.isVisible()) << nome;
     EXPECT_TRUE(Scoperto(fermata)) << nome << " lies behind something";
     EXPECT_TRUE(MostraIlFuoco(fermata)) << nome << " doesn't show the focus";
-    const auto* accessibile = QAccessible::queryAccessibleInterface(&fermata);
+    const auto* accessibile = fermata.PerLettore();
     ASSERT_TRUE(accessibile) << nome;
     EXPECT_FALSE(accessibile->text(QAccessible::Name).trimmed().isEmpty()) << nome;
+    EXPECT_TRUE(accessibile->state().focused) << nome;
+    EXPECT_EQ(accessibile->rect().size(), fermata.rect().size()) << nome;
+}
+
+/// The control that has the keyboard, or null.
+Vista* ColFuoco(Scrivania& scrivania) {
+    for (int numero = 0; Vista* vista = scrivania.Davanti()->Controllo(numero); ++numero)
+        if (vista->HaFuoco()) return vista;
+    return nullptr;
 }
 
 /// The names of all stops of the window in front, each of which is checked on the way.
 QStringList Percorri(Scrivania& scrivania) {
     QStringList fermate;
-    QWidget* prima = nullptr;
+    const Vista* prima = nullptr;
     for (int passi = 0; passi < 100; ++passi) {
         Batti(scrivania, Qt::Key_Tab);
-        QWidget* qui = QApplication::focusWidget();
+        Vista* qui = ColFuoco(scrivania);
         if (!qui || qui == prima) break;
         if (!prima) prima = qui;
-        fermate.append(qui->objectName());
-        ControllaFermata(*qui);
+        fermate.append(qui->Stato().nome);
+        ControllaFermata(Cosa(*qui));
     }
     return fermate;
 }

@@ -19,7 +19,7 @@ char32_t Maiuscolo(char32_t c) {
 }
 
 QLineEdit& CasellaDi(Palco& palco) {
-    auto& casella = dynamic_cast<QLineEdit&>(Trova(palco.scrivania, "casella"));
+    auto& casella = Trova(palco.scrivania, "casella").Come<QLineEdit>();
     casella.setFocus();
     return casella;
 }

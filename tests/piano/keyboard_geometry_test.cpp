@@ -43,6 +43,34 @@ TEST(PostoTasto, BlackKeysStandBetweenTheWhiteOnesInMirroredGroups) {
     }
 }
 
+TEST(TastoIntero, HoldsItsLabel) {
+    for (int tasto = 0; tasto < 60; ++tasto) {
+        const Rettangolo intero = TastoIntero(tasto), posto = PostoTasto(tasto);
+        EXPECT_LE(intero.left, posto.left) << tasto;
+        EXPECT_LE(intero.top, posto.top) << tasto;
+        EXPECT_GE(intero.left + intero.width, posto.left + posto.width) << tasto;
+        EXPECT_GE(intero.top + intero.height, posto.top + posto.height) << tasto;
+    }
+}
+
+TEST(TastoIntero, WhiteKeysLieSideBySideWithoutAGapOverFiveOctaves) {
+    int fine = 17;
+    for (int tasto = 0; tasto < 60; ++tasto) {
+        if (tasto % 12 == 1 || tasto % 12 == 3 || tasto % 12 == 6 || tasto % 12 == 8 ||
+            tasto % 12 == 10)
+            continue;
+        EXPECT_EQ(TastoIntero(tasto).left, fine) << tasto;
+        EXPECT_NEAR(TastoIntero(tasto).width, 220.7, 1) << tasto;
+        fine += TastoIntero(tasto).width;
+    }
+    EXPECT_EQ(fine, 17 + 5 * 1545);
+}
+
+TEST(TastoIntero, BlackKeysEndAboveTheLabelsOfTheWhiteOnes) {
+    for (const int nero : {1, 3, 6, 8, 10, 58})
+        EXPECT_LT(TastoIntero(nero).top + TastoIntero(nero).height, PostoTasto(0).top) << nero;
+}
+
 TEST(PostoBarra, MarksLieUnderTheWhiteKeysAndAboveTheBlackOnes) {
     EXPECT_EQ(NelPadre(PostoBarra(0)), (Rettangolo{345, 2655, 165, 75}));
     EXPECT_EQ(NelPadre(PostoBarra(1)), (Rettangolo{435, 1950, 165, 75}));

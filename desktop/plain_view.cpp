@@ -1,0 +1,71 @@
+#include "desktop/plain_view.h"
+
+#include "desktop/icon_painter.h"
+#include "desktop/letter_painter.h"
+#include "desktop/ornament_painter.h"
+#include "desktop/theme.h"
+
+namespace corvana {
+
+namespace {
+
+/// The question mark stays on its button when it is taken away to show that the help is on.
+Aspetto Acceso(Aspetto aspetto) {
+    if (!aspetto.Ha("aiuto") || !aspetto.caption.isEmpty()) return aspetto;
+    aspetto.caption = QStringLiteral("?");
+    aspetto.fondo = InColore(tinta::accento);
+    aspetto.penna = Rgb(255, 255, 255);
+    return aspetto;
+}
+
+}  // namespace
+
+void VistaSemplice::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
+    if (Stato().Ha("lettera")) return DipingiLettera(p, area, Stato(), Scala(), tocco);
+    if (Stato().Ha("pulsante")) return DipingiBottone(p, area, Stato(), Scala(), tocco);
+    const Aspetto aspetto = Acceso(Stato());
+    DipingiFondo(p, area, aspetto, Scala(), tocco);
+    if (Stato().Ha("ornamento")) DipingiOrnamento(p, area, Scala());
+    const bool finestra = Origine().tipo == Genere::Finestra;
+    if (!finestra) DipingiTesto(p, area, aspetto, Scala(), tocco.abilitato);
+    if (tocco.fuoco) DipingiAnello(p, area, Scala());
+}
+
+VistaSpiegazione::VistaSpiegazione(const CopiaControllo& copia, Mittente mittente)
+    : VistaDipinta(copia, mittente) {
+    PonNomeDetto(Stato().text);
+}
+
+void VistaSpiegazione::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
+    Aspetto aspetto = Stato();
+    aspetto.caption = aspetto.text.replace(QLatin1Char('&'), QLatin1String("&&"));
+    DipingiFondo(p, area, aspetto, Scala(), tocco);
+    DipingiTesto(p, area, aspetto, Scala(), tocco.abilitato);
+}
+
+void VistaSpiegazione::Rinfresca(Nome nome) {
+    if (nome == Nome::Text) PonNomeDetto(Stato().text);
+    VistaDipinta::Rinfresca(nome);
+}
+
+void VistaColonne::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
+    const QStringList parole = SenzaAccesso(Stato().caption).split(QLatin1Char('-'));
+    const double passo = area.width() / static_cast<double>(parole.size());
+    for (qsizetype i = 0; i < parole.size(); ++i) {
+        Aspetto una = Stato();
+        una.caption = parole[i].trimmed();
+        una.stile << QStringLiteral("centro") << QStringLiteral("mezzo");
+        const QRectF colonna(area.x() + static_cast<double>(i) * passo, area.y(), passo,
+                             area.height());
+        if (Stato().Ha("tasti")) DipingiTasto(p, colonna, Scala());
+        DipingiTesto(p, colonna, una, Scala(), tocco.abilitato);
+    }
+}
+
+void VistaIcona::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
+    DipingiFondo(p, area, Stato(), Scala(), tocco);
+    DipingiIcona(p, area, Stato().stile, tocco);
+    if (tocco.fuoco) DipingiAnello(p, area, Scala());
+}
+
+}  // namespace corvana

@@ -1,0 +1,21 @@
+#include "desktop/tab_order.h"
+
+#include <algorithm>
+
+namespace corvana {
+
+Vista* ProssimaFermata(const std::vector<std::unique_ptr<Vista>>& viste, bool avanti) {
+    const auto quante = static_cast<std::ptrdiff_t>(viste.size());
+    const auto fuoco = std::find_if(viste.begin(), viste.end(),
+                                    [](const auto& vista) { return vista->HaFuoco(); });
+    const std::ptrdiff_t nessuna = avanti ? -1 : quante;
+    const std::ptrdiff_t da = fuoco == viste.end() ? nessuna : fuoco - viste.begin();
+    for (std::ptrdiff_t passo = 1; passo <= quante; ++passo) {
+        const std::ptrdiff_t dove = da + (avanti ? passo : -passo);
+        Vista& vista = *viste[static_cast<std::size_t>((dove % quante + quante) % quante)];
+        if (vista.Fermata() && vista.Usabile() && !vista.HaFuoco()) return &vista;
+    }
+    return nullptr;
+}
+
+}  // namespace corvana
