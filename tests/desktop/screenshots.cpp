@@ -4,8 +4,10 @@
 #include <QApplication>
 #include <QDir>
 #include <QMenu>
+#include <array>
 #include <cstdlib>
 
+#include "tests/desktop/keyboard_stage.h"
 #include "tests/desktop/program_stage.h"
 
 namespace {
@@ -125,6 +127,21 @@ void FotografaSecondarie(Servizio& s) {
     s.Premi("lblCloseMetro");
 }
 
+/// The five-octave keyboard, which no window of the program shows alone.
+void FotografaTastiera(const QString& cartella, double volte) {
+    PalcoTastiera palco;
+    Servizio servizio(palco.scrivania, cartella, volte);
+    servizio.Scatta(QStringLiteral("keyboard"));
+    palco.NellaLogica([](FormTastiera& form) {
+        for (const std::int16_t nota : std::array<std::int16_t, 6>{48, 52, 55, 58, 61, 72})
+            form.tastiera.sw(nota, 1);
+        for (const std::size_t barra : {12, 25, 36, 46})
+            Accendi(form.tastiera.lbr[barra], true);
+    });
+    Trova(palco.scrivania, "img2").setFocus(Qt::TabFocusReason);
+    servizio.Scatta(QStringLiteral("keyboard-lit"));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -144,5 +161,6 @@ int main(int argc, char** argv) {
         FotografaSecondarie(servizio);
     }
     scrivania.Termina();
+    FotografaTastiera(QString::fromLocal8Bit(argv[1]), argc > 3 ? std::atof(argv[3]) : 1);
     return 0;
 }
