@@ -1,6 +1,7 @@
 #include "desktop/face_painter.h"
 
 #include "desktop/gradient_painter.h"
+#include "desktop/style_words.h"
 #include "desktop/theme.h"
 
 namespace corvana {
@@ -9,42 +10,13 @@ namespace {
 
 constexpr double raggioPulsante = 7;
 
-/// What a style word makes of a control's ground.
-struct Forma {
-    const char* parola;
-    double raggio;  ///< of the corners, in designed pixels
-    bool bordata;
-    bool premibile;       ///< it answers to the pointer
-    const QColor* fondo;  ///< where the control has no colour of its own
-};
-
-const Forma forme[] = {
-    {"pulsante", raggioPulsante, true, true, &tinta::bottone},
-    {"carta", 10, true, false, &tinta::pannello},
-    {"arrotondata", 11, true, false, &tinta::finestra},
-    {"pannello", 11, true, false, &tinta::pannello},
-    {"scelta", 6, true, true, &tinta::bottone},
-    {"aiuto", 12, true, true, &tinta::bottone},
-    {"chiudi", 9, true, true, &tinta::bottone},
-    {"lettera", 6, true, true, &tinta::carta},
-    {"barra", 6, true, false, nullptr},
-    {"tondo", 5, false, false, nullptr},
-};
-const Forma nuda{"", 0, false, false, nullptr};
-
-const Forma& FormaDi(const Aspetto& a) {
-    for (const Forma& forma : forme)
-        if (a.Ha(forma.parola)) return forma;
-    return nuda;
-}
-
 QColor Sotto(QColor colore, const Tocco& tocco) {
     if (!tocco.abilitato) return PiuChiara(colore, 0.45);
     if (tocco.premuto) return PiuScura(colore, 0.10);
     return tocco.sopra ? PiuScura(colore, 0.035) : colore;
 }
 
-QBrush Pennello(const Aspetto& a, const Forma& forma, const QRectF& area, const Tocco& tocco) {
+QBrush Pennello(const Aspetto& a, const FormaFondo& forma, const QRectF& area, const Tocco& tocco) {
     if (a.fondoStile == fondoTrasparente) return Qt::NoBrush;
     if (a.sfumatura.Presente()) return PennelloSfumatura(a.sfumatura, area);
     const QColor colore = InQt(a.fondo, forma.fondo ? *forma.fondo : QColor(Qt::transparent));
@@ -62,7 +34,7 @@ void Contorna(QPainter& p, const QRectF& area, double raggio, const QColor& colo
 
 void Ombra(QPainter& p, const QRectF& area, double raggio, double scala) {
     p.setPen(Qt::NoPen);
-    p.setBrush(QColor(90, 70, 40, 26));
+    p.setBrush(tinta::ombra);
     p.drawRoundedRect(area.translated(0, scala), raggio, raggio);
 }
 
@@ -70,7 +42,7 @@ void Ombra(QPainter& p, const QRectF& area, double raggio, double scala) {
 
 void DipingiFondo(QPainter& p, const QRectF& area, const Aspetto& a, double scala,
                   const Tocco& tocco) {
-    const Forma& forma = FormaDi(a);
+    const FormaFondo forma = FormaDi(a.stile);
     const double raggio = forma.raggio * scala;
     p.setRenderHint(QPainter::Antialiasing, raggio > 0);
     p.setPen(Qt::NoPen);

@@ -28,7 +28,7 @@ QPainterPath Contorno(SagomaLuce sagoma, const QPointF& c, double r) {
 }
 
 void DipingiSede(QPainter& p, const QRectF& area, Colore colore, double scala) {
-    p.setBrush(QColor(60, 40, 20, 70));
+    p.setBrush(tinta::sede);
     p.drawRoundedRect(area.adjusted(0.5 * scala, 0, -0.5 * scala, 0), 2 * scala, 2 * scala);
     p.setBrush(InQt(colore, tinta::spento));
     p.drawPath(Contorno(SagomaLuce::Punto, area.center(), raggioPunto * scala));

@@ -80,7 +80,7 @@ protected:
 private:
     void DipingiCornice() {
         Aspetto aspetto = vista_.Stato();
-        if (aspetto.fondo == coloreDiSistema) aspetto.fondo = Rgb(255, 254, 251);
+        if (aspetto.fondo == coloreDiSistema) aspetto.fondo = InColore(tinta::carta);
         aspetto.stile << QStringLiteral("carta");
         QPainter p(this);
         DipingiFondo(p, QRectF(rect()), aspetto, vista_.Scala(), {});

@@ -37,7 +37,7 @@ void Evidenzia(QPainter& p, const QRectF& fascia) {
 void Striscia(QPainter& p, int da, int a, double larghezza) {
     const QRectF striscia(7, da - 22, larghezza - 14, a - da + 44);
     p.setPen(QPen(tinta::filo, 15));
-    p.setBrush(QColor(0xFB, 0xF3, 0xDD, 235));
+    p.setBrush(tinta::striscia);
     p.drawRoundedRect(striscia, raggio, raggio);
 }
 

@@ -26,7 +26,7 @@ public:
 protected:
     void paintEvent(QPaintEvent* evento) override {
         Aspetto fondo = vista_.Stato();
-        if (fondo.fondo == coloreDiSistema && !fondo.locked) fondo.fondo = Rgb(255, 254, 251);
+        if (fondo.fondo == coloreDiSistema && !fondo.locked) fondo.fondo = InColore(tinta::carta);
         QPainter p(this);
         fondo.bordo = 1;
         fondo.stile << QStringLiteral("tondo");

@@ -1,34 +1,13 @@
 #include "desktop/theme.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
+
+#include "desktop/style_words.h"
 
 namespace corvana {
 
 namespace {
-
-struct StileTesto {
-    const char* parola;
-    double pixel;
-    QFont::Weight peso;
-};
-
-constexpr StileTesto stili[] = {
-    {"titolo", 15, QFont::DemiBold},   {"cifra", 21, QFont::DemiBold},
-    {"piccolo", 11, QFont::Normal},    {"nome", 22, QFont::Bold},
-    {"risposta", 15, QFont::DemiBold}, {"principale", 15, QFont::DemiBold},
-    {"insegna", 24, QFont::Bold},      {"lettera", 20, QFont::Bold},
-    {"aiuto", 15, QFont::DemiBold},    {"chiudi", 15, QFont::DemiBold},
-    {"percento", 15, QFont::DemiBold},
-};
-constexpr StileTesto semplice{"", 13, QFont::Normal};
-
-StileTesto Scegli(const QStringList& stile) {
-    for (const StileTesto& s : stili)
-        if (stile.contains(QLatin1String(s.parola))) return s;
-    return semplice;
-}
 
 QColor Verso(const QColor& da, const QColor& a, double quanto) {
     const auto canale = [=](int x, int y) {
@@ -68,18 +47,17 @@ QStringList FamiglieDelTesto() {
 }
 
 QFont Carattere(const QStringList& stile, double scala) {
-    const StileTesto scelto = Scegli(stile);
+    const Lettere lettere = LettereDi(stile);
     QFont font;
     font.setFamilies(FamiglieDelTesto());
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(scelto.pixel * scala))));
-    font.setWeight(stile.contains(QLatin1String("forte")) ? QFont::DemiBold : scelto.peso);
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(lettere.pixel * scala))));
+    font.setWeight(stile.contains(QLatin1String("forte")) ? QFont::DemiBold : lettere.peso);
     return font;
 }
 
 Qt::Alignment Allineamento(const QStringList& stile) {
     const auto ha = [&](const char* parola) { return stile.contains(QLatin1String(parola)); };
-    for (const char* centrato : {"pulsante", "scelta", "aiuto", "chiudi", "lettera", "insegna"})
-        if (ha(centrato)) return Qt::AlignCenter;
+    if (Centrato(stile)) return Qt::AlignCenter;
     Qt::Alignment riga = Qt::AlignLeft;
     if (ha("centro")) riga = Qt::AlignHCenter;
     if (ha("destra")) riga = Qt::AlignRight;

@@ -22,6 +22,9 @@ inline const QColor accentoTenue{0xD6, 0xE8, 0xE6};
 inline const QColor giusto{0x2A, 0x7D, 0x3F};
 inline const QColor sbagliato{0xBF, 0x36, 0x2C};
 inline const QColor bottone{0xFF, 0xFD, 0xF8};
+inline const QColor ombra{90, 70, 40, 26};            ///< that a button throws
+inline const QColor sede{60, 40, 20, 70};             ///< of a light that is out
+inline const QColor striscia{0xFB, 0xF3, 0xDD, 235};  ///< the slips of the ruler
 
 // Of the keyboard on the screen.
 inline const QColor avorio{0xFF, 0xFE, 0xFB};

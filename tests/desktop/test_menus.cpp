@@ -79,8 +79,7 @@ void ConMenu(FormDiProva& form) {
 
 /// Where no control lies.
 QPoint Terra(Palco& palco) {
-    const QWidget& scritta = Trova(palco.scrivania, "scritta");
-    return scritta.mapTo(scritta.window(), QPoint(2, -5));
+    return Trova(palco.scrivania, "scritta").NellaFinestra({2, -5});
 }
 
 QMenu* MenuAperto() {
