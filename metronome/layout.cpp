@@ -3,7 +3,7 @@
 #include <array>
 
 #include "metronome/conf_metro.h"
-#include "metronome/panel.h"
+#include "metronome/metronome_panel.h"
 
 namespace corvana {
 

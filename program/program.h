@@ -1,7 +1,7 @@
 // All windows of the program, and which opens which. Logic thread.
 #pragma once
 
-#include "metronome/panel.h"
+#include "metronome/metronome_panel.h"
 #include "trainer/corvana_main.h"
 
 namespace corvana {

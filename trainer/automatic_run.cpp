@@ -1,11 +1,11 @@
 // A run in automatic mode: notes change by the clock, and keys that are held answer.
 #include "forms/keys.h"
 #include "trainer/answer_keys.h"
-#include "trainer/drill.h"
+#include "trainer/drill_panel.h"
 
 namespace corvana {
 
-void Esercizio::CicloAutomatico() {
+void PannelloEsercizio::CicloAutomatico() {
     const std::uint32_t questa = corsa_;
     while (InCorso) {
         InizioNota = a_.pompa.Adesso();
@@ -19,7 +19,7 @@ void Esercizio::CicloAutomatico() {
     --punteggio.Errate;
 }
 
-bool Esercizio::AttendiRisposta(std::uint32_t questa) {
+bool PannelloEsercizio::AttendiRisposta(std::uint32_t questa) {
     // The first pass doesn't wait: a key held from the note before answers this one at once.
     a_.pompa.PompaEventi();
     for (;;) {
@@ -36,7 +36,7 @@ bool Esercizio::AttendiRisposta(std::uint32_t questa) {
     return false;
 }
 
-void Esercizio::LeggiTasti() {
+void PannelloEsercizio::LeggiTasti() {
     const TastiPremuti& tasti = a_.finestre.Tasti();
     for (const TastiRisposta& t : tastiAutomatici)
         if (!Risposto && (tasti.Premuto(t.tasto) || tasti.Premuto(t.tastierino)))
@@ -45,7 +45,7 @@ void Esercizio::LeggiTasti() {
     punteggio.MostraPunteggio(a_.globali.testi.TxtNoteMostrate, punteggio.Mostrate);
 }
 
-void Esercizio::Giudica(int risposta) {
+void PannelloEsercizio::Giudica(int risposta) {
     const bool giusta = RispostaGiusta.at(static_cast<std::size_t>(risposta - 1));
     SuonaOnda(a_, giusta ? "rok.wav" : "rko.wav", sndAsincrono);
     ++(giusta ? punteggio.Esatte : punteggio.Errate);

@@ -40,8 +40,8 @@ CorvanaMainF::CorvanaMainF(const Ambiente& ambiente, Secondarie secondarie)
     menu.mnuEn.Click = [this] { mnuEn_Click(); };
 }
 
-BarraStrumenti::Azioni CorvanaMainF::AzioniDellaBarra() {
-    BarraStrumenti::Azioni azioni;
+PannelloBarra::Azioni CorvanaMainF::AzioniDellaBarra() {
+    PannelloBarra::Azioni azioni;
     if (secondarie_.frmInto) azioni[0] = [this] { ApriInto(a_.globali, secondarie_, 3, 0); };
     azioni[1] = secondarie_.frmComposer;
     azioni[2] = secondarie_.metronomo.alterna;

@@ -4,14 +4,14 @@
 #pragma once
 
 #include "core/hover.h"
-#include "trainer/answers.h"
-#include "trainer/automatic.h"
-#include "trainer/drill.h"
-#include "trainer/main_menus.h"
-#include "trainer/range_choice.h"
+#include "trainer/answer_panel.h"
+#include "trainer/automatic_panel.h"
+#include "trainer/drill_panel.h"
+#include "trainer/main_menu.h"
+#include "trainer/range_panel.h"
 #include "trainer/secondary_windows.h"
-#include "trainer/staff.h"
-#include "trainer/toolbar.h"
+#include "trainer/staff_panel.h"
+#include "trainer/toolbar_panel.h"
 
 namespace corvana {
 
@@ -28,17 +28,18 @@ public:
     // In the order of the Tab key.
     StatoEsercizio stato;
     MenuPrincipale menu{*this, a_, secondarie_, stato};
-    Pentagramma pentagramma{*this, hover_};
-    BarraStrumenti barra{*this, hover_, {menu.es, menu.Risorse}, AzioniDellaBarra()};
-    Intervalli intervalli{*this, stato, pentagramma.Regolo, [this](bool si) { PonPronto(si); }};
-    Esercizio esercizio{
+    PannelloPentagramma pentagramma{*this, hover_};
+    PannelloBarra barra{*this, hover_, {menu.es, menu.Risorse}, AzioniDellaBarra()};
+    PannelloIntervalli intervalli{*this, stato, pentagramma.Regolo,
+                                  [this](bool si) { PonPronto(si); }};
+    PannelloEsercizio esercizio{
         *this,
         a_,
         stato,
         pentagramma.lblnn,
         {[this](bool si) { PonFermo(si); }, [this](bool si) { risposte.Abilita(si); }}};
-    Automatico automatico{*this, a_.globali.testi, stato, [this] { FuocoAStart(); }};
-    Risposte risposte{*this, [this](int risposta) { esercizio.DaiRisposta(risposta); }};
+    PannelloAutomatico automatico{*this, a_.globali.testi, stato, [this] { FuocoAStart(); }};
+    PannelloRisposte risposte{*this, [this](int risposta) { esercizio.DaiRisposta(risposta); }};
     Figura cmdEscibg{*this, "cmdEscibg"};
     Etichetta cmdEsci{*this, "cmdEsci"};
     Cornice frmMetro{*this, "frmMetro"};
@@ -59,7 +60,7 @@ public:
     void RipristinaStato();
 
 private:
-    BarraStrumenti::Azioni AzioniDellaBarra();
+    PannelloBarra::Azioni AzioniDellaBarra();
     void DisabilitaAssenti();
     void PrimaAttivazione();
     void ApriSuono();

@@ -13,7 +13,7 @@ struct BancoProgramma : Banco {
 
     Programma programma;
     CorvanaMainF& finestra = programma.principale;
-    Punteggio& punteggio = finestra.esercizio.punteggio;
+    PannelloPunteggio& punteggio = finestra.esercizio.punteggio;
     PannelloMetronomo& metronomo = programma.metronomo;
     StatoMetronomo& stato = globali.metronomo;
 

@@ -12,7 +12,7 @@ struct BancoPrincipale : Banco {
     /// Names of the other windows and of the helpers that were called for, in order.
     std::vector<std::string> aperte;
     CorvanaMainF finestra{Tutto(), TutteLeSecondarie()};
-    Punteggio& punteggio = finestra.esercizio.punteggio;
+    PannelloPunteggio& punteggio = finestra.esercizio.punteggio;
 
     /// Instant at which the opening signal is over and the window takes events.
     static constexpr double pronta = 2.25;

@@ -1,4 +1,4 @@
-#include "trainer/toolbar.h"
+#include "trainer/toolbar_panel.h"
 
 #include <utility>
 
@@ -17,7 +17,7 @@ void DipingiStriscia(Controllo& striscia, bool evidenziata) {
 
 }  // namespace
 
-BarraStrumenti::BarraStrumenti(Form& finestra, HoverFinestra& hover, Guardie guardie, Azioni azioni)
+PannelloBarra::PannelloBarra(Form& finestra, HoverFinestra& hover, Guardie guardie, Azioni azioni)
     : finestra_(finestra), hover_(hover), guardie_(guardie), azioni_(std::move(azioni)) {
     int numero = 0;
     for (Figura& bottone : ToolButton) {
@@ -30,7 +30,7 @@ BarraStrumenti::BarraStrumenti(Form& finestra, HoverFinestra& hover, Guardie gua
     hover_.LasciaSu({&frToolBar});
 }
 
-void BarraStrumenti::ToolButton_Click(int numero) {
+void PannelloBarra::ToolButton_Click(int numero) {
     const bool ammesso = numero == 1 ? guardie_.primo.Enabled() : guardie_.altri.Enabled();
     if (!ammesso) return;
     // A modal window swallows the pointer: the picture would stay sunk behind it.
@@ -39,16 +39,16 @@ void BarraStrumenti::ToolButton_Click(int numero) {
     if (const auto& azione = azioni_.at(static_cast<std::size_t>(numero - 1))) azione();
 }
 
-void BarraStrumenti::ShToolbar_Click() {
+void PannelloBarra::ShToolbar_Click() {
     frToolBar.Visible = !frToolBar.Visible;
 }
 
-void BarraStrumenti::DisabilitaAssenti() {
+void PannelloBarra::DisabilitaAssenti() {
     for (std::size_t i = 0; i < azioni_.size(); ++i)
         if (!azioni_.at(i)) ToolButton.at(i).Enabled = false;
 }
 
-void BarraStrumenti::Dipingi() {
+void PannelloBarra::Dipingi() {
     DipingiStriscia(ShToolbar, false);
 }
 

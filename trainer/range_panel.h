@@ -5,17 +5,17 @@
 #include <functional>
 
 #include "forms/form.h"
+#include "trainer/exercise_state.h"
 #include "trainer/exercises.h"
-#include "trainer/shared.h"
 
 namespace corvana {
 
-class Intervalli {
+class PannelloIntervalli {
 public:
     /// Makes the controls in `finestra`, which must have the notes of the staff; it and the rest
     /// must live as long as the panel. `pronto` tells that a run may begin, or not.
-    Intervalli(Form& finestra, StatoEsercizio& stato, Cornice& regolo,
-               std::function<void(bool)> pronto);
+    PannelloIntervalli(Form& finestra, StatoEsercizio& stato, Cornice& regolo,
+                       std::function<void(bool)> pronto);
 
 private:
     Form& finestra_;

@@ -1,5 +1,5 @@
 // The panel at rest: what it shows, and what its controls change.
-#include "metronome/panel.h"
+#include "metronome/metronome_panel.h"
 
 #include <gtest/gtest.h>
 

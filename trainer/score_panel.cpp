@@ -1,4 +1,4 @@
-#include "trainer/score.h"
+#include "trainer/score_panel.h"
 
 #include <algorithm>
 #include <limits>
@@ -13,7 +13,7 @@ constexpr int giorno = 24 * 3600;
 constexpr long massimoContato = std::numeric_limits<std::int32_t>::max() - 1;
 }  // namespace
 
-Punteggio::Punteggio(Form& finestra, const TestiLingua& testi)
+PannelloPunteggio::PannelloPunteggio(Form& finestra, const TestiLingua& testi)
     : finestra_(finestra), testi_(testi) {
     for (Casella* casella : {&conta, &er, &PercEs}) {
         casella->Locked = true;
@@ -21,7 +21,7 @@ Punteggio::Punteggio(Form& finestra, const TestiLingua& testi)
     }
 }
 
-void Punteggio::Dipingi() {
+void PannelloPunteggio::Dipingi() {
     Gradiente(PercMet, 0, 197, 218, 213, 255, 255, "ds", "d2");
     Gradiente(PercBg, 175, 255, 26, 255, 95, 85, "ab", "i");
     Gradiente(bgConta, 239, 135, 31, 255, 228, 255, "ab", "d2");
@@ -32,7 +32,7 @@ void Punteggio::Dipingi() {
     Gradiente(bgRis[4], 207, 213, 207, 245, 255, 186, "ab", "d2");
 }
 
-void Punteggio::Comincia(int ora) {
+void PannelloPunteggio::Comincia(int ora) {
     for (Casella* casella : {&conta, &er, &PercEs})
         casella->Text = "0";
     PonRapporto(1);
@@ -41,21 +41,21 @@ void Punteggio::Comincia(int ora) {
     OraInizio = ora;
 }
 
-void Punteggio::Giusta() {
+void PannelloPunteggio::Giusta() {
     ++Esatte;
     conta.Text = std::to_string(NumeroIntero(conta.Text(), 0, massimoContato) + 1);
 }
 
-void Punteggio::Sbagliata() {
+void PannelloPunteggio::Sbagliata() {
     ++Errate;
     MostraErrate();
 }
 
-void Punteggio::MostraErrate() {
+void PannelloPunteggio::MostraErrate() {
     er.Text = std::to_string(Errate);
 }
 
-void Punteggio::MostraPunteggio(const std::string& prefisso, int risposte) {
+void PannelloPunteggio::MostraPunteggio(const std::string& prefisso, int risposte) {
     Ridate.Caption = prefisso + std::to_string(risposte);
     Percentuale = Percento(Esatte, risposte);
     Lnmostrate.Caption = testi_.TxtPercentuale + Percentuale;
@@ -63,13 +63,13 @@ void Punteggio::MostraPunteggio(const std::string& prefisso, int risposte) {
     PonRapporto(static_cast<float>(Esatte) / static_cast<float>(risposte));
 }
 
-void Punteggio::PonRapporto(float rapporto) {
+void PannelloPunteggio::PonRapporto(float rapporto) {
     // Answers given by hand in an automatic run can outnumber the notes that the clock has shown.
     Rapporto = std::min(rapporto, 1.0F);
     ImpostaBarra(PercMet, PercBg, Rapporto, "v");
 }
 
-void Punteggio::MostraRisultati(int ora) {
+void PannelloPunteggio::MostraRisultati(int ora) {
     Lresatte.Caption = testi_.TxtRisposteEsatte + std::to_string(Esatte);
     Lrerrate.Caption = testi_.TxtRisposteErrate + std::to_string(Errate);
     OraFine = ora;

@@ -1,12 +1,12 @@
-#include "trainer/automatic.h"
+#include "trainer/automatic_panel.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace corvana {
 
-Automatico::Automatico(Form& finestra, const TestiLingua& testi, StatoEsercizio& stato,
-                       std::function<void()> fuocoAStart)
+PannelloAutomatico::PannelloAutomatico(Form& finestra, const TestiLingua& testi,
+                                       StatoEsercizio& stato, std::function<void()> fuocoAStart)
     : finestra_(finestra), testi_(testi), stato_(stato), fuocoAStart_(std::move(fuocoAStart)) {
     Slider1.Min = 20;
     Slider1.Max = 140;
@@ -17,26 +17,26 @@ Automatico::Automatico(Form& finestra, const TestiLingua& testi, StatoEsercizio&
     Shape6.Visible = false;
 }
 
-void Automatico::Mostra(bool mostra) {
+void PannelloAutomatico::Mostra(bool mostra) {
     for (Controllo* c : std::initializer_list<Controllo*>{&lblAuto1, &lblAuto2, &Slider1, &Velocità,
                                                           &Shape5, &Shape6})
         c->Visible = mostra;
 }
 
-void Automatico::MostraVelocità() {
+void PannelloAutomatico::MostraVelocità() {
     Velocità.Caption = testi_.TxtVelocita + std::to_string(Slider1.Value());
 }
 
-void Automatico::PonVelocità(int noteAlMinuto) {
+void PannelloAutomatico::PonVelocità(int noteAlMinuto) {
     Slider1.PonValore(std::clamp(noteAlMinuto, Slider1.Min(), Slider1.Max()));
 }
 
-void Automatico::Slider1_Change() {
+void PannelloAutomatico::Slider1_Change() {
     Slider1_Scroll();
     fuocoAStart_();
 }
 
-void Automatico::Slider1_Scroll() {
+void PannelloAutomatico::Slider1_Scroll() {
     stato_.SecondiNota = 60.0 / Slider1.Value();
     MostraVelocità();
 }

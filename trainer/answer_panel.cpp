@@ -1,4 +1,4 @@
-#include "trainer/answers.h"
+#include "trainer/answer_panel.h"
 
 namespace corvana {
 
@@ -10,7 +10,8 @@ constexpr std::array<const char*, numeroRisposte> nomiAnglo = {"C", "D", "E", "F
 
 }  // namespace
 
-Risposte::Risposte(Form& finestra, const std::function<void(int)>& dai) : finestra_(finestra) {
+PannelloRisposte::PannelloRisposte(Form& finestra, const std::function<void(int)>& dai)
+    : finestra_(finestra) {
     int risposta = 0;
     for (Bottone* bottone : Bottoni()) {
         bottone->BackColor = coloreRisposta;
@@ -18,16 +19,16 @@ Risposte::Risposte(Form& finestra, const std::function<void(int)>& dai) : finest
     }
 }
 
-std::array<Bottone*, numeroRisposte> Risposte::Bottoni() {
+std::array<Bottone*, numeroRisposte> PannelloRisposte::Bottoni() {
     return {&pdo, &pre, &pmi, &pfa, &psol, &pla, &psi};
 }
 
-void Risposte::Abilita(bool abilita) {
+void PannelloRisposte::Abilita(bool abilita) {
     for (Bottone* bottone : Bottoni())
         bottone->Enabled = abilita;
 }
 
-void Risposte::PonNomi(bool anglo) {
+void PannelloRisposte::PonNomi(bool anglo) {
     const auto& nomi = anglo ? nomiAnglo : nomiLatini;
     const auto bottoni = Bottoni();
     for (std::size_t i = 0; i < bottoni.size(); ++i)

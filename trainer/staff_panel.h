@@ -8,10 +8,10 @@
 
 namespace corvana {
 
-class Pentagramma {
+class PannelloPentagramma {
 public:
     /// Makes the controls in `finestra`, which must live as long as the panel.
-    Pentagramma(Form& finestra, HoverFinestra& hover);
+    PannelloPentagramma(Form& finestra, HoverFinestra& hover);
 
 private:
     Form& finestra_;

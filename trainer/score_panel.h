@@ -5,14 +5,14 @@
 #include <string>
 
 #include "forms/form.h"
-#include "trainer/shared.h"
+#include "trainer/exercise_state.h"
 
 namespace corvana {
 
-class Punteggio {
+class PannelloPunteggio {
 public:
     /// Makes the controls in `finestra`; it and the texts must live as long as the panel.
-    Punteggio(Form& finestra, const TestiLingua& testi);
+    PannelloPunteggio(Form& finestra, const TestiLingua& testi);
 
 private:
     Form& finestra_;

@@ -1,4 +1,4 @@
-#include "trainer/range_choice.h"
+#include "trainer/range_panel.h"
 
 #include <algorithm>
 #include <utility>
@@ -8,8 +8,8 @@
 
 namespace corvana {
 
-Intervalli::Intervalli(Form& finestra, StatoEsercizio& stato, Cornice& regolo,
-                       std::function<void(bool)> pronto)
+PannelloIntervalli::PannelloIntervalli(Form& finestra, StatoEsercizio& stato, Cornice& regolo,
+                                       std::function<void(bool)> pronto)
     : finestra_(finestra), stato_(stato), pronto_(std::move(pronto)) {
     for (const RigaEsercizio& riga : righeEsercizio)
         difficolt.AddItem(std::string(riga.testo));
@@ -17,7 +17,7 @@ Intervalli::Intervalli(Form& finestra, StatoEsercizio& stato, Cornice& regolo,
     regolo.MouseDown = [this](const Evento& e) { Regolo_MouseDown(e.codice, e.shift, e.x, e.y); };
 }
 
-void Intervalli::difficolt_Click() {
+void PannelloIntervalli::difficolt_Click() {
     const int indice = difficolt.ListIndex;
     if (indice < 0) return;
     const RigaEsercizio& riga = righeEsercizio.at(static_cast<std::size_t>(indice));
@@ -32,7 +32,7 @@ void Intervalli::difficolt_Click() {
     pronto_(true);
 }
 
-void Intervalli::Regolo_MouseDown(int /*Button*/, int /*Shift*/, int /*X*/, int Y) {
+void PannelloIntervalli::Regolo_MouseDown(int /*Button*/, int /*Shift*/, int /*X*/, int Y) {
     if (segni.Completi()) return;
     pronto_(false);
     if (segni.Nessuno()) Nascondinote(finestra_);
@@ -43,7 +43,7 @@ void Intervalli::Regolo_MouseDown(int /*Button*/, int /*Shift*/, int /*X*/, int 
     ImpostaIntervallo();
 }
 
-void Intervalli::ImpostaIntervallo() {
+void PannelloIntervalli::ImpostaIntervallo() {
     if (segni.PrimoClick == segni.SecondoClick) {
         segni = {};
         Nascondinote(finestra_);
@@ -53,19 +53,19 @@ void Intervalli::ImpostaIntervallo() {
     if (segni.Completi()) pronto_(true);
 }
 
-void Intervalli::SelezionaRigaDiPartenza() {
+void PannelloIntervalli::SelezionaRigaDiPartenza() {
     if (const auto riga = RigaDiPartenza(stato_.LimiteBasso, stato_.LimiteAlto))
         difficolt.Seleziona(*riga);
     else
         VisualizzaLimiti();
 }
 
-void Intervalli::PonLimiti(int uno, int altro) {
+void PannelloIntervalli::PonLimiti(int uno, int altro) {
     stato_.LimiteBasso = static_cast<std::uint8_t>(std::min(uno, altro));
     stato_.LimiteAlto = static_cast<std::uint8_t>(std::max(uno, altro));
 }
 
-void Intervalli::VisualizzaLimiti() {
+void PannelloIntervalli::VisualizzaLimiti() {
     VisualizzaNota(finestra_, stato_.LimiteAlto);
     VisualizzaNota(finestra_, stato_.LimiteBasso);
 }

@@ -7,23 +7,24 @@
 #include <functional>
 
 #include "forms/form.h"
-#include "trainer/score.h"
-#include "trainer/shared.h"
+#include "trainer/exercise_state.h"
+#include "trainer/score_panel.h"
 
 namespace corvana {
 
-class Esercizio {
+/// What a run makes of the rest of the window.
+struct VicineEsercizio {
+    /// False when a run begins and nothing else may be done, true when it is over.
+    std::function<void(bool)> fermo;
+    std::function<void(bool)> abilitaRisposte;
+};
+
+class PannelloEsercizio {
 public:
-    /// What a run makes of the rest of the window.
-    struct Legami {
-        /// False when a run begins and nothing else may be done, true when it is over.
-        std::function<void(bool)> fermo;
-        std::function<void(bool)> abilitaRisposte;
-    };
     /// Makes the controls in `finestra`, which must have the notes of the staff; it and the rest
     /// must live as long as the panel. `nome` shows the name of the note.
-    Esercizio(Form& finestra, const Ambiente& ambiente, StatoEsercizio& stato, Etichetta& nome,
-              Legami legami);
+    PannelloEsercizio(Form& finestra, const Ambiente& ambiente, StatoEsercizio& stato,
+                      Etichetta& nome, VicineEsercizio vicine);
 
 private:
     Form& finestra_;
@@ -31,7 +32,7 @@ private:
 
 public:
     Bottone Start{finestra_, "Start"};
-    Punteggio punteggio{finestra_, a_.globali.testi};
+    PannelloPunteggio punteggio{finestra_, a_.globali.testi};
 
     bool InCorso = false;                               ///< a run is in progress
     std::array<bool, numeroRisposte> RispostaGiusta{};  ///< at most one is true
@@ -59,7 +60,7 @@ private:
 
     StatoEsercizio& stato_;
     Etichetta& nome_;
-    Legami legami_;
+    VicineEsercizio vicine_;
     std::uint32_t corsa_ = 0;  ///< number of the run, so that a loop knows whether it is its own
 };
 

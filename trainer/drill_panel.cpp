@@ -1,5 +1,5 @@
 // A run of questions: its start and end, the notes that it asks, the answers of normal mode.
-#include "trainer/drill.h"
+#include "trainer/drill_panel.h"
 
 #include <utility>
 
@@ -10,36 +10,36 @@
 
 namespace corvana {
 
-Esercizio::Esercizio(Form& finestra, const Ambiente& ambiente, StatoEsercizio& stato,
-                     Etichetta& nome, Legami legami)
-    : finestra_(finestra), a_(ambiente), stato_(stato), nome_(nome), legami_(std::move(legami)) {
+PannelloEsercizio::PannelloEsercizio(Form& finestra, const Ambiente& ambiente,
+                                     StatoEsercizio& stato, Etichetta& nome, VicineEsercizio vicine)
+    : finestra_(finestra), a_(ambiente), stato_(stato), nome_(nome), vicine_(std::move(vicine)) {
     Start.BackColor = coloreFermo;
     Start.Click = [this] { Start_Click(); };
 }
 
-void Esercizio::Start_Click() {
+void PannelloEsercizio::Start_Click() {
     if (Corre()) {
         nome_.Caption = "";
         return FermaEsercizio();
     }
     Start.Caption = "Stop";
     Start.BackColor = coloreRisposta;
-    legami_.fermo(false);
+    vicine_.fermo(false);
     Nascondinote(finestra_);
     InCorso = true;
     ++corsa_;
     punteggio.Comincia(a_.pompa.OraDelGiorno());
     if (stato_.Modo == "automatico") return CicloAutomatico();
-    legami_.abilitaRisposte(true);
+    vicine_.abilitaRisposte(true);
     Mostranota();
 }
 
-void Esercizio::FermaEsercizio() {
+void PannelloEsercizio::FermaEsercizio() {
     Start.Caption = "Start";
     Start.BackColor = coloreFermo;
-    legami_.fermo(true);
+    vicine_.fermo(true);
     a_.suono.SuonaNota(-1);
-    legami_.abilitaRisposte(false);
+    vicine_.abilitaRisposte(false);
     InCorso = false;
     Nascondinote(finestra_);
     Start.Enabled = true;
@@ -48,7 +48,7 @@ void Esercizio::FermaEsercizio() {
     a_.suono.SuonaNota(-1);
 }
 
-void Esercizio::Mostranota() {
+void PannelloEsercizio::Mostranota() {
     Nascondinote(finestra_);
     do {
         stato_.NotaCorrente =
@@ -61,7 +61,7 @@ void Esercizio::Mostranota() {
     AnnunciaNota();
 }
 
-void Esercizio::AnnunciaNota() {
+void PannelloEsercizio::AnnunciaNota() {
     const std::int16_t valore = CercaPosizione(stato_.NotaCorrente)->valore;
     nome_.Caption =
         NomeNota(static_cast<std::int16_t>(valore + scartoIndiceNota), a_.globali.NomiAnglo);
@@ -71,12 +71,12 @@ void Esercizio::AnnunciaNota() {
         SuonaOnda(a_, "rok.wav", sndSenzaPredefinito);
 }
 
-void Esercizio::DaiRisposta(int risposta) {
+void PannelloEsercizio::DaiRisposta(int risposta) {
     TastoPremuto.at(static_cast<std::size_t>(risposta - 1)) = true;
     ControllaRisposta(risposta);
 }
 
-void Esercizio::ControllaRisposta(int risposta) {
+void PannelloEsercizio::ControllaRisposta(int risposta) {
     if (stato_.Modo != "normale" || !InCorso) return;
     const auto indice = static_cast<std::size_t>(risposta - 1);
     if (RispostaGiusta.at(indice) && TastoPremuto.at(indice)) {

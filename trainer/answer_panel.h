@@ -5,15 +5,15 @@
 #include <functional>
 
 #include "forms/form.h"
-#include "trainer/shared.h"
+#include "trainer/exercise_state.h"
 
 namespace corvana {
 
-class Risposte {
+class PannelloRisposte {
 public:
     /// Makes the buttons in `finestra`, which must live as long as the panel. `dai` takes the
     /// answer of a click, 1 for DO to 7 for SI.
-    Risposte(Form& finestra, const std::function<void(int)>& dai);
+    PannelloRisposte(Form& finestra, const std::function<void(int)>& dai);
 
 private:
     Form& finestra_;

@@ -1,4 +1,4 @@
-#include "trainer/main_menus.h"
+#include "trainer/main_menu.h"
 
 namespace corvana {
 

@@ -9,7 +9,7 @@
 
 namespace corvana {
 
-class BarraStrumenti {
+class PannelloBarra {
 public:
     /// A click is honoured only while this is enabled.
     struct Guardie {
@@ -20,7 +20,7 @@ public:
     using Azioni = std::array<std::function<void()>, 7>;
 
     /// Makes the controls in `finestra`; it and the rest must live as long as the panel.
-    BarraStrumenti(Form& finestra, HoverFinestra& hover, Guardie guardie, Azioni azioni);
+    PannelloBarra(Form& finestra, HoverFinestra& hover, Guardie guardie, Azioni azioni);
 
 private:
     Form& finestra_;

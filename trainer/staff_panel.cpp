@@ -1,4 +1,4 @@
-#include "trainer/staff.h"
+#include "trainer/staff_panel.h"
 
 #include <array>
 
@@ -6,7 +6,8 @@
 
 namespace corvana {
 
-Pentagramma::Pentagramma(Form& finestra, HoverFinestra& hover) : finestra_(finestra) {
+PannelloPentagramma::PannelloPentagramma(Form& finestra, HoverFinestra& hover)
+    : finestra_(finestra) {
     for (const Posizione& p : Posizioni())
         n.emplace_back(finestra_, "n" + std::to_string(p.numero), &img);
     DisponiNote();
@@ -16,7 +17,7 @@ Pentagramma::Pentagramma(Form& finestra, HoverFinestra& hover) : finestra_(fines
     hover.LasciaSu({&img, &Regolo});
 }
 
-void Pentagramma::DisponiNote() {
+void PannelloPentagramma::DisponiNote() {
     constexpr std::array stili = {"maschera", "testa", "acuta"};
     auto nota = n.begin();
     for (const Posizione& p : Posizioni()) {
@@ -29,7 +30,7 @@ void Pentagramma::DisponiNote() {
     }
 }
 
-void Pentagramma::lblMn_Click() {
+void PannelloPentagramma::lblMn_Click() {
     const bool mostra = lblMn.Caption() == "?";
     lblMn.Caption = mostra ? "" : "?";
     lblnn.Visible = mostra;

@@ -1,4 +1,4 @@
-#include "metronome/panel.h"
+#include "metronome/metronome_panel.h"
 
 #include "core/effects.h"
 #include "core/text.h"

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "forms/form.h"
+#include "trainer/exercise_state.h"
 #include "trainer/secondary_windows.h"
-#include "trainer/shared.h"
 
 namespace corvana {
 

@@ -4,16 +4,16 @@
 #include <functional>
 
 #include "forms/form.h"
-#include "trainer/shared.h"
+#include "trainer/exercise_state.h"
 
 namespace corvana {
 
-class Automatico {
+class PannelloAutomatico {
 public:
     /// Makes the controls in `finestra`; it and the rest must live as long as the panel.
     /// `fuocoAStart` gives the focus back when the slider was let go.
-    Automatico(Form& finestra, const TestiLingua& testi, StatoEsercizio& stato,
-               std::function<void()> fuocoAStart);
+    PannelloAutomatico(Form& finestra, const TestiLingua& testi, StatoEsercizio& stato,
+                       std::function<void()> fuocoAStart);
 
 private:
     Form& finestra_;
