@@ -1,5 +1,6 @@
 #include "desktop/remote_mirror.h"
 
+#include "forms/controls.h"
 #include "forms/form.h"
 
 namespace corvana {

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "forms/control.h"
+#include "forms/controls.h"
 #include "forms/mirror.h"
 
 namespace corvana {

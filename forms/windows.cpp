@@ -189,28 +189,13 @@ void Finestre::Riferisci(Controllo& controllo, const Evento& evento) {
 }
 
 void Finestre::Smista(Controllo& controllo, const Evento& evento) {
-    Form& form = controllo.Finestra();
-    switch (evento.fatto) {
-        case Fatto::Click: return controllo.Click();
-        case Fatto::DblClick: return controllo.DblClick();
-        case Fatto::Change: return controllo.Change();
-        case Fatto::Scroll: return controllo.Scroll();
-        case Fatto::Invio: return controllo.Invio();
-        case Fatto::LostFocus: return controllo.LostFocus();
-        case Fatto::MouseDown: return controllo.MouseDown(evento);
-        case Fatto::MouseUp: return controllo.MouseUp(evento);
-        case Fatto::MouseMove: return controllo.MouseMove(evento);
-        case Fatto::KeyDown: return TastoGiu(form, evento);
-        case Fatto::KeyUp: return form.Form_KeyUp(evento);
-        case Fatto::Chiudi: Scarica(form); return;
-        case Fatto::FuocoPerso:
-        case Fatto::Spostata: return;
+    if (evento.fatto == Fatto::Chiudi) {
+        Scarica(controllo.Finestra());
+        return;
     }
-}
-
-void Finestre::TastoGiu(Form& form, const Evento& tasto) const {
-    if (tasto.codice == vk::f1 && !tasto.ripetuto) ChiediAiuto();
-    form.Form_KeyDown(tasto);
+    const bool f1 = evento.fatto == Fatto::KeyDown && evento.codice == vk::f1;
+    if (f1 && !evento.ripetuto) ChiediAiuto();
+    controllo.Ricevi(evento);
 }
 
 void Finestre::ChiediAiuto() const {

@@ -66,7 +66,6 @@ private:
     bool Proteggi(const std::function<void()>& cosa);
     void Riferisci(Controllo& controllo, const Evento& evento);
     void Smista(Controllo& controllo, const Evento& evento);
-    void TastoGiu(Form& form, const Evento& tasto) const;
 
     Pompa& pompa_;
     Riquadri& riquadri_;

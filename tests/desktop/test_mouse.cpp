@@ -64,6 +64,15 @@ TEST(Mouse, TheButtonComesUpWhenAModalWindowOrABoxTakesTheMouseAway) {
     EXPECT_EQ(palco.Diario(), (Righe{"bottone giu", "bottone su"}));
 }
 
+TEST(Mouse, TheButtonComesUpWhenItsWindowIsBlockedThoughTheKeyboardStaysThere) {
+    Palco palco;
+    Sinistro(palco).Giu(Mezzo(palco, "toccabile"));
+    EXPECT_EQ(palco.Diario(), (Righe{"toccabile giu"}));
+    QEvent bloccata(QEvent::WindowBlocked);
+    QCoreApplication::sendEvent(palco.scrivania.Davanti()->Finestra().windowHandle(), &bloccata);
+    EXPECT_EQ(palco.Diario(), (Righe{"toccabile su"}));
+}
+
 TEST(Mouse, AReleaseThatNobodySawIsToldWithTheNextMove) {
     Palco palco;
     Sinistro(palco).Giu(Mezzo(palco, "toccabile"));

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "forms/control.h"
+#include "forms/controls.h"
 #include "forms/fault.h"
 #include "tests/forms/form_rig.h"
 
