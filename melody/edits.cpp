@@ -88,7 +88,6 @@ void Accoda(VoceMelodia& voce, const TokenNota& token) {
 }
 
 void InserisciDopo(VoceMelodia& voce, long i, const TokenNota& token) {
-    if (i < -1) throw Guasto(guastoIndice, "Subscript out of range");
     ControllaPosto(voce, 1);
     std::string note = ConDopo(voce.noteVoce, i, token.nota);
     std::string durate = ConDopo(voce.durateVoce, i, token.durata);

@@ -20,6 +20,35 @@ std::int16_t Piu(std::int16_t indice, int passo) {
     return static_cast<std::int16_t>(nuovo);
 }
 
+/// The texts of a voice on their way to a new note `i`.
+struct Riscrittura {
+    long i;
+    EsitoModifica esito;
+    std::string note, durate, attributi;
+
+    void Scrivi(std::string& testo, const std::string& token) {
+        testo = SostituisciToken(testo, i, token);
+        esito.cambiato = true;
+    }
+    void Nota(std::int16_t nota) {
+        Scrivi(note, std::to_string(nota));
+        esito.mostrata = nota;
+    }
+    void Pausa() {
+        Scrivi(note, tokenPausa);
+        esito.mostrata = 0;
+    }
+    void Durata(const NotaVoluta& voluta) {
+        esito.terzinaUsata = voluta.terzina;
+        const double valore = voluta.terzina ? voluta.valore * 2 / 3 : voluta.valore;
+        Scrivi(durate, TestoNumero(valore, voluta.separatore));
+    }
+    void Attributo(const NotaVoluta& voluta) {
+        Scrivi(attributi, voluta.attributo);
+        voluta.attributo == "p" ? Pausa() : Nota(voluta.nota);
+    }
+};
+
 }  // namespace
 
 std::int16_t PassoAvanti(std::int16_t indice, const TrattoPasso& tratto) {
@@ -31,36 +60,14 @@ std::int16_t PassoIndietro(std::int16_t indice, const TrattoPasso& tratto) {
 }
 
 EsitoModifica ModificaNota(VoceMelodia& voce, long i, const NotaVoluta& voluta) {
-    EsitoModifica esito;
-    std::string note = voce.testoNote;
-    std::string durate = voce.testoDurate;
-    std::string attributi = voce.testoAttributi;
-    const auto scrivi = [&](std::string& testo, const std::string& token) {
-        testo = SostituisciToken(testo, i, token);
-        esito.cambiato = true;
-    };
-    const auto scriviNota = [&](std::int16_t nota, const std::string& token) {
-        scrivi(note, token);
-        esito.mostrata = nota;
-    };
-    if (NumeroNota(Elemento(voce.noteVoce, i)) != voluta.nota)
-        scriviNota(voluta.nota, std::to_string(voluta.nota));
-    if (NumeroReale(Elemento(voce.durateVoce, i)) != voluta.valore) {
-        esito.terzinaUsata = voluta.terzina;
-        const double valore = voluta.terzina ? voluta.valore * 2 / 3 : voluta.valore;
-        scrivi(durate, TestoNumero(valore, voluta.separatore));
-    }
-    if (Elemento(voce.attributiVoce, i) != voluta.attributo) {
-        scrivi(attributi, voluta.attributo);
-        if (voluta.attributo == "p")
-            scriviNota(0, tokenPausa);
-        else
-            scriviNota(voluta.nota, std::to_string(voluta.nota));
-    }
-    voce.testoNote = std::move(note);
-    voce.testoDurate = std::move(durate);
-    voce.testoAttributi = std::move(attributi);
-    return esito;
+    Riscrittura nuova{i, {}, voce.testoNote, voce.testoDurate, voce.testoAttributi};
+    if (NumeroNota(Elemento(voce.noteVoce, i)) != voluta.nota) nuova.Nota(voluta.nota);
+    if (NumeroReale(Elemento(voce.durateVoce, i)) != voluta.valore) nuova.Durata(voluta);
+    if (Elemento(voce.attributiVoce, i) != voluta.attributo) nuova.Attributo(voluta);
+    voce.testoNote = std::move(nuova.note);
+    voce.testoDurate = std::move(nuova.durate);
+    voce.testoAttributi = std::move(nuova.attributi);
+    return nuova.esito;
 }
 
 DopoCancellata CancellataSotto(std::int16_t indice, std::int16_t primaNota) {

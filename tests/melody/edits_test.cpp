@@ -92,6 +92,14 @@ TEST(InserisciDopo, BehindANoteThatIsntThereIsAFault) {
               6);
 }
 
+TEST(InserisciDopo, AVoiceTakes32767NotesAlsoInItsMidst) {
+    VoceMelodia voce = Lunga(32766);
+    InserisciDopo(voce, 5, {"62", "1", "n"});
+    Spezza(voce);
+    EXPECT_EQ(voce.numeroNote, 32767);
+    EXPECT_EQ(voce.noteVoce[6], "62");
+}
+
 TEST(InserisciDopo, WithFewerDurationsThanNotesIsAFaultOnlyBehindTheirEnd) {
     const VoceMelodia corta = VoceSpezzata("60;62;64;", "1;", "n;n;n;");
     EXPECT_EQ(GuastoSenzaDanno(corta,
