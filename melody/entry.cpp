@@ -66,9 +66,7 @@ void CalcolaPausa(StatoInserimento& stato, VoceMelodia& voce, std::int16_t per) 
     stato.valoreNota = Valore(stato, per);
     stato.letteraAttributo = "p";
     if (stato.attributoAttivo == attributoLegatura) Lega(stato, voce);
-    if (stato.attributoAttivo != attributoTerzina) return;
-    ContaNota(stato);
-    stato.valoreNota = (stato.valoreFigura + stato.valoreFigura) / 3 * per;
+    if (stato.attributoAttivo == attributoTerzina) ContaNota(stato);
 }
 
 /// A triplet goes on until it has three notes; any other attribute goes out. True when a triplet

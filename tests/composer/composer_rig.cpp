@@ -180,8 +180,8 @@ void BancoComposer::CliccaNelTick(int tick, const std::string& controllo) {
     Clicca(pompa.Adesso() + (tick - 0.5) * DurataTick(), controllo);
 }
 
-void BancoComposer::NelTick(int tick, OrologioVirtuale::Passo passo) {
-    Quando(pompa.Adesso() + (tick - 0.5) * DurataTick(), std::move(passo));
+void BancoComposer::NelTick(int tick, OrologioVirtuale::Passo gesto) {
+    Quando(pompa.Adesso() + (tick - 0.5) * DurataTick(), std::move(gesto));
 }
 
 }  // namespace corvana::prova

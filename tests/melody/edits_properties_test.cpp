@@ -33,7 +33,7 @@ struct Redattore {
 
     int Note() const { return static_cast<int>(modello.size()); }
     int Qualsiasi() const { return *rc::gen::inRange(0, Note()); }
-    auto Dopo(int i) { return modello.begin() + i + 1; }
+    auto Dopo(int i) { return modello.begin() + (i + 1); }
 
     void Nota(bool pausa) {
         stato.notaAttiva = static_cast<std::int16_t>(*rc::gen::inRange(36, 96));

@@ -205,9 +205,11 @@ TEST(Moltiplicatore, IsTheWholeNumberInTheBox) {
                                         {"3,5", 4},
                                         {"0.4", 0},
                                         {"-3", -3},
-                                        {"32767", 32767}})
+                                        {"32767", 32767},
+                                        {"-32768", -32768}})
         EXPECT_EQ(Moltiplicatore(testo), atteso) << testo;
-    for (const auto& [testo, numero] : {std::pair{"", 13}, {"x", 13}, {"1e", 13}, {"32768", 6}})
+    for (const auto& [testo, numero] :
+         {std::pair{"", 13}, {"x", 13}, {"1e", 13}, {"32768", 6}, {"-32769", 6}})
         EXPECT_EQ(NumeroDelGuasto([t = testo] { Moltiplicatore(t); }), numero) << testo;
 }
 
