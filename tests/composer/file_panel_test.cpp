@@ -167,6 +167,13 @@ TEST(ListaFD, AnExtensionInCapitalsIsAMelodysToo) {
     EXPECT_EQ(b.RigheDi("/m/"), (Righe{"» ..", "new", "OLD", "x"}));
 }
 
+TEST(ListaFD, FilesOfOneNameAreOneRowAlsoWhenAnotherStandsBetweenThem) {
+    BancoPannello b;
+    for (const char* nome : {"x.MEL", "x.a.mel", "x.mel"})
+        b.file.contenuti[std::string("/m/") + nome] = "";
+    EXPECT_EQ(b.RigheDi("/m/"), (Righe{"» ..", "x", "x.a"}));
+}
+
 TEST(CmdEseguiFile, AFileWithItsExtensionInCapitalsIsLoadedAndSavedAsTheFileItIs) {
     BancoPannello b;
     std::string& vecchio = b.file.contenuti[std::string(b.demo) + "OLD.MEL"];
