@@ -87,6 +87,11 @@ void Schermo::AvviaGestore() {
                          "XDG_CONFIG_HOME=" + cartella_.Percorso().string()}});
     if (!Aspetta([this] { return !Valori(radice_, "_NET_SUPPORTING_WM_CHECK").empty(); }))
         throw std::runtime_error("openbox doesn't start");
+    // It answers once it is ready: what appears earlier is never given the keyboard.
+    const std::string quante = "_NET_NUMBER_OF_DESKTOPS";
+    Chiedi(radice_, quante, {1});
+    if (!Aspetta([&] { return Valori(radice_, quante) == std::vector<std::uint32_t>{1}; }))
+        throw std::runtime_error("openbox doesn't answer");
 }
 
 bool Schermo::Aspetta(const std::function<bool()>& condizione) {
