@@ -13,8 +13,6 @@ PannelloAutomatico::PannelloAutomatico(Form& finestra, const TestiLingua& testi,
     Slider1.Value = 30;
     Slider1.Change = [this] { Slider1_Change(); };
     Slider1.Scroll = [this] { Slider1_Scroll(); };
-    Shape5.Visible = false;
-    Shape6.Visible = false;
 }
 
 void PannelloAutomatico::Mostra(bool mostra) {
