@@ -87,10 +87,12 @@ void Schermo::AvviaGestore() {
                          "XDG_CONFIG_HOME=" + cartella_.Percorso().string()}});
     if (!Aspetta([this] { return !Valori(radice_, "_NET_SUPPORTING_WM_CHECK").empty(); }))
         throw std::runtime_error("openbox doesn't start");
-    // It answers once it is ready: what appears earlier is never given the keyboard.
+    // What appears before it answers is never given the keyboard, and so early it may miss a word.
     const std::string quante = "_NET_NUMBER_OF_DESKTOPS";
-    Chiedi(radice_, quante, {1});
-    if (!Aspetta([&] { return Valori(radice_, quante) == std::vector<std::uint32_t>{1}; }))
+    if (!Aspetta([&] {
+            Chiedi(radice_, quante, {1});
+            return Valori(radice_, quante) == std::vector<std::uint32_t>{1};
+        }))
         throw std::runtime_error("openbox doesn't answer");
 }
 
