@@ -85,6 +85,29 @@ TEST(Etichetta, OneThatCanBeClickedIsAButtonToTheKeyboardAndToAScreenReader) {
     EXPECT_EQ(palco.Diario(), (Righe{"giu 32", "su 32", "toccabile click"}));
 }
 
+TEST(Etichetta, OneBecomesAButtonWhileItIsShownAndCeasesToBeOne) {
+    Palco palco;
+    const Cosa scritta = Trova(palco.scrivania, "scritta");
+    EXPECT_FALSE(scritta.Fermata());
+    int volte = 0;
+    palco.NellaLogica([&](FormDiProva& form) { form.scritta.Click = [&] { ++volte; }; });
+    EXPECT_TRUE(scritta.Fermata());
+    EXPECT_EQ(scritta.PerLettore()->role(), QAccessible::Button);
+    scritta.setFocus(Qt::TabFocusReason);
+    Batti(palco.scrivania, Qt::Key_Space);
+    Muovi(scritta, scritta.rect().center());
+    EXPECT_EQ(scritta.Suolo().cursor().shape(), Qt::PointingHandCursor);
+    Clicca(palco.scrivania, "scritta");
+    palco.NellaLogica([](FormDiProva& form) { form.scritta.Click = nullptr; });
+    EXPECT_EQ(volte, 2);
+    EXPECT_FALSE(scritta.Fermata());
+    EXPECT_FALSE(scritta.hasFocus());
+    EXPECT_NE(scritta.PerLettore()->role(), QAccessible::Button);
+    Clicca(palco.scrivania, "scritta");
+    palco.Diario();
+    EXPECT_EQ(volte, 2);
+}
+
 void TieniInvio(Scrivania& scrivania) {
     Premi(scrivania, Qt::Key_Return);
     QKeyEvent ripetuto(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
