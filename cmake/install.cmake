@@ -4,11 +4,15 @@ include(GNUInstallDirs)
 # Hardened as a distribution's own programs are.
 target_compile_options(corvana_strict INTERFACE $<$<CONFIG:Release>:-fstack-protector-strong
                        -fstack-clash-protection -D_FORTIFY_SOURCE=2>)
-target_link_options(corvana PRIVATE $<$<CONFIG:Release>:LINKER:-z,relro,-z,now>)
+foreach(linked corvana corvana_outputs_module)
+    target_link_options(${linked} PRIVATE $<$<CONFIG:Release>:LINKER:-z,relro,-z,now>)
+endforeach()
 
 set(laid ${PROJECT_BINARY_DIR}/data)
 set(desktop ${PROJECT_SOURCE_DIR}/data/desktop)
 install(TARGETS corvana RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+# Where the program looks for it, from its own folder.
+install(TARGETS corvana_outputs_module LIBRARY DESTINATION lib/corvana)
 install(FILES ${laid}/langit.csv ${laid}/langen.csv DESTINATION ${CMAKE_INSTALL_DATADIR}/corvana)
 install(FILES ${laid}/note/rok.wav ${laid}/note/rko.wav
         DESTINATION ${CMAKE_INSTALL_DATADIR}/corvana/note)

@@ -84,6 +84,10 @@ corvana::Riquadri& Applicazione::Riquadri() {
     return interno_->scrivania.Riquadri();
 }
 
+void Applicazione::AspettaDipinta(std::chrono::milliseconds pazienza) const {
+    interno_->scrivania.Dipinta().Aspetta(pazienza);
+}
+
 Scrivania& Applicazione::LaScrivania() {
     return interno_->scrivania;
 }

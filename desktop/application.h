@@ -2,6 +2,7 @@
 // its windows stand. GUI thread, which is the thread that constructs it; one at a time.
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -27,6 +28,9 @@ public:
     Specchio& Schermo();
     /// The boxes that the logic waits for; for the logic thread.
     corvana::Riquadri& Riquadri();
+
+    /// Returns when the first window has been painted, or after `pazienza`; for any thread.
+    void AspettaDipinta(std::chrono::milliseconds pazienza) const;
 
     /// The real windows.
     Scrivania& LaScrivania();

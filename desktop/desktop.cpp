@@ -70,12 +70,14 @@ void Scrivania::Termina() {
 }
 
 void Scrivania::ChiediFine() {
+    dipinta_.Rinuncia();
     coda_.ChiediFine();
     specchio_.Rilascia();
     if (riquadro_) riquadro_->reject();
 }
 
 bool Scrivania::TerminaAlBuio(std::chrono::milliseconds pazienza) {
+    dipinta_.Rinuncia();
     coda_.ChiediFine();
     specchio_.Rilascia();
     const auto fine = fineLogica_.get_future();
@@ -106,6 +108,7 @@ void Scrivania::Smista(Comando& comando) {
 
 void Scrivania::Fai(const MostraFinestra& comando) {
     finestre_.push_back(std::make_unique<VistaFinestra>(comando, coda_, tastiera_, Davanti()));
+    dipinta_.Segui(*Davanti()->Finestra().windowHandle());
 }
 
 void Scrivania::Fai(const CambiaProprieta& comando) {

@@ -13,6 +13,7 @@
 #include <thread>
 #include <vector>
 
+#include "desktop/first_paint.h"
 #include "desktop/help_window.h"
 #include "desktop/keyboard.h"
 #include "desktop/remote_mirror.h"
@@ -48,6 +49,9 @@ public:
     /// logic takes no note of it within `pazienza`, and goes on.
     bool TerminaAlBuio(std::chrono::milliseconds pazienza);
 
+    /// When the first window has been painted.
+    const PrimaPittura& Dipinta() const { return dipinta_; }
+
     /// The window in front, or null.
     VistaFinestra* Davanti();
     /// The box that waits for an answer, or null.
@@ -74,6 +78,7 @@ private:
     Cassetta cassetta_;
     SpecchioRemoto specchio_{cassetta_};
     Tastiera tastiera_;
+    PrimaPittura dipinta_;
     std::vector<std::unique_ptr<VistaFinestra>> finestre_;
     std::unique_ptr<FinestraAiuto> aiuto_;
     QPointer<QDialog> riquadro_;
