@@ -12,7 +12,7 @@ set(laid ${PROJECT_BINARY_DIR}/data)
 set(desktop ${PROJECT_SOURCE_DIR}/data/desktop)
 install(TARGETS corvana RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 # Where the program looks for it, from its own folder.
-install(TARGETS corvana_outputs_module LIBRARY DESTINATION lib/corvana)
+install(TARGETS corvana_outputs_module LIBRARY DESTINATION ${CORVANA_MODULES})
 install(FILES ${laid}/langit.csv ${laid}/langen.csv DESTINATION ${CMAKE_INSTALL_DATADIR}/corvana)
 install(FILES ${laid}/note/rok.wav ${laid}/note/rko.wav
         DESTINATION ${CMAKE_INSTALL_DATADIR}/corvana/note)

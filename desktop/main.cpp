@@ -53,7 +53,7 @@ Macchina QuestaMacchina(const Applicazione& applicazione) {
     macchina.uscite = [=, &applicazione](const std::function<double()>& istante) {
         return std::make_unique<UsciteDifferite>([=, &applicazione] {
             applicazione.AspettaDipinta(attesaDipinta);
-            return CaricaUscite(qui + moduloUscite, istante, impostazioni);
+            return CaricaUscite(qui + CORVANA_OUTPUTS, istante, impostazioni);
         });
     };
     macchina.puntuale = PreferisciPuntualita;

@@ -9,8 +9,6 @@
 
 namespace corvana {
 
-/// Where the module lies, from the program's folder.
-constexpr const char* moduloUscite = "/../lib/corvana/outputs.so";
 /// Its one entry: makes outputs that belong to the caller.
 constexpr const char* entrataUscite = "CreaUscite";
 using CreazioneUscite = PiattaformaMidi*(const std::function<double()>& istante,
