@@ -7,6 +7,8 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QPainterPath>
+#include <functional>
+#include <utility>
 
 #include "desktop/face_painter.h"
 #include "desktop/theme.h"
@@ -19,11 +21,17 @@ constexpr double margineTesto = 6;  ///< designed pixels beside the text
 
 class Scrittura final : public QLineEdit {
 public:
-    Scrittura(const Vista& vista, QWidget& padre) : QLineEdit(&padre), vista_(vista) {
+    /// `mostrata` is called when it comes to be seen.
+    Scrittura(const Vista& vista, QWidget& padre, std::function<void()> mostrata)
+        : QLineEdit(&padre), vista_(vista), mostrata_(std::move(mostrata)) {
         setFrame(false);
     }
 
 protected:
+    void showEvent(QShowEvent* evento) override {
+        mostrata_();
+        QLineEdit::showEvent(evento);
+    }
     void paintEvent(QPaintEvent* evento) override {
         Aspetto fondo = vista_.Stato();
         if (fondo.fondo == coloreDiSistema && !fondo.locked) fondo.fondo = InColore(tinta::carta);
@@ -79,6 +87,7 @@ private:
     }
 
     const Vista& vista_;
+    const std::function<void()> mostrata_;
 };
 
 }  // namespace
@@ -92,7 +101,7 @@ QString Filtrato(const QString& battuto, char32_t (*filtro)(char32_t)) {
 }
 
 VistaCasella::VistaCasella(const CopiaControllo& copia, Mittente mittente, QWidget& padre)
-    : Vista(copia, mittente), casella_(new Scrittura(*this, padre)) {
+    : Vista(copia, mittente), casella_(new Scrittura(*this, padre, [this] { Riscala(); })) {
     PonWidget(*casella_);
     if (copia.lunghezzaMassima > 0) casella_->setMaxLength(copia.lunghezzaMassima);
     PonBlocco();
@@ -151,9 +160,10 @@ void VistaCasella::Rinfresca(Nome nome) {
 
 void VistaCasella::Riscala() {
     QFont font = Carattere(Stato().stile, Scala());
-    // A box that is only read never scrolls: what is too long for it gets smaller letters.
+    // A box that is only read never scrolls: what is too long for it gets smaller letters. Each
+    // size costs some time: one that nobody sees yet waits.
     const double spazio = casella_->width() - 2 * (margineTesto + 4) * Scala();
-    while (Stato().locked && font.pixelSize() > 6 &&
+    while (Stato().locked && casella_->isVisible() && font.pixelSize() > 6 &&
            QFontMetricsF(font).horizontalAdvance(Stato().text) > spazio)
         font.setPixelSize(font.pixelSize() - 1);
     casella_->setFont(font);

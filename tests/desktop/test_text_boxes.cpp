@@ -79,6 +79,21 @@ TEST(Casella, ALockedOneShowsAndTakesNothing) {
     EXPECT_EQ(palco.Diario(), (Righe{"giu 51", "su 51"}));
 }
 
+TEST(Casella, ALockedOneFitsTheTextThatItGotWhileHidden) {
+    Palco palco([](FormDiProva& form) {
+        form.casella.Locked = true;
+        form.casella.Visible = false;
+    });
+    QLineEdit& casella = CasellaDi(palco);
+    const auto avanza = [&] {
+        return casella.width() - QFontMetricsF(casella.font()).horizontalAdvance(casella.text());
+    };
+    palco.NellaLogica([](FormDiProva& form) { form.casella.Text = "a text too long for its box"; });
+    EXPECT_LT(avanza(), 0);
+    palco.NellaLogica([](FormDiProva& form) { form.casella.Visible = true; });
+    EXPECT_GT(avanza(), 0);
+}
+
 TEST(Casella, EnterIsToldBetweenItsPressAndItsRelease) {
     Palco palco;
     CasellaDi(palco);
