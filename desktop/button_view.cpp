@@ -2,10 +2,9 @@
 
 #include <QCheckBox>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QPushButton>
+#include <QStyleOptionButton>
 
-#include "desktop/face_painter.h"
 #include "desktop/key_map.h"
 #include "desktop/theme.h"
 
@@ -15,30 +14,27 @@ namespace {
 
 class Pulsante final : public QPushButton {
 public:
-    Pulsante(const Vista& vista, QWidget& padre) : QPushButton(&padre), vista_(vista) {
+    explicit Pulsante(QWidget& padre) : QPushButton(&padre) {
         setAttribute(Qt::WA_Hover);
         setFocusPolicy(Qt::StrongFocus);
     }
 
 protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter p(this);
-        DipingiBottone(p, QRectF(rect()), vista_.Stato(), vista_.Scala(),
-                       {underMouse(), isDown(), hasFocus(), isEnabled()});
+    void initStyleOption(QStyleOptionButton* o) const override {
+        QPushButton::initStyleOption(o);
+        // The toolkit waits for a move where the pointer came, or was already.
+        o->state.setFlag(QStyle::State_MouseOver, underMouse());
     }
     void keyPressEvent(QKeyEvent* tasto) override {
         if (!EInvio(tasto->key())) return QPushButton::keyPressEvent(tasto);
         if (!tasto->isAutoRepeat()) click();
     }
-
-private:
-    const Vista& vista_;
 };
 
 }  // namespace
 
 VistaBottone::VistaBottone(const CopiaControllo& copia, Mittente mittente, QWidget& padre)
-    : Vista(copia, mittente), bottone_(new Pulsante(*this, padre)) {
+    : Vista(copia, mittente), bottone_(new Pulsante(padre)) {
     PonWidget(*bottone_);
     Rinfresca(Nome::Caption);
     QObject::connect(bottone_, &QAbstractButton::clicked, bottone_,

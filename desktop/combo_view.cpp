@@ -2,13 +2,10 @@
 
 #include <QComboBox>
 #include <QListView>
-#include <QPainter>
-#include <QPainterPath>
 #include <QScrollBar>
 #include <QWheelEvent>
 #include <algorithm>
 
-#include "desktop/face_painter.h"
 #include "desktop/row_painter.h"
 #include "desktop/theme.h"
 
@@ -16,11 +13,7 @@ namespace corvana {
 
 namespace {
 
-constexpr int righeVisibili = 12;      ///< of the open list; the others are scrolled to
-constexpr double postoFreccia = 26;    ///< designed pixels at the right end
-constexpr double rientro = 8;          ///< designed pixels before the text
-constexpr double mezzaFreccia = 4.5;   ///< designed pixels
-constexpr double spessoreFreccia = 2;  ///< designed pixels
+constexpr int righeVisibili = 12;  ///< of the open list; the others are scrolled to
 
 /// The rows that drop down.
 class Tendina final : public QListView {
@@ -43,10 +36,6 @@ public:
         setFocusPolicy(Qt::StrongFocus);
         setMaxVisibleItems(righeVisibili);
         setView(new Tendina(*this));
-        VestiRighe(*view(), vista);
-        QPalette cornice = view()->parentWidget()->palette();
-        cornice.setColor(QPalette::WindowText, tinta::filoForte);
-        view()->parentWidget()->setPalette(cornice);
     }
     void showPopup() override {
         if (count() == 0) return;
@@ -57,18 +46,6 @@ public:
     void PonApertura(std::function<void()> apertura) { apertura_ = std::move(apertura); }
 
 protected:
-    void paintEvent(QPaintEvent*) override {
-        Aspetto aspetto = vista_.Stato();
-        aspetto.stile << QStringLiteral("scelta");
-        const QRectF area(rect());
-        QPainter p(this);
-        const bool fuoco = hasFocus() || view()->isVisible();
-        const Tocco tocco{underMouse(), false, fuoco, isEnabled()};
-        DipingiFondo(p, area, aspetto, vista_.Scala(), tocco);
-        DipingiTestoScelto(p);
-        DipingiFreccia(p);
-        if (tocco.fuoco) DipingiAnello(p, area, vista_.Scala());
-    }
     void wheelEvent(QWheelEvent* rotella) override {
         // The wheel chooses only where the user is: elsewhere it would change what it passes over.
         if (hasFocus())
@@ -78,36 +55,12 @@ protected:
     }
 
 private:
-    QColor Penna() const {
-        return isEnabled() ? InQt(vista_.Stato().penna, tinta::inchiostro) : tinta::spento;
-    }
     int LarghezzaDelleRighe() const {
         int larghezza = 0;
         for (int i = 0; i < count(); ++i)
             larghezza = std::max(larghezza, fontMetrics().horizontalAdvance(itemText(i)));
         if (count() > righeVisibili) larghezza += view()->verticalScrollBar()->sizeHint().width();
         return larghezza + MargineDellaRiga(vista_.Scala());
-    }
-    void DipingiTestoScelto(QPainter& p) const {
-        const double s = vista_.Scala();
-        const QRectF posto = QRectF(rect()).adjusted(rientro * s, 0, -postoFreccia * s, 0);
-        p.setFont(font());
-        p.setPen(Penna());
-        const QString testo = fontMetrics().elidedText(currentText(), Qt::ElideRight,
-                                                       static_cast<int>(posto.width()));
-        p.drawText(posto, Qt::AlignVCenter | Qt::AlignLeft, testo);
-    }
-    void DipingiFreccia(QPainter& p) const {
-        const double s = vista_.Scala();
-        const QPointF c(width() - postoFreccia * s / 2, height() / 2.0);
-        QPainterPath freccia;
-        freccia.moveTo(c + QPointF(-mezzaFreccia, -mezzaFreccia / 2) * s);
-        freccia.lineTo(c + QPointF(0, mezzaFreccia / 2) * s);
-        freccia.lineTo(c + QPointF(mezzaFreccia, -mezzaFreccia / 2) * s);
-        p.setBrush(Qt::NoBrush);
-        p.setPen(QPen(isEnabled() ? tinta::accento : tinta::spento, spessoreFreccia * s,
-                      Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        p.drawPath(freccia);
     }
 
     const Vista& vista_;
@@ -154,7 +107,7 @@ void VistaCombo::Rinfresca(Nome nome) {
 
 void VistaCombo::Riscala() {
     combo_->setFont(Carattere(Stato().stile, Scala()));
-    RiscalaRighe(*combo_->view(), *this);
+    RiscalaRighe(*combo_->view(), Stato(), Scala());
 }
 
 }  // namespace corvana

@@ -35,7 +35,7 @@ void Anello(QPainter& p, const QPainterPath& sagoma, double scala) {
     p.setPen(QPen(tinta::accento, 5 * scala));
     p.setBrush(Qt::NoBrush);
     p.drawPath(sagoma);
-    p.setPen(QPen(Qt::white, 1.2 * scala));
+    p.setPen(QPen(tinta::stacco, 1.2 * scala));
     p.drawPath(sagoma);
 }
 
@@ -98,7 +98,7 @@ void DipingiBarretta(QPainter& p, const QRectF& area, const QColor& colore, doub
 
 void DipingiDoCentrale(QPainter& p, const QRectF& area, const QColor& colore, double scala) {
     p.setRenderHint(QPainter::Antialiasing);
-    p.setPen(QPen(Qt::white, scala / 2));
+    p.setPen(QPen(tinta::stacco, scala / 2));
     p.setBrush(colore);
     p.drawEllipse(area.adjusted(scala / 4, scala / 4, -scala / 4, -scala / 4));
 }

@@ -36,12 +36,12 @@ void DipingiSede(QPainter& p, const QRectF& area, Colore colore, double scala) {
 
 void DipingiAlone(QPainter& p, const QPointF& c, const QColor& colore, double raggio) {
     QRadialGradient alone(c, raggio);
-    const auto passo = [&](double dove, QColor tinta, int opaca) {
-        tinta.setAlpha(opaca);
-        alone.setColorAt(dove, tinta);
+    const auto passo = [&](double dove, QColor luce, int opaca) {
+        luce.setAlpha(opaca);
+        alone.setColorAt(dove, luce);
     };
-    passo(0, Qt::white, 255);
-    passo(0.45, Qt::white, 235);
+    passo(0, tinta::bagliore, 255);
+    passo(0.45, tinta::bagliore, 235);
     passo(0.62, colore.lighter(135), 190);
     passo(1, colore, 0);
     p.setBrush(alone);
@@ -75,7 +75,7 @@ void DipingiLuce(QPainter& p, const QRectF& area, Colore colore, double scala) {
     const QColor luce = InQt(colore, tinta::spento);
     DipingiAlone(p, area.center(), luce, raggioBagliore * scala);
     // Light around the shape parts it from its own glow.
-    p.setPen(QPen(Qt::white, 2 * scala, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    p.setPen(QPen(tinta::bagliore, 2 * scala, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     p.setBrush(luce);
     p.drawPath(Contorno(SagomaDi(colore), area.center(), raggioSagoma * scala));
 }

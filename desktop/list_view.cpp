@@ -2,14 +2,12 @@
 
 #include <QKeyEvent>
 #include <QListWidget>
-#include <QPainter>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 #include <algorithm>
 #include <functional>
 
-#include "desktop/face_painter.h"
 #include "desktop/row_painter.h"
-#include "desktop/theme.h"
 
 namespace corvana {
 
@@ -17,16 +15,33 @@ namespace {
 
 constexpr double aria = 5;  ///< pixels between the list's edge and its rows
 
+/// Rows that are as high as the list has them, whatever the style makes of their text.
+class RigaAlta final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void PonAltezza(int pixel) { altezza_ = pixel; }
+    int Altezza() const { return altezza_; }
+    QSize sizeHint(const QStyleOptionViewItem& o, const QModelIndex& indice) const override {
+        return {QStyledItemDelegate::sizeHint(o, indice).width(), altezza_};
+    }
+
+private:
+    int altezza_ = 0;
+};
+
 class Elenco final : public QListWidget {
 public:
     Elenco(const Vista& vista, std::function<void(int)> scelta, QWidget& padre)
         : QListWidget(&padre), vista_(vista), scelta_(std::move(scelta)) {
-        setFrameShape(NoFrame);
+        // It is painted, and takes no room of its own.
+        setFrameShape(Panel);
+        setLineWidth(0);
         setUniformItemSizes(true);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setVerticalScrollMode(ScrollPerItem);
         viewport()->setAutoFillBackground(false);
-        VestiRighe(*this, vista);
+        setItemDelegate(riga_);
         connect(this, &QListWidget::currentRowChanged, this, [this](int riga) {
             if (!preme_ && riga >= 0) scelta_(riga);
         });
@@ -42,15 +57,14 @@ public:
         const QMargins margini(margine, margine + avanzo / 2, margine,
                                margine + avanzo - avanzo / 2);
         if (margini != viewportMargins()) setViewportMargins(margini);
-        if (std::exchange(riga_, riga) == riga) return;
-        static_cast<Riga*>(itemDelegate())->PonAltezza(riga);
+        if (riga_->Altezza() == riga) return;
+        riga_->PonAltezza(riga);
         scheduleDelayedItemsLayout();
     }
 
 protected:
     bool event(QEvent* evento) override {
         if (evento->type() == QEvent::Resize) Adatta();
-        if (evento->type() == QEvent::Paint) DipingiCornice();
         return QListWidget::event(evento);
     }
     void mousePressEvent(QMouseEvent* mouse) override {
@@ -78,19 +92,10 @@ protected:
     }
 
 private:
-    void DipingiCornice() {
-        Aspetto aspetto = vista_.Stato();
-        if (aspetto.fondo == coloreDiSistema) aspetto.fondo = InColore(tinta::carta);
-        aspetto.stile << QStringLiteral("carta");
-        QPainter p(this);
-        DipingiFondo(p, QRectF(rect()), aspetto, vista_.Scala(), {});
-        if (hasFocus()) DipingiAnello(p, QRectF(rect()), vista_.Scala());
-    }
-
     const Vista& vista_;
     std::function<void(int)> scelta_;
     bool preme_ = false;
-    int riga_ = 0;  ///< pixels that a row is high
+    RigaAlta* riga_ = new RigaAlta(this);
 };
 
 }  // namespace
@@ -134,7 +139,7 @@ void VistaLista::Rinfresca(Nome nome) {
 }
 
 void VistaLista::Riscala() {
-    RiscalaRighe(*lista_, *this);
+    RiscalaRighe(*lista_, Stato(), Scala());
     static_cast<Elenco*>(lista_)->Adatta();
 }
 

@@ -14,7 +14,7 @@ Aspetto Acceso(Aspetto aspetto) {
     if (!aspetto.Ha("aiuto") || !aspetto.caption.isEmpty()) return aspetto;
     aspetto.caption = QStringLiteral("?");
     aspetto.fondo = InColore(tinta::accento);
-    aspetto.penna = Rgb(255, 255, 255);
+    aspetto.penna = InColore(tinta::suAccento);
     return aspetto;
 }
 

@@ -1,19 +1,48 @@
 #include "desktop/row_painter.h"
 
 #include <QAbstractItemView>
-#include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
 
 #include "desktop/theme.h"
-#include "desktop/view.h"
 
 namespace corvana {
 
 namespace {
 
-constexpr double altezzaRiga = 20;  ///< designed pixels
-constexpr double rientroRiga = 8;   ///< designed pixels before the text
+// In designed pixels.
+constexpr double altezzaRiga = 20;
+constexpr double rientroRiga = 8;  ///< before the text
+constexpr double raggioRiga = 5;
+
+bool Scelta(const QStyleOptionViewItem& o) {
+    return o.state.testFlag(QStyle::State_Selected);
+}
+
+void EvidenziaRiga(QPainter& p, const QStyleOptionViewItem& o, double scala) {
+    p.setPen(Qt::NoPen);
+    p.setBrush(Scelta(o) ? tinta::accento : tinta::accentoTenue);
+    p.drawRoundedRect(QRectF(o.rect), raggioRiga * scala, raggioRiga * scala);
+}
+
+void DipingiFiloRiga(QPainter& p, const QStyleOptionViewItem& o, double scala) {
+    const QRectF riga(o.rect);
+    const double rientro = rientroRiga * scala;
+    p.setPen(QPen(Scelta(o) ? tinta::suAccento : tinta::filo, scala));
+    p.drawLine(QPointF(riga.left() + rientro, riga.center().y()),
+               QPointF(riga.right() - rientro, riga.center().y()));
+}
+
+void ScriviRiga(QPainter& p, const QStyleOptionViewItem& o, Colore penna, double scala) {
+    const bool abilitata = o.state.testFlag(QStyle::State_Enabled);
+    const QColor colore = abilitata ? InQt(penna, tinta::inchiostro) : tinta::spento;
+    const int rientro = static_cast<int>(rientroRiga * scala);
+    const QRect posto = o.rect.adjusted(rientro, 0, rientro - MargineDellaRiga(scala), 0);
+    p.setPen(Scelta(o) ? tinta::suAccento : colore);
+    p.setFont(o.font);
+    p.drawText(posto, Qt::AlignVCenter | Qt::AlignLeft,
+               o.fontMetrics.elidedText(o.text, Qt::ElideRight, posto.width()));
+}
 
 }  // namespace
 
@@ -26,55 +55,19 @@ int MargineDellaRiga(double scala) {
     return rientro + rientro / 2;
 }
 
-QSize Riga::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
-    return {0, altezza_ > 0 ? altezza_ : AltezzaDellaRiga(vista_.Scala())};
-}
-
-void Riga::paint(QPainter* p, const QStyleOptionViewItem& o, const QModelIndex& indice) const {
-    const QString testo = indice.data().toString();
-    const bool scelta = o.state.testFlag(QStyle::State_Selected);
-    p->save();
-    p->setRenderHint(QPainter::Antialiasing);
-    if (scelta || o.state.testFlag(QStyle::State_MouseOver)) Evidenzia(*p, o.rect, scelta);
-    if (testo.count(QLatin1Char('-')) == testo.size())
-        Filo(*p, o.rect, scelta);
+void DipingiRiga(QPainter& p, const QStyleOptionViewItem& o, const Aspetto& aspetto, double scala) {
+    p.save();
+    p.setRenderHint(QPainter::Antialiasing);
+    if (Scelta(o) || o.state.testFlag(QStyle::State_MouseOver)) EvidenziaRiga(p, o, scala);
+    if (o.text.count(QLatin1Char('-')) == o.text.size())
+        DipingiFiloRiga(p, o, scala);
     else
-        Scrivi(*p, o, testo, scelta);
-    p->restore();
+        ScriviRiga(p, o, aspetto.penna, scala);
+    p.restore();
 }
 
-void Riga::Evidenzia(QPainter& p, const QRectF& riga, bool scelta) const {
-    p.setPen(Qt::NoPen);
-    p.setBrush(scelta ? tinta::accento : tinta::accentoTenue);
-    p.drawRoundedRect(riga, 5 * vista_.Scala(), 5 * vista_.Scala());
-}
-
-void Riga::Filo(QPainter& p, const QRectF& riga, bool scelta) const {
-    p.setPen(QPen(scelta ? QColor(Qt::white) : tinta::filo, vista_.Scala()));
-    const double rientro = rientroRiga * vista_.Scala();
-    p.drawLine(QPointF(riga.left() + rientro, riga.center().y()),
-               QPointF(riga.right() - rientro, riga.center().y()));
-}
-
-void Riga::Scrivi(QPainter& p, const QStyleOptionViewItem& o, const QString& testo,
-                  bool scelta) const {
-    const bool abilitata = o.state.testFlag(QStyle::State_Enabled);
-    const QColor penna = InQt(vista_.Stato().penna, tinta::inchiostro);
-    p.setPen(scelta ? QColor(Qt::white) : abilitata ? penna : tinta::spento);
-    p.setFont(o.font);
-    const int rientro = static_cast<int>(rientroRiga * vista_.Scala());
-    const int margine = MargineDellaRiga(vista_.Scala());
-    const QRect posto = o.rect.adjusted(rientro, 0, rientro - margine, 0);
-    p.drawText(posto, Qt::AlignVCenter | Qt::AlignLeft,
-               o.fontMetrics.elidedText(testo, Qt::ElideRight, posto.width()));
-}
-
-void VestiRighe(QAbstractItemView& elenco, const Vista& vista) {
-    elenco.setItemDelegate(new Riga(vista, elenco));
-}
-
-void RiscalaRighe(QAbstractItemView& elenco, const Vista& vista) {
-    elenco.setFont(Carattere(vista.Stato().stile, vista.Scala()));
+void RiscalaRighe(QAbstractItemView& elenco, const Aspetto& aspetto, double scala) {
+    elenco.setFont(Carattere(aspetto.stile, scala));
     elenco.verticalScrollBar()->updateGeometry();
 }
 

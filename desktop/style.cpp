@@ -9,9 +9,12 @@
 
 #include "desktop/bar_painter.h"
 #include "desktop/face_painter.h"
+#include "desktop/field_painter.h"
 #include "desktop/menu_painter.h"
+#include "desktop/row_painter.h"
 #include "desktop/scale.h"
 #include "desktop/theme.h"
+#include "desktop/widget_aspect.h"
 
 namespace corvana {
 
@@ -55,12 +58,45 @@ void DipingiSpunta(QPainter& p, const QStyleOption& o, double scala) {
     p.setPen(QPen(segnata || tocco.sopra ? forte : tinta::filoForte, 2 * mezzo));
     p.setBrush(segnata ? forte : tocco.premuto ? tinta::accentoTenue : tinta::carta);
     p.drawRoundedRect(QRectF(o.rect).adjusted(mezzo, mezzo, -mezzo, -mezzo), 4 * scala, 4 * scala);
-    if (segnata) DipingiSegnata(p, o.rect, Qt::white, scala);
+    if (segnata) DipingiSegnata(p, o.rect, tinta::suAccento, scala);
 }
 
 void DipingiTavola(QPainter& p, const QRect& area) {
     p.fillRect(area, tinta::filoForte);
     p.fillRect(area.adjusted(1, 1, -1, -1), tinta::carta);
+}
+
+void DipingiCornice(QPainter& p, const QStyleOptionFrame& o, const Aspetto& a, double scala) {
+    const bool fuoco = o.state.testFlag(QStyle::State_HasFocus);
+    if (o.frameShape == QFrame::Panel) DipingiElenco(p, o.rect, a, scala, fuoco);
+    if (o.frameShape == QFrame::Box) DipingiTavola(p, o.rect);
+}
+
+/// The program's own controls; false for what looks the same in all boxes, or isn't theirs.
+bool DipingiControllo(QStyle::ControlElement cosa, const QStyleOption& o, QPainter& p,
+                      const Aspetto& a, double scala) {
+    const auto* scelta = qstyleoption_cast<const QStyleOptionComboBox*>(&o);
+    const auto* riga = qstyleoption_cast<const QStyleOptionViewItem*>(&o);
+    const auto* cornice = qstyleoption_cast<const QStyleOptionFrame*>(&o);
+    if (cosa == QStyle::CE_PushButton)
+        DipingiBottone(p, o.rect, a, scala, ToccoDi(o));
+    else if (cosa == QStyle::CE_ComboBoxLabel && scelta)
+        DipingiTestoScelto(p, *scelta, a, scala);
+    else if (cosa == QStyle::CE_ItemViewItem && riga)
+        DipingiRiga(p, *riga, a, scala);
+    else if (cosa == QStyle::CE_ShapedFrame && cornice)
+        DipingiCornice(p, *cornice, a, scala);
+    else
+        return false;
+    return true;
+}
+
+/// An open one has the focus, wherever that is among its rows; it never looks pressed.
+Tocco ToccoScelta(const QStyleOptionComboBox& o) {
+    Tocco tocco = ToccoDi(o);
+    tocco.premuto = false;
+    tocco.fuoco = tocco.fuoco || o.state.testFlag(QStyle::State_On);
+    return tocco;
 }
 
 QRect ParteScorrimento(const QStyleOptionSlider& o, QStyle::SubControl parte, double scala) {
@@ -110,6 +146,8 @@ QSize Stile::sizeFromContents(ContentsType cosa, const QStyleOption* o, const QS
     const auto* voce = qstyleoption_cast<const QStyleOptionMenuItem*>(o);
     if (cosa == CT_MenuItem && voce) return MisuraVoce(*voce, dentro, ScalaDi(widget));
     if (cosa == CT_MenuBarItem && voce) return MisuraVoceSbarra(dentro, ScalaDi(widget));
+    // How wide the rows of a list are is its own to choose.
+    if (cosa == CT_ItemViewItem && AspettoDi(widget)) return {0, AltezzaDellaRiga(ScalaDi(widget))};
     return QProxyStyle::sizeFromContents(cosa, o, dentro, widget);
 }
 
@@ -130,6 +168,9 @@ QRect Stile::subControlRect(ComplexControl cosa, const QStyleOptionComplex* o, S
 
 void Stile::drawPrimitive(PrimitiveElement cosa, const QStyleOption* o, QPainter* p,
                           const QWidget* widget) const {
+    const Aspetto* aspetto = AspettoDi(widget);
+    if (cosa == PE_PanelLineEdit && aspetto)
+        return DipingiCasella(*p, o->rect, *aspetto, ScalaDi(widget), ToccoDi(*o).fuoco);
     switch (cosa) {
         case PE_PanelButtonCommand:
             return DipingiBottone(*p, o->rect, {}, ScalaDi(widget), ToccoDi(*o));
@@ -144,6 +185,8 @@ void Stile::drawPrimitive(PrimitiveElement cosa, const QStyleOption* o, QPainter
 void Stile::drawControl(ControlElement cosa, const QStyleOption* o, QPainter* p,
                         const QWidget* widget) const {
     const auto* voce = qstyleoption_cast<const QStyleOptionMenuItem*>(o);
+    const Aspetto* aspetto = AspettoDi(widget);
+    if (aspetto && DipingiControllo(cosa, *o, *p, *aspetto, ScalaDi(widget))) return;
     if (cosa == CE_MenuItem && voce) return DipingiVoce(*p, *voce, ScalaDi(widget));
     if (cosa == CE_MenuBarItem && voce) return DipingiVoceSbarra(*p, *voce, ScalaDi(widget));
     if (cosa == CE_MenuBarEmptyArea) return p->fillRect(o->rect, tinta::finestra);
@@ -153,6 +196,10 @@ void Stile::drawControl(ControlElement cosa, const QStyleOption* o, QPainter* p,
 void Stile::drawComplexControl(ComplexControl cosa, const QStyleOptionComplex* o, QPainter* p,
                                const QWidget* widget) const {
     const auto* barra = qstyleoption_cast<const QStyleOptionSlider*>(o);
+    const auto* scelta = qstyleoption_cast<const QStyleOptionComboBox*>(o);
+    const Aspetto* aspetto = AspettoDi(widget);
+    if (cosa == CC_ComboBox && scelta && aspetto)
+        return DipingiScelta(*p, *scelta, *aspetto, ScalaDi(widget), ToccoScelta(*scelta));
     if (cosa == CC_Slider && barra) return DipingiBarra(*p, *barra, ScalaDi(widget));
     if (cosa == CC_ScrollBar && barra) return DipingiScorrimento(*p, *barra, ScalaDi(widget));
     QProxyStyle::drawComplexControl(cosa, o, p, widget);

@@ -1,5 +1,7 @@
-// Paints and measures what Qt's own widgets show, in the program's colours and in the scale of the
-// window's face: push buttons, sliders, scroll bars, check boxes, menus, focus. GUI thread.
+// Paints and measures all that is a widget of the toolkit, in the program's colours and in the
+// scale of the window's face. A widget of a control is painted after the control's properties; what
+// the toolkit shows of its own accord, message boxes and the like, has the same buttons, menus and
+// bars. GUI thread.
 #pragma once
 
 #include <QProxyStyle>

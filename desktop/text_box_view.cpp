@@ -5,12 +5,9 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenuBar>
-#include <QPainter>
-#include <QPainterPath>
 #include <functional>
 #include <utility>
 
-#include "desktop/face_painter.h"
 #include "desktop/theme.h"
 
 namespace corvana {
@@ -32,18 +29,6 @@ protected:
         mostrata_();
         QLineEdit::showEvent(evento);
     }
-    void paintEvent(QPaintEvent* evento) override {
-        Aspetto fondo = vista_.Stato();
-        if (fondo.fondo == coloreDiSistema && !fondo.locked) fondo.fondo = InColore(tinta::carta);
-        QPainter p(this);
-        fondo.bordo = 1;
-        fondo.stile << QStringLiteral("tondo");
-        DipingiFondo(p, QRectF(rect()), fondo, vista_.Scala(), {});
-        DipingiSegno(p);
-        if (hasFocus()) DipingiAnello(p, QRectF(rect()), vista_.Scala());
-        p.end();
-        QLineEdit::paintEvent(evento);
-    }
     void keyPressEvent(QKeyEvent* tasto) override {
         const QString battuto = tasto->text();
         if (battuto.isEmpty() || !battuto[0].isPrint()) return QLineEdit::keyPressEvent(tasto);
@@ -59,27 +44,6 @@ protected:
     }
 
 private:
-    /// What the number tells, for those who don't know its place or its colour.
-    void DipingiSegno(QPainter& p) const {
-        const bool giusto = vista_.Stato().Ha("giuste");
-        if (!giusto && !vista_.Stato().Ha("sbagliate")) return;
-        const double s = vista_.Scala();
-        QPainterPath segno;
-        if (giusto) {
-            segno.addPolygon(QPolygonF({{-5, 0}, {-1.5, 4}, {5, -4.5}}));
-        } else {
-            segno.addPolygon(QPolygonF({QPointF(-4, -4), QPointF(4, 4)}));
-            segno.addPolygon(QPolygonF({QPointF(-4, 4), QPointF(4, -4)}));
-        }
-        p.setRenderHint(QPainter::Antialiasing);
-        p.setBrush(Qt::NoBrush);
-        p.setPen(QPen(giusto ? tinta::giusto : tinta::sbagliato, 2.4, Qt::SolidLine, Qt::RoundCap,
-                      Qt::RoundJoin));
-        p.translate(14 * s, height() / 2.0);
-        p.scale(s, s);
-        p.drawPath(segno);
-        p.resetTransform();
-    }
     /// As if that had been typed.
     void Inserisci(const QString& testo) {
         QKeyEvent altro(QEvent::KeyPress, 0, Qt::NoModifier, testo);
@@ -146,7 +110,6 @@ void VistaCasella::PonBlocco() {
 
 void VistaCasella::PonColori() {
     QPalette colori = casella_->palette();
-    colori.setColor(QPalette::Base, Qt::transparent);
     colori.setColor(QPalette::Text, InQt(Stato().penna, tinta::inchiostro));
     casella_->setPalette(colori);
 }

@@ -22,7 +22,7 @@ void Attiva(QPalette& p) {
     p.setColor(QPalette::AlternateBase, tinta::pannello);
     p.setColor(QPalette::Button, tinta::pannello);
     p.setColor(QPalette::Highlight, tinta::accento);
-    p.setColor(QPalette::HighlightedText, Qt::white);
+    p.setColor(QPalette::HighlightedText, tinta::suAccento);
     p.setColor(QPalette::ToolTipBase, tinta::carta);
     p.setColor(QPalette::ToolTipText, tinta::inchiostro);
     p.setColor(QPalette::PlaceholderText, tinta::spento);
@@ -65,11 +65,11 @@ Qt::Alignment Allineamento(const QStringList& stile) {
 }
 
 QColor PiuScura(const QColor& colore, double quanto) {
-    return Verso(colore, Qt::black, quanto);
+    return Verso(colore, tinta::buio, quanto);
 }
 
 QColor PiuChiara(const QColor& colore, double quanto) {
-    return Verso(colore, Qt::white, quanto);
+    return Verso(colore, tinta::chiarore, quanto);
 }
 
 }  // namespace corvana

@@ -19,12 +19,15 @@ inline const QColor inchiostroTenue{0x6A, 0x62, 0x56};
 inline const QColor spento{0xA8, 0x9F, 0x91};   ///< what can't be used now
 inline const QColor accento{0x1F, 0x6F, 0x78};  ///< focus, selection, thumbs
 inline const QColor accentoTenue{0xD6, 0xE8, 0xE6};
+inline const QColor suAccento{0xFF, 0xFF, 0xFF};  ///< what is written or marked on it
 inline const QColor giusto{0x2A, 0x7D, 0x3F};
 inline const QColor sbagliato{0xBF, 0x36, 0x2C};
 inline const QColor bottone{0xFF, 0xFD, 0xF8};
 inline const QColor ombra{90, 70, 40, 26};            ///< that a button throws
 inline const QColor sede{60, 40, 20, 70};             ///< of a light that is out
+inline const QColor bagliore{0xFF, 0xFF, 0xFF};       ///< the middle of a light that is lit
 inline const QColor striscia{0xFB, 0xF3, 0xDD, 235};  ///< the slips of the ruler
+inline const QColor buio{0, 0, 0}, chiarore{0xFF, 0xFF, 0xFF};  ///< the ends of dark and light
 
 // Of the keyboard on the screen.
 inline const QColor avorio{0xFF, 0xFE, 0xFB};
@@ -33,6 +36,7 @@ inline const QColor solcoTasti{0x57, 0x4F, 0x45};     ///< between them
 inline const QColor ebano{0x1C, 0x1A, 0x18};
 inline const QColor ebanoLucido{0x4A, 0x46, 0x41};
 inline const QColor ombraTasti{0, 0, 0, 0x50};
+inline const QColor stacco{0xFF, 0xFF, 0xFF};  ///< parts a mark from the key beneath
 }  // namespace tinta
 
 QPalette TavolozzaDelProgramma();

@@ -1,6 +1,7 @@
 #include "desktop/view.h"
 
 #include "desktop/mouse.h"
+#include "desktop/widget_aspect.h"
 
 namespace corvana {
 
@@ -25,6 +26,7 @@ void Vista::PonWidget(QWidget& widget, QWidget* bersaglio) {
 void Vista::PonWidgetMuto(QWidget& widget) {
     widget_ = &widget;
     widget.setObjectName(aspetto_.nome);
+    PonAspetto(widget, aspetto_);
     for (const auto& [nome, valore] : copia_.proprieta)
         RinfrescaComune(nome);
 }
