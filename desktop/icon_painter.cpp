@@ -1,10 +1,10 @@
 #include "desktop/icon_painter.h"
 
-#include <QPixmap>
-#include <QPixmapCache>
 #include <QSvgRenderer>
 #include <algorithm>
 #include <cmath>
+
+#include "desktop/drawn_once.h"
 
 namespace corvana {
 
@@ -29,20 +29,10 @@ QRect Quadrato(const QRectF& area) {
             QSize(lato, lato)};
 }
 
-/// The picture at that size, drawn once; Qt's cache keeps it as long as there is room.
-QPixmap Immagine(const QString& nome, int lato, double punti) {
-    const QString chiave = QStringLiteral("icona %1 %2 %3").arg(nome).arg(lato).arg(punti);
-    QPixmap immagine;
-    if (QPixmapCache::find(chiave, &immagine)) return immagine;
-    const int intero = static_cast<int>(std::lround(lato * punti));
-    immagine = QPixmap(intero, intero);
-    immagine.fill(Qt::transparent);
-    QPainter p(&immagine);
-    QSvgRenderer(Percorso(nome)).render(&p);
-    p.end();
-    immagine.setDevicePixelRatio(punti);
-    QPixmapCache::insert(chiave, immagine);
-    return immagine;
+QPixmap Immagine(const QString& nome, int lato, double densita) {
+    const int punti = static_cast<int>(std::lround(lato * densita));
+    return DisegnatoUnaVolta(QStringLiteral("icona ") + nome, {punti, punti}, densita,
+                             [&](QPainter& p) { QSvgRenderer(Percorso(nome)).render(&p); });
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "desktop/aspect.h"
 #include "desktop/theme.h"
+#include "metronome/pattern.h"
 
 namespace corvana {
 
@@ -52,9 +53,9 @@ void DipingiAlone(QPainter& p, const QPointF& c, const QColor& colore, double ra
 
 SagomaLuce SagomaDi(Colore colore) {
     switch (colore) {
-        case Rgb(255, 0, 0): return SagomaLuce::Quadro;
-        case Rgb(0, 255, 0): return SagomaLuce::Disco;
-        case Rgb(0, 0, 255): return SagomaLuce::Triangolo;
+        case coloreA: return SagomaLuce::Quadro;
+        case coloreB: return SagomaLuce::Disco;
+        case coloreC: return SagomaLuce::Triangolo;
         default: return SagomaLuce::Punto;
     }
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/drawn_once.h"
 #include "desktop/music_font.h"
 #include "desktop/staff_geometry.h"
 #include "desktop/theme.h"
@@ -25,16 +26,12 @@ void Linea(QPainter& p, double da, double a, double y, double spessore, double p
 }
 
 void Chiave(QPainter& p, Segno segno, double x, int primaLinea) {
-    const QPainterPath& traccia = TracciaSegno(segno);
-    const QRectF area(
-        QPointF(x, AltezzaDi(primaLinea)) + traccia.boundingRect().topLeft() * spazioPentagramma,
-        traccia.boundingRect().size() * spazioPentagramma);
-    // A clef takes as long as all else of the staff: it isn't painted for a note beside it.
-    if (p.hasClipping() && !p.clipBoundingRect().intersects(area)) return;
+    const bool violino = segno == Segno::ChiaveViolino;
+    const QString nome = violino ? QStringLiteral("violino") : QStringLiteral("basso");
     p.save();
     p.translate(x, AltezzaDi(primaLinea));
     p.scale(spazioPentagramma, spazioPentagramma);
-    p.fillPath(traccia, tinta::inchiostro);
+    RiempiUnaVolta(p, nome, TracciaSegno(segno), tinta::inchiostro);
     p.restore();
 }
 
@@ -63,7 +60,7 @@ void DipingiPentagrammi(QPainter& p, double pixel) {
     p.fillRect(QRectF(inizioLinee - 12, alto - 8, 24, basso - alto + 16), tinta::inchiostro);
     p.save();
     p.translate(inizioLinee - 30, alto);
-    p.fillPath(TracciaGraffa(basso - alto, 95), tinta::inchiostro);
+    RiempiUnaVolta(p, QStringLiteral("graffa"), TracciaGraffa(basso - alto, 95), tinta::inchiostro);
     p.restore();
     Chiave(p, Segno::ChiaveViolino, inizioLinee + 70, primaLineaViolino);
     Chiave(p, Segno::ChiaveBasso, inizioLinee + 45, primaLineaBasso);

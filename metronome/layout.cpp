@@ -4,6 +4,7 @@
 
 #include "metronome/conf_metro.h"
 #include "metronome/metronome_panel.h"
+#include "metronome/pattern.h"
 
 namespace corvana {
 
@@ -94,9 +95,9 @@ void DisponiConfMetro(frmConfMetro& finestra) {
     finestra.txtPattern.MaxLength = 20;
     finestra.txtTempo.MaxLength = 5;
     finestra.Text1.Locked = true;
-    finestra.lblA.ForeColor = Rgb(255, 0, 0);
-    finestra.lblB1.ForeColor = Rgb(0, 255, 0);
-    finestra.lblC.ForeColor = Rgb(0, 0, 255);
+    finestra.lblA.ForeColor = coloreA;
+    finestra.lblB1.ForeColor = coloreB;
+    finestra.lblC.ForeColor = coloreC;
 }
 
 }  // namespace corvana

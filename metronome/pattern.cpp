@@ -21,9 +21,9 @@ void PrendiLettera(StatoMetronomo& stato, char lettera) {
         stato.MetroNota = nota;
         stato.MetroColore = colore;
     };
-    if (lettera == 'a') prende(stato.MetroNotaA, Rgb(255, 0, 0));
-    if (lettera == 'b') prende(stato.MetroNotaB, Rgb(0, 255, 0));
-    if (lettera == 'c') prende(stato.MetroNotaC, Rgb(0, 0, 255));
+    if (lettera == 'a') prende(stato.MetroNotaA, coloreA);
+    if (lettera == 'b') prende(stato.MetroNotaB, coloreB);
+    if (lettera == 'c') prende(stato.MetroNotaC, coloreC);
 }
 
 double Battito(int valore, int molt) {

@@ -12,6 +12,8 @@ namespace corvana {
 constexpr int luciMetronomo = 20;
 constexpr std::int16_t canalePercussioni = 10;
 constexpr Colore coloreLuceSpenta = 0xAAAAAA;
+/// Of each letter and of its light.
+constexpr Colore coloreA = Rgb(255, 0, 0), coloreB = Rgb(0, 255, 0), coloreC = Rgb(0, 0, 255);
 
 struct Metro {
     std::string_view tempo;

@@ -54,6 +54,17 @@ TEST(Bottone, ItsColourIsTheControls) {
     EXPECT_EQ(foto.pixelColor(12, foto.height() / 2), QColor(10, 200, 30));
 }
 
+TEST(Bottone, IsDarkerUnderThePointer) {
+    Palco palco([](FormDiProva& form) { form.bottone.BackColor = Rgb(200, 240, 120); });
+    QWidget& bottone = Trova(palco.scrivania, "bottone");
+    const QPoint fondo(12, bottone.height() / 2);
+    EXPECT_EQ(Fotografa(bottone).pixelColor(fondo), QColor(200, 240, 120));
+    Muovi(bottone, fondo);
+    EXPECT_LT(Fotografa(bottone).pixelColor(fondo).green(), 240);
+    Muovi(Trova(palco.scrivania, "secondo"), fondo);
+    EXPECT_EQ(Fotografa(bottone).pixelColor(fondo), QColor(200, 240, 120));
+}
+
 TEST(Bottone, TheAccessKeyOfItsCaptionPushesIt) {
     Palco palco;
     Batti(palco.scrivania, Qt::Key_V, Qt::AltModifier);

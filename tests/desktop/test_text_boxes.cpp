@@ -129,6 +129,19 @@ TEST(Casella, ALabelThatIsClickedLeavesItTheFocus) {
     EXPECT_EQ(palco.Diario(), (Righe{"toccabile giu", "toccabile su", "toccabile click"}));
 }
 
+TEST(Casella, ItsCursorIsOneSharpLine) {
+    Palco palco;
+    const QImage foto = Fotografa(CasellaDi(palco));
+    int chiari = 0, scuri = 0;
+    for (int x = 4; x < 20; ++x) {
+        const int luce = foto.pixelColor(x, foto.height() / 2).lightness();
+        chiari += luce > 240;
+        scuri += luce < 80;
+    }
+    EXPECT_EQ(scuri, 1);
+    EXPECT_EQ(chiari, 15);
+}
+
 TEST(Casella, OneThatIsDisabledOrHiddenHasLostTheFocus) {
     for (const bool nascosta : {false, true}) {
         Palco palco;
