@@ -130,16 +130,14 @@ TEST(Casella, ALabelThatIsClickedLeavesItTheFocus) {
 }
 
 TEST(Casella, ItsCursorIsOneSharpLine) {
-    Palco palco;
+    Palco palco([](FormDiProva& form) { form.casella.Text = "12 "; });
     const QImage foto = Fotografa(CasellaDi(palco));
-    int chiari = 0, scuri = 0;
-    for (int x = 4; x < 20; ++x) {
-        const int luce = foto.pixelColor(x, foto.height() / 2).lightness();
-        chiari += luce > 240;
-        scuri += luce < 80;
-    }
-    EXPECT_EQ(scuri, 1);
-    EXPECT_EQ(chiari, 15);
+    const auto luce = [&](int x) { return foto.pixelColor(x, foto.height() / 2).lightness(); };
+    int cursore = 60;
+    while (cursore > 0 && luce(cursore) > 240)
+        --cursore;
+    EXPECT_LT(luce(cursore), 80);
+    EXPECT_GT(luce(cursore - 1), 240);
 }
 
 TEST(Casella, OneThatIsDisabledOrHiddenHasLostTheFocus) {
