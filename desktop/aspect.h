@@ -10,37 +10,27 @@
 
 namespace corvana {
 
-struct Aspetto {
+struct Aspetto : Valori {
     QString nome;
     QStringList stile;  ///< the painter's key and the words that refine it
-    QString caption, text, toolTip;
-    QStringList righe;
-    bool visible = true, enabled = true, checked = false, locked = false;
-    Colore fondo = coloreDiSistema;
-    Colore penna = coloreDiSistema;
-    Sfumatura sfumatura;
-    int bordo = 0;
-    int fondoStile = fondoOpaco;
-    int left = 0, top = 0, width = 0, height = 0;  ///< twips
-    int value = 0, min = 0, max = 100, listIndex = -1;
-    int helpContext = 0;
-    int puntatore = puntatoreNormale;
-    int ascolti = 0;
 
-    QRect Twips() const { return {left, top, width, height}; }
+    QRect Twips() const { return {Left, Top, Width, Height}; }
     /// `quale` is one of the bits `ascolta...`.
-    bool Ascolta(int quale) const { return (ascolti & quale) != 0; }
+    bool Ascolta(int quale) const { return (Ascolti & quale) != 0; }
     bool Ha(const char* parola) const { return stile.contains(QLatin1String(parola)); }
 };
 
-void Poni(Aspetto& aspetto, Nome nome, const Valore& valore);
 Aspetto AspettoDa(const CopiaControllo& copia);
+
+/// One of the four properties that say where the control stands.
+bool EPosto(Nome nome);
 
 /// The words of a control's style.
 QStringList ParoleDi(const std::string& stile);
 
 /// The text as Qt wants it: line ends are one character.
 QString InQt(const std::string& testo);
+QStringList InQt(const Righe& righe);
 /// The colour, or `altrimenti` when the control leaves it to the face.
 QColor InQt(Colore colore, const QColor& altrimenti);
 

@@ -36,28 +36,28 @@ protected:
 VistaBottone::VistaBottone(const CopiaControllo& copia, Mittente mittente, QWidget& padre)
     : Vista(copia, mittente), bottone_(new Pulsante(padre)) {
     PonWidget(*bottone_);
-    Rinfresca(Nome::Caption);
+    Rinfresca(&Valori::Caption);
     QObject::connect(bottone_, &QAbstractButton::clicked, bottone_,
                      [this] { Manda(Fatto::Click); });
 }
 
 void VistaBottone::Rinfresca(Nome nome) {
-    if (nome == Nome::Caption) bottone_->setText(Stato().caption);
+    if (nome == &Valori::Caption) bottone_->setText(InQt(Stato().Caption));
     Vista::Rinfresca(nome);
 }
 
 VistaSpunta::VistaSpunta(const CopiaControllo& copia, Mittente mittente, QWidget& padre)
     : Vista(copia, mittente), spunta_(new QCheckBox(&padre)) {
     PonWidget(*spunta_);
-    Rinfresca(Nome::Caption);
-    Rinfresca(Nome::Checked);
+    Rinfresca(&Valori::Caption);
+    Rinfresca(&Valori::Checked);
     QObject::connect(spunta_, &QAbstractButton::clicked, spunta_,
                      [this](bool segnata) { Manda(Fatto::Click, segnata ? 1 : 0); });
 }
 
 void VistaSpunta::Rinfresca(Nome nome) {
-    if (nome == Nome::Caption) spunta_->setText(Stato().caption);
-    if (nome == Nome::Checked) spunta_->setChecked(Stato().checked);
+    if (nome == &Valori::Caption) spunta_->setText(InQt(Stato().Caption));
+    if (nome == &Valori::Checked) spunta_->setChecked(Stato().Checked);
     Vista::Rinfresca(nome);
 }
 

@@ -74,7 +74,7 @@ VistaCombo::VistaCombo(const CopiaControllo& copia, Mittente mittente, QWidget& 
     PonWidget(*combo_);
     PonRighe();
     QObject::connect(combo_, &QComboBox::activated, combo_, [this](int riga) {
-        PonDaUtente(Nome::ListIndex, riga);
+        PonDaUtente(&Valori::ListIndex, riga);
         Manda(Fatto::Click, riga);
     });
 }
@@ -84,7 +84,7 @@ void VistaCombo::PonApertura(const std::function<void()>& apertura) {
 }
 
 void VistaCombo::PonRighe() {
-    const QStringList& righe = Stato().righe;
+    const QStringList righe = InQt(Stato().List);
     // Keeping the rows in place keeps an open list open where it is.
     while (combo_->count() > righe.size())
         combo_->removeItem(combo_->count() - 1);
@@ -96,12 +96,12 @@ void VistaCombo::PonRighe() {
 }
 
 void VistaCombo::PonScelta() {
-    combo_->setCurrentIndex(Stato().listIndex);
+    combo_->setCurrentIndex(Stato().ListIndex);
 }
 
 void VistaCombo::Rinfresca(Nome nome) {
-    if (nome == Nome::List) PonRighe();
-    if (nome == Nome::ListIndex) PonScelta();
+    if (nome == &Valori::List) PonRighe();
+    if (nome == &Valori::ListIndex) PonScelta();
     Vista::Rinfresca(nome);
 }
 

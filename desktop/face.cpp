@@ -79,9 +79,9 @@ void Faccia::childEvent(QChildEvent* evento) {
 
 void Faccia::MostraConsiglio(const QHelpEvent& evento) {
     const VistaDipinta* vista = &Sotto(evento.pos());
-    while (vista->Stato().toolTip.isEmpty() && vista != &terra_)
+    while (vista->Stato().ToolTipText.empty() && vista != &terra_)
         vista = vista->Sotto();
-    const QString& testo = vista->Stato().toolTip;
+    const QString testo = InQt(vista->Stato().ToolTipText);
     if (testo.isEmpty()) return QToolTip::hideText();
     QToolTip::showText(evento.globalPos(), testo, this, vista->Area());
 }

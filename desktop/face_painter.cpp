@@ -17,9 +17,9 @@ QColor Sotto(QColor colore, const Tocco& tocco) {
 }
 
 QBrush Pennello(const Aspetto& a, const FormaFondo& forma, const QRectF& area, const Tocco& tocco) {
-    if (a.fondoStile == fondoTrasparente) return Qt::NoBrush;
-    if (a.sfumatura.Presente()) return PennelloSfumatura(a.sfumatura, area);
-    const QColor colore = InQt(a.fondo, forma.fondo ? *forma.fondo : QColor(Qt::transparent));
+    if (a.BackStyle == fondoTrasparente) return Qt::NoBrush;
+    if (a.Sfondo.Presente()) return PennelloSfumatura(a.Sfondo, area);
+    const QColor colore = InQt(a.BackColor, forma.fondo ? *forma.fondo : QColor(Qt::transparent));
     return forma.premibile ? Sotto(colore, tocco) : colore;
 }
 
@@ -49,14 +49,14 @@ void DipingiFondo(QPainter& p, const QRectF& area, const Aspetto& a, double scal
     p.setBrush(Pennello(a, forma, area, tocco));
     p.drawRoundedRect(area, raggio, raggio);
     p.setRenderHint(QPainter::Antialiasing);
-    if (forma.bordata || a.bordo != 0) Contorna(p, area, raggio, tinta::filo, scala);
+    if (forma.bordata || a.BorderStyle != 0) Contorna(p, area, raggio, tinta::filo, scala);
 }
 
 void DipingiBottone(QPainter& p, const QRectF& area, const Aspetto& a, double scala,
                     const Tocco& tocco) {
     p.setRenderHint(QPainter::Antialiasing);
     const double raggio = raggioPulsante * scala;
-    const QColor fondo = InQt(a.fondo, tinta::bottone);
+    const QColor fondo = InQt(a.BackColor, tinta::bottone);
     // One line of room below for the shadow; a pressed button sinks into it.
     QRectF faccia = area.adjusted(0, 0, 0, -scala);
     if (tocco.abilitato && !tocco.premuto) Ombra(p, faccia, raggio, scala);
@@ -72,14 +72,14 @@ void DipingiBottone(QPainter& p, const QRectF& area, const Aspetto& a, double sc
 }
 
 void DipingiTesto(QPainter& p, const QRectF& area, const Aspetto& a, double scala, bool abilitato) {
-    if (a.caption.isEmpty()) return;
+    if (a.Caption.empty()) return;
     p.setFont(Carattere(a.stile, scala));
     const QColor proprio =
-        InQt(a.penna, a.Ha("piccolo") ? tinta::inchiostroTenue : tinta::inchiostro);
+        InQt(a.ForeColor, a.Ha("piccolo") ? tinta::inchiostroTenue : tinta::inchiostro);
     p.setPen(abilitato ? proprio : tinta::spento);
     p.drawText(area,
                static_cast<int>(Allineamento(a.stile)) | Qt::TextWordWrap | Qt::TextHideMnemonic,
-               a.caption);
+               InQt(a.Caption));
 }
 
 void DipingiTasto(QPainter& p, const QRectF& area, double scala) {

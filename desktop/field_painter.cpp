@@ -19,7 +19,7 @@ QPen PennaTonda(const QColor& colore, double spessore) {
 }
 
 Aspetto Vestito(Aspetto aspetto, const char* parola, Colore fondo) {
-    if (aspetto.fondo == coloreDiSistema) aspetto.fondo = fondo;
+    if (aspetto.BackColor == coloreDiSistema) aspetto.BackColor = fondo;
     aspetto.stile << QLatin1String(parola);
     return aspetto;
 }
@@ -72,7 +72,7 @@ void DipingiTestoScelto(QPainter& p, const QStyleOptionComboBox& o, const Aspett
     const QRectF posto =
         QRectF(o.rect).adjusted(rientroScelta * scala, 0, -postoFreccia * scala, 0);
     const bool abilitata = o.state.testFlag(QStyle::State_Enabled);
-    p.setPen(abilitata ? InQt(aspetto.penna, tinta::inchiostro) : tinta::spento);
+    p.setPen(abilitata ? InQt(aspetto.ForeColor, tinta::inchiostro) : tinta::spento);
     const int spazio = static_cast<int>(posto.width());
     p.drawText(posto, Qt::AlignVCenter | Qt::AlignLeft,
                o.fontMetrics.elidedText(o.currentText, Qt::ElideRight, spazio));
@@ -80,9 +80,9 @@ void DipingiTestoScelto(QPainter& p, const QStyleOptionComboBox& o, const Aspett
 
 void DipingiCasella(QPainter& p, const QRectF& area, const Aspetto& aspetto, double scala,
                     bool fuoco) {
-    const Colore fondo = aspetto.locked ? coloreDiSistema : InColore(tinta::carta);
+    const Colore fondo = aspetto.Locked ? coloreDiSistema : InColore(tinta::carta);
     Aspetto vestito = Vestito(aspetto, "tondo", fondo);
-    vestito.bordo = 1;
+    vestito.BorderStyle = 1;
     p.save();
     DipingiFondo(p, area, vestito, scala, {});
     for (const bool giusto : {true, false})

@@ -24,7 +24,7 @@ VistaTasto::VistaTasto(const CopiaControllo& copia, Mittente mittente)
 void VistaTasto::Nomina() {
     // As is usual, the octave that middle C begins is the fourth.
     constexpr int primaOttava = 2;
-    PonNomeDetto(SenzaAccesso(Stato().caption) + QLatin1Char(' ') +
+    PonNomeDetto(SenzaAccesso(InQt(Stato().Caption)) + QLatin1Char(' ') +
                  QString::number(primaOttava + tasto_ / tastiOttava));
 }
 
@@ -43,7 +43,7 @@ int VistaTasto::Strato() const {
 }
 
 void VistaTasto::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
-    const AspettoTasto aspetto{Acceso(), InQt(Stato().fondo, Qt::transparent), tocco.fuoco};
+    const AspettoTasto aspetto{Acceso(), InQt(Stato().BackColor, Qt::transparent), tocco.fuoco};
     if (TastoNero(tasto_))
         DipingiTastoNero(p, area, aspetto, Scala());
     else
@@ -51,7 +51,7 @@ void VistaTasto::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
 }
 
 void VistaTasto::Rinfresca(Nome nome) {
-    if (nome == Nome::Caption) Nomina();
+    if (nome == &Valori::Caption) Nomina();
     VistaDipinta::Rinfresca(nome);
 }
 
@@ -77,8 +77,8 @@ VistaDipinta* VistaTastiera::Scelto() const {
 }
 
 const VistaDipinta& VistaTastiera::DovEIlFuoco() const {
-    const VistaDipinta* scelto = Scelto();
-    return scelto ? *scelto : *this;
+    if (const VistaDipinta* scelto = Scelto()) return *scelto;
+    return *this;
 }
 
 void VistaTastiera::Scegli(int tasto) {
@@ -138,12 +138,12 @@ void VistaTastiera::Su(bool clicca) {
 }
 
 void VistaBarretta::Dipingi(QPainter& p, const QRectF& area, const Tocco&) {
-    if (Stato().fondoStile == fondoOpaco)
-        DipingiBarretta(p, area, InQt(Stato().fondo, Qt::transparent), Scala());
+    if (Stato().BackStyle == fondoOpaco)
+        DipingiBarretta(p, area, InQt(Stato().BackColor, Qt::transparent), Scala());
 }
 
 void VistaDoCentrale::Dipingi(QPainter& p, const QRectF& area, const Tocco&) {
-    DipingiDoCentrale(p, area, InQt(Stato().fondo, Qt::transparent), Scala());
+    DipingiDoCentrale(p, area, InQt(Stato().BackColor, Qt::transparent), Scala());
 }
 
 }  // namespace corvana

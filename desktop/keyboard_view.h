@@ -26,7 +26,7 @@ protected:
     void Rinfresca(Nome nome) override;
 
 private:
-    bool Acceso() const { return Stato().fondoStile == fondoOpaco; }
+    bool Acceso() const { return Stato().BackStyle == fondoOpaco; }
     void Nomina();
 
     int tasto_;

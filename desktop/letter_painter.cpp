@@ -15,7 +15,7 @@ QPainterPath Traccia(const Aspetto& aspetto, const QRectF& area, double scala) {
     const QFont font = Carattere(aspetto.stile, scala);
     const QFontMetricsF misure(font);
     QPainterPath lettera;
-    lettera.addText(0, 0, font, SenzaAccesso(aspetto.caption));
+    lettera.addText(0, 0, font, SenzaAccesso(InQt(aspetto.Caption)));
     const double mezza = lettera.boundingRect().center().x();
     return lettera.translated(area.center().x() - mezza,
                               area.center().y() + misure.capHeight() / 2);
@@ -29,7 +29,7 @@ void DipingiLettera(QPainter& p, const QRectF& area, const Aspetto& a, double sc
     const QPainterPath lettera = Traccia(a, area, scala);
     p.strokePath(lettera, QPen(tinta::inchiostro, spessoreContorno * scala, Qt::SolidLine,
                                Qt::RoundCap, Qt::RoundJoin));
-    p.fillPath(lettera, InQt(a.penna, tinta::carta));
+    p.fillPath(lettera, InQt(a.ForeColor, tinta::carta));
     if (tocco.fuoco) DipingiAnello(p, area, scala);
 }
 

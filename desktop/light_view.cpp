@@ -9,11 +9,11 @@ QRect VistaLuce::Portata() const {
 }
 
 int VistaLuce::Strato() const {
-    return Accesa(Stato().fondo) ? 2 : 1;
+    return Accesa(Stato().BackColor) ? 2 : 1;
 }
 
 void VistaLuce::Dipingi(QPainter& p, const QRectF& area, const Tocco&) {
-    DipingiLuce(p, area, Stato().fondo, Scala());
+    DipingiLuce(p, area, Stato().BackColor, Scala());
 }
 
 }  // namespace corvana

@@ -105,7 +105,7 @@ VistaLista::VistaLista(const CopiaControllo& copia, Mittente mittente, QWidget& 
     auto* elenco = new Elenco(
         *this,
         [this](int riga) {
-            PonDaUtente(Nome::ListIndex, riga);
+            PonDaUtente(&Valori::ListIndex, riga);
             Manda(Fatto::Click, riga);
         },
         padre);
@@ -117,23 +117,24 @@ VistaLista::VistaLista(const CopiaControllo& copia, Mittente mittente, QWidget& 
 void VistaLista::PonRighe() {
     const QSignalBlocker silenzio(lista_);
     // Keeping the rows in place keeps the view where the user scrolled it to.
-    while (lista_->count() > Stato().righe.size())
+    const QStringList righe = InQt(Stato().List);
+    while (lista_->count() > righe.size())
         delete lista_->takeItem(lista_->count() - 1);
-    for (int i = 0; i < Stato().righe.size(); ++i) {
+    for (int i = 0; i < righe.size(); ++i) {
         if (i == lista_->count()) lista_->addItem(QString());
-        lista_->item(i)->setText(Stato().righe[i]);
+        lista_->item(i)->setText(righe[i]);
     }
     PonScelta();
 }
 
 void VistaLista::PonScelta() {
     const QSignalBlocker silenzio(lista_);
-    lista_->setCurrentRow(Stato().listIndex);
+    lista_->setCurrentRow(Stato().ListIndex);
 }
 
 void VistaLista::Rinfresca(Nome nome) {
-    if (nome == Nome::List) PonRighe();
-    if (nome == Nome::ListIndex) PonScelta();
+    if (nome == &Valori::List) PonRighe();
+    if (nome == &Valori::ListIndex) PonScelta();
     Vista::Rinfresca(nome);
     lista_->viewport()->update();
 }

@@ -11,7 +11,8 @@ VistaVoce::VistaVoce(const CopiaControllo& copia, Mittente mittente, const Menu&
     : Vista(copia, mittente) {
     Crea(menu.sbarra, padre, haVoci);
     azione_->setObjectName(Stato().nome);
-    for (const Nome nome : {Nome::Caption, Nome::Visible, Nome::Enabled, Nome::Checked})
+    for (const auto& nome : std::initializer_list<Nome>{&Valori::Caption, &Valori::Visible,
+                                                        &Valori::Enabled, &Valori::Checked})
         Rinfresca(nome);
     if (menu_)
         QObject::connect(menu_, &QMenu::aboutToShow, menu_, [this, apertura = menu.apertura] {
@@ -21,7 +22,7 @@ VistaVoce::VistaVoce(const CopiaControllo& copia, Mittente mittente, const Menu&
     else
         QObject::connect(azione_, &QAction::triggered, azione_, [this] {
             // It is the logic that checks; the click alone must not.
-            Rinfresca(Nome::Checked);
+            Rinfresca(&Valori::Checked);
             Manda(Fatto::Click);
         });
 }
@@ -35,7 +36,7 @@ void VistaVoce::Crea(QMenuBar& sbarra, VistaVoce* padre, bool haVoci) {
         azione_ = menu_->menuAction();
     } else {
         azione_ = new QAction(sopra);
-        azione_->setSeparator(Stato().caption.isEmpty());
+        azione_->setSeparator(Stato().Caption.empty());
     }
     if (Origine().tipo != Genere::MenuContestuale) sopra->addAction(azione_);
 }
@@ -45,16 +46,13 @@ void VistaVoce::Apri(QPoint dove) {
 }
 
 void VistaVoce::Rinfresca(Nome nome) {
-    switch (nome) {
-        case Nome::Caption: return azione_->setText(Stato().caption);
-        case Nome::Visible: return azione_->setVisible(Stato().visible);
-        case Nome::Enabled: return azione_->setEnabled(Stato().enabled);
-        case Nome::Checked:
-            // An entry that was never checked keeps no room for a mark.
-            if (Stato().checked) azione_->setCheckable(true);
-            return azione_->setChecked(Stato().checked);
-        default: return;
-    }
+    if (nome == &Valori::Caption) azione_->setText(InQt(Stato().Caption));
+    if (nome == &Valori::Visible) azione_->setVisible(Stato().Visible);
+    if (nome == &Valori::Enabled) azione_->setEnabled(Stato().Enabled);
+    if (nome != &Valori::Checked) return;
+    // An entry that was never checked keeps no room for a mark.
+    if (Stato().Checked) azione_->setCheckable(true);
+    azione_->setChecked(Stato().Checked);
 }
 
 }  // namespace corvana

@@ -32,7 +32,7 @@ void Nominatore::Rinnova() const {
     for (const Nominata& nominata : nominate_) {
         QStringList nomi;
         for (const Vista* etichetta : nominata.etichette)
-            nomi.append(SenzaAccesso(etichetta->Stato().caption).trimmed());
+            nomi.append(SenzaAccesso(InQt(etichetta->Stato().Caption)).trimmed());
         nominata.vista->PonNomeDetto(nomi.join(QLatin1Char(' ')));
     }
 }

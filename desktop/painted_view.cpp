@@ -6,14 +6,6 @@
 
 namespace corvana {
 
-namespace {
-
-bool EMisura(Nome nome) {
-    return nome == Nome::Left || nome == Nome::Top || nome == Nome::Width || nome == Nome::Height;
-}
-
-}  // namespace
-
 VistaDipinta::VistaDipinta(const CopiaControllo& copia, Mittente mittente)
     : Vista(copia, mittente) {}
 
@@ -50,7 +42,7 @@ bool VistaDipinta::InVista() const {
 
 bool VistaDipinta::Abilitata() const {
     if (faccia_) return faccia_->isEnabled();
-    return Stato().enabled && Sotto()->Abilitata();
+    return Stato().Enabled && Sotto()->Abilitata();
 }
 
 bool VistaDipinta::Usabile() const {
@@ -106,13 +98,13 @@ Accessibile& VistaDipinta::PerLettore() {
 }
 
 void VistaDipinta::Prepara(Nome nome) {
-    if (EMisura(nome)) Sporca();
+    if (EPosto(nome)) Sporca();
 }
 
 void VistaDipinta::Rinfresca(Nome nome) {
-    if (nome == Nome::ToolTipText) return;
+    if (nome == &Valori::ToolTipText) return;
     Sporca();
-    if (nome != Nome::Visible && nome != Nome::Enabled && nome != Nome::Ascolti) return;
+    if (nome != &Valori::Visible && nome != &Valori::Enabled && nome != &Valori::Ascolti) return;
     DiStatoCambiato(*this);
     FacciaDove().Controlla();
 }

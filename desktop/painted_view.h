@@ -41,7 +41,7 @@ public:
     /// the earlier.
     virtual int Strato() const { return 0; }
     /// By itself, whatever it lies in.
-    virtual bool SiVede() const { return Stato().visible; }
+    virtual bool SiVede() const { return Stato().Visible; }
     virtual bool Colpibile() const { return true; }
     /// With all that it lies in.
     bool InVista() const;

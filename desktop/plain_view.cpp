@@ -11,10 +11,10 @@ namespace {
 
 /// The question mark stays on its button when it is taken away to show that the help is on.
 Aspetto Acceso(Aspetto aspetto) {
-    if (!aspetto.Ha("aiuto") || !aspetto.caption.isEmpty()) return aspetto;
-    aspetto.caption = QStringLiteral("?");
-    aspetto.fondo = InColore(tinta::accento);
-    aspetto.penna = InColore(tinta::suAccento);
+    if (!aspetto.Ha("aiuto") || !aspetto.Caption.empty()) return aspetto;
+    aspetto.Caption = "?";
+    aspetto.BackColor = InColore(tinta::accento);
+    aspetto.ForeColor = InColore(tinta::suAccento);
     return aspetto;
 }
 
@@ -33,27 +33,28 @@ void VistaSemplice::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco)
 
 VistaSpiegazione::VistaSpiegazione(const CopiaControllo& copia, Mittente mittente)
     : VistaDipinta(copia, mittente) {
-    PonNomeDetto(Stato().text);
+    PonNomeDetto(InQt(Stato().Text));
 }
 
 void VistaSpiegazione::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
     Aspetto aspetto = Stato();
-    aspetto.caption = aspetto.text.replace(QLatin1Char('&'), QLatin1String("&&"));
+    aspetto.Caption =
+        InQt(aspetto.Text).replace(QLatin1Char('&'), QLatin1String("&&")).toStdString();
     DipingiFondo(p, area, aspetto, Scala(), tocco);
     DipingiTesto(p, area, aspetto, Scala(), tocco.abilitato);
 }
 
 void VistaSpiegazione::Rinfresca(Nome nome) {
-    if (nome == Nome::Text) PonNomeDetto(Stato().text);
+    if (nome == &Valori::Text) PonNomeDetto(InQt(Stato().Text));
     VistaDipinta::Rinfresca(nome);
 }
 
 void VistaColonne::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
-    const QStringList parole = SenzaAccesso(Stato().caption).split(QLatin1Char('-'));
+    const QStringList parole = SenzaAccesso(InQt(Stato().Caption)).split(QLatin1Char('-'));
     const double passo = area.width() / static_cast<double>(parole.size());
     for (qsizetype i = 0; i < parole.size(); ++i) {
         Aspetto una = Stato();
-        una.caption = parole[i].trimmed();
+        una.Caption = parole[i].trimmed().toStdString();
         una.stile << QStringLiteral("centro") << QStringLiteral("mezzo");
         const QRectF colonna(area.x() + static_cast<double>(i) * passo, area.y(), passo,
                              area.height());

@@ -62,7 +62,7 @@ void DipingiRiga(QPainter& p, const QStyleOptionViewItem& o, const Aspetto& aspe
     if (o.text.count(QLatin1Char('-')) == o.text.size())
         DipingiFiloRiga(p, o, scala);
     else
-        ScriviRiga(p, o, aspetto.penna, scala);
+        ScriviRiga(p, o, aspetto.ForeColor, scala);
     p.restore();
 }
 

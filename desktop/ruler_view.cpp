@@ -56,7 +56,7 @@ void VistaRegolo::Segna() const {
     Evento evento;
     evento.fatto = Fatto::MouseDown;
     evento.codice = bottoneSinistro;
-    evento.x = Stato().width / 2;
+    evento.x = Stato().Width / 2;
     evento.y = (scelta->fasciaDa + scelta->fasciaA) / 2;
     Manda(evento);
     evento.fatto = Fatto::MouseUp;

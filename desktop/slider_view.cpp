@@ -44,7 +44,7 @@ private:
 
 VistaBarra::VistaBarra(const CopiaControllo& copia, Mittente mittente, QWidget& padre)
     : Vista(copia, mittente) {
-    const bool ritta = Stato().height > Stato().width;
+    const bool ritta = Stato().Height > Stato().Width;
     barra_ = new Cursore(ritta ? Qt::Vertical : Qt::Horizontal, padre);
     barra_->setPageStep(std::max(1, copia.passoGrande));
     PonWidget(*barra_);
@@ -54,36 +54,36 @@ VistaBarra::VistaBarra(const CopiaControllo& copia, Mittente mittente, QWidget& 
 
 void VistaBarra::PonValori() {
     const QSignalBlocker silenzio(barra_);
-    const auto [minimo, massimo] = std::minmax(Stato().min, Stato().max);
+    const auto [minimo, massimo] = std::minmax(Stato().Min, Stato().Max);
     barra_->setRange(minimo, massimo);
     // `Min` is at the left or at the top, whichever of the two is larger.
-    const bool rovescia = (barra_->orientation() == Qt::Vertical) != (Stato().min > Stato().max);
+    const bool rovescia = (barra_->orientation() == Qt::Vertical) != (Stato().Min > Stato().Max);
     barra_->setInvertedAppearance(rovescia);
     barra_->setInvertedControls(rovescia);
     // Under the user's hand it stays where the user has it, who will tell where that was.
-    if (!mosso_) barra_->setValue(Stato().value);
+    if (!mosso_) barra_->setValue(Stato().Value);
 }
 
 void VistaBarra::Collega() {
     QObject::connect(barra_, &QSlider::sliderMoved, barra_, [this](int valore) {
         mosso_ = true;
-        PonDaUtente(Nome::Value, valore);
+        PonDaUtente(&Valori::Value, valore);
         Manda(Fatto::Scroll, valore);
     });
     QObject::connect(barra_, &QSlider::sliderReleased, barra_, [this] {
         if (!std::exchange(mosso_, false)) return PonValori();
-        PonDaUtente(Nome::Value, barra_->value());
+        PonDaUtente(&Valori::Value, barra_->value());
         Manda(Fatto::Change, barra_->value());
     });
     QObject::connect(barra_, &QSlider::valueChanged, barra_, [this](int valore) {
         if (barra_->isSliderDown()) return;
-        PonDaUtente(Nome::Value, valore);
+        PonDaUtente(&Valori::Value, valore);
         Manda(Fatto::Change, valore);
     });
 }
 
 void VistaBarra::Rinfresca(Nome nome) {
-    if (nome == Nome::Value || nome == Nome::Min || nome == Nome::Max) PonValori();
+    if (nome == &Valori::Value || nome == &Valori::Min || nome == &Valori::Max) PonValori();
     Vista::Rinfresca(nome);
 }
 

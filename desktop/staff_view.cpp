@@ -34,7 +34,7 @@ QRect VistaNota::Portata() const {
 }
 
 bool VistaNota::SiVede() const {
-    return Stato().visible != Stato().Ha("maschera");
+    return Stato().Visible != Stato().Ha("maschera");
 }
 
 void VistaNota::Dipingi(QPainter& p, const QRectF&, const Tocco&) {
@@ -43,7 +43,7 @@ void VistaNota::Dipingi(QPainter& p, const QRectF&, const Tocco&) {
 }
 
 double VistaNota::Ascissa() const {
-    return Stato().left + Stato().width / 2.0;
+    return Stato().Left + Stato().Width / 2.0;
 }
 
 }  // namespace corvana

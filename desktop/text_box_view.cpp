@@ -98,26 +98,27 @@ void VistaCasella::SegnaFuoco(const QWidget* preso) {
 
 void VistaCasella::PonTesto() {
     // Setting the same text again would move the cursor to its end.
-    if (casella_->text() != Stato().text) casella_->setText(Stato().text);
+    const QString testo = InQt(Stato().Text);
+    if (casella_->text() != testo) casella_->setText(testo);
     Riscala();
 }
 
 void VistaCasella::PonBlocco() {
-    casella_->setReadOnly(Stato().locked);
+    casella_->setReadOnly(Stato().Locked);
     // What can only be read is no stop of the Tab key.
-    casella_->setFocusPolicy(Stato().locked ? Qt::NoFocus : Qt::StrongFocus);
+    casella_->setFocusPolicy(Stato().Locked ? Qt::NoFocus : Qt::StrongFocus);
 }
 
 void VistaCasella::PonColori() {
     QPalette colori = casella_->palette();
-    colori.setColor(QPalette::Text, InQt(Stato().penna, tinta::inchiostro));
+    colori.setColor(QPalette::Text, InQt(Stato().ForeColor, tinta::inchiostro));
     casella_->setPalette(colori);
 }
 
 void VistaCasella::Rinfresca(Nome nome) {
-    if (nome == Nome::Text) PonTesto();
-    if (nome == Nome::Locked) PonBlocco();
-    if (nome == Nome::ForeColor) PonColori();
+    if (nome == &Valori::Text) PonTesto();
+    if (nome == &Valori::Locked) PonBlocco();
+    if (nome == &Valori::ForeColor) PonColori();
     Vista::Rinfresca(nome);
 }
 
@@ -126,8 +127,8 @@ void VistaCasella::Riscala() {
     // A box that is only read never scrolls: what is too long for it gets smaller letters. Each
     // size costs some time: one that nobody sees yet waits.
     const double spazio = casella_->width() - 2 * (margineTesto + 4) * Scala();
-    while (Stato().locked && casella_->isVisible() && font.pixelSize() > 6 &&
-           QFontMetricsF(font).horizontalAdvance(Stato().text) > spazio)
+    while (Stato().Locked && casella_->isVisible() && font.pixelSize() > 6 &&
+           QFontMetricsF(font).horizontalAdvance(InQt(Stato().Text)) > spazio)
         font.setPixelSize(font.pixelSize() - 1);
     casella_->setFont(font);
     const int margine = static_cast<int>(margineTesto * Scala());

@@ -42,7 +42,7 @@ void Vista::MuoviFinestra() const {
 
 void Vista::Cambia(Nome nome, const Valore& valore) {
     Prepara(nome);
-    Poni(aspetto_, nome, valore);
+    nome.Poni(aspetto_, valore);
     RinfrescaComune(nome);
     Rinfresca(nome);
 }
@@ -80,18 +80,13 @@ void Vista::Rinfresca(Nome) {
 }
 
 void Vista::RinfrescaComune(Nome nome) {
-    if (nome == Nome::Caption || nome == Nome::ToolTipText) PonNomeDetto(NomeAccessibile(aspetto_));
+    if (nome == &Valori::Caption || nome == &Valori::ToolTipText)
+        PonNomeDetto(NomeAccessibile(aspetto_));
     if (!widget_) return;
-    switch (nome) {
-        case Nome::Visible: return widget_->setVisible(aspetto_.visible);
-        case Nome::Enabled: return widget_->setEnabled(aspetto_.enabled);
-        case Nome::ToolTipText: return widget_->setToolTip(aspetto_.toolTip);
-        case Nome::Left:
-        case Nome::Top:
-        case Nome::Width:
-        case Nome::Height: return widget_->setGeometry(InPixel(aspetto_.Twips(), scala_));
-        default: return;
-    }
+    if (nome == &Valori::Visible) widget_->setVisible(aspetto_.Visible);
+    if (nome == &Valori::Enabled) widget_->setEnabled(aspetto_.Enabled);
+    if (nome == &Valori::ToolTipText) widget_->setToolTip(InQt(aspetto_.ToolTipText));
+    if (EPosto(nome)) widget_->setGeometry(InPixel(aspetto_.Twips(), scala_));
 }
 
 }  // namespace corvana

@@ -67,7 +67,7 @@ protected:
     void PonWidgetMuto(QWidget& widget);
 
     /// The user has made this of a property, and the widget shows it already.
-    void PonDaUtente(Nome nome, const Valore& valore) { Poni(aspetto_, nome, valore); }
+    void PonDaUtente(Nome nome, const Valore& valore) { nome.Poni(aspetto_, valore); }
 
     /// A property is about to change.
     virtual void Prepara(Nome) {}

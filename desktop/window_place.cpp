@@ -63,7 +63,7 @@ void PostoFinestra::Guarda() {
 }
 
 void PostoFinestra::Sposta(Nome nome, int twips) {
-    nome == Nome::Left ? posto_.setX(twips) : posto_.setY(twips);
+    nome == &Valori::Left ? posto_.setX(twips) : posto_.setY(twips);
     const QRect cornice(posto_ / twipsPerPixel, finestra_.frameGeometry().size());
     finestra_.windowHandle()->setFramePosition(
         DentroSchermo(cornice, LiberoPresso(cornice.topLeft(), finestra_)).topLeft());

@@ -114,7 +114,7 @@ void VistaFinestra::CreaControllo(const CopiaControllo& copia, const Menu& menu,
 
 void VistaFinestra::Intitola() {
     const Aspetto& aspetto = viste_.front()->Stato();
-    finestra_->setWindowTitle(aspetto.caption);
+    finestra_->setWindowTitle(InQt(aspetto.Caption));
     finestra_->setObjectName(aspetto.nome);
     // Where the platform has it, whoever looks from outside tells the windows apart by this.
     finestra_->setWindowRole(aspetto.nome);
@@ -208,19 +208,19 @@ void VistaFinestra::Apri(bool modale, const VistaFinestra* sotto) {
 void VistaFinestra::Cambia(int numero, Nome nome, const Valore& valore) {
     Vista* vista = Controllo(numero);
     if (!vista) return;
-    const bool misura = nome == Nome::Width || nome == Nome::Height;
+    const bool misura = nome == &Valori::Width || nome == &Valori::Height;
     vista->Cambia(nome, valore);
-    if (nome == Nome::Caption || nome == Nome::ToolTipText) nomi_->Rinnova();
+    if (nome == &Valori::Caption || nome == &Valori::ToolTipText) nomi_->Rinnova();
     if (numero != 0) return;
-    if (nome == Nome::Caption) finestra_->setWindowTitle(vista->Stato().caption);
-    if (nome == Nome::MousePointer) PonPuntatore();
-    if (nome == Nome::Left || nome == Nome::Top) posto_.Sposta(nome, std::get<int>(valore));
+    if (nome == &Valori::Caption) finestra_->setWindowTitle(InQt(vista->Stato().Caption));
+    if (nome == &Valori::MousePointer) PonPuntatore();
+    if (nome == &Valori::Left || nome == &Valori::Top) posto_.Sposta(nome, std::get<int>(valore));
     if (misura) Ridimensiona();
     Disponi();
 }
 
 void VistaFinestra::PonPuntatore() {
-    if (viste_.front()->Stato().puntatore == puntatoreAttesa)
+    if (viste_.front()->Stato().MousePointer == puntatoreAttesa)
         finestra_->setCursor(Qt::WaitCursor);
     else
         finestra_->unsetCursor();

@@ -45,21 +45,18 @@ public:
     /// How the face draws it: the key of a painter or of a type style; empty for the plain one.
     std::string stile;
 
-    Proprieta<bool, Nome::Visible> Visible{*this, true};
-    Proprieta<bool, Nome::Enabled> Enabled{*this, true};
-    Proprieta<int, Nome::BackColor> BackColor{*this, coloreDiSistema};
-    Proprieta<int, Nome::ForeColor> ForeColor{*this, coloreDiSistema};
-    Proprieta<std::string, Nome::ToolTipText> ToolTipText{*this, ""};
-    Proprieta<int, Nome::Left> Left{*this, 0};
-    Proprieta<int, Nome::Top> Top{*this, 0};
-    Proprieta<int, Nome::Width> Width{*this, 0};
-    Proprieta<int, Nome::Height> Height{*this, 0};
-    /// 1 draws a thin frame around it.
-    Proprieta<int, Nome::BorderStyle> BorderStyle{*this, 0};
-    Proprieta<Sfumatura, Nome::Sfondo> Sfondo{*this, {}};
-
-    /// Which of these somebody listens to: the bits `ascolta...`.
-    Proprieta<int, Nome::Ascolti> Ascolti{*this, 0};
+    Proprieta<&Valori::Visible> Visible{*this};
+    Proprieta<&Valori::Enabled> Enabled{*this};
+    Proprieta<&Valori::BackColor> BackColor{*this};
+    Proprieta<&Valori::ForeColor> ForeColor{*this};
+    Proprieta<&Valori::ToolTipText> ToolTipText{*this};
+    Proprieta<&Valori::Left> Left{*this};
+    Proprieta<&Valori::Top> Top{*this};
+    Proprieta<&Valori::Width> Width{*this};
+    Proprieta<&Valori::Height> Height{*this};
+    Proprieta<&Valori::BorderStyle> BorderStyle{*this};
+    Proprieta<&Valori::Sfondo> Sfondo{*this};
+    Proprieta<&Valori::Ascolti> Ascolti{*this};
     Gestore<> Click{*this, ascoltaClick};
     Gestore<> DblClick{*this};
     Gestore<> Change{*this};

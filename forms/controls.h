@@ -9,7 +9,7 @@ namespace corvana {
 
 struct ConCaption : Controllo {
     using Controllo::Controllo;
-    Proprieta<std::string, Nome::Caption> Caption{*this, ""};
+    Proprieta<&Valori::Caption> Caption{*this};
     void PonTesto(const std::string& testo) override { Caption = testo; }
 };
 
@@ -17,7 +17,7 @@ struct Etichetta : ConCaption {
     Etichetta(Form& form, std::string nome, Controllo* padre = nullptr)
         : ConCaption(form, std::move(nome), Genere::Etichetta, padre) {}
     /// `fondoTrasparente` shows what lies beneath the label, whatever its `BackColor`.
-    Proprieta<int, Nome::BackStyle> BackStyle{*this, fondoOpaco};
+    Proprieta<&Valori::BackStyle> BackStyle{*this};
 };
 
 struct Bottone : ConCaption {
@@ -28,8 +28,8 @@ struct Bottone : ConCaption {
 struct Casella : Controllo {
     Casella(Form& form, std::string nome, Controllo* padre = nullptr)
         : Controllo(form, std::move(nome), Genere::Casella, padre) {}
-    Proprieta<std::string, Nome::Text> Text{*this, ""};
-    Proprieta<bool, Nome::Locked> Locked{*this, false};
+    Proprieta<&Valori::Text> Text{*this};
+    Proprieta<&Valori::Locked> Locked{*this};
     int MaxLength = 0;  ///< characters, 0 for no limit
     /// What becomes of a typed character: the one to take instead, or 0 to drop it. Pure: the face
     /// calls it on its own thread.
@@ -43,8 +43,8 @@ struct Casella : Controllo {
 struct Lista : Controllo {
     Lista(Form& form, std::string nome, Controllo* padre = nullptr)
         : Controllo(form, std::move(nome), Genere::Lista, padre) {}
-    Proprieta<Righe, Nome::List> List{*this, {}};
-    Proprieta<int, Nome::ListIndex> ListIndex{*this, -1};
+    Proprieta<&Valori::List> List{*this};
+    Proprieta<&Valori::ListIndex> ListIndex{*this};
     void AddItem(std::string riga);
     void PonRiga(int indice, std::string testo);
     void Clear();
@@ -74,9 +74,9 @@ struct Combo : Lista {
 struct Barra : Controllo {
     Barra(Form& form, std::string nome, Controllo* padre = nullptr)
         : Controllo(form, std::move(nome), Genere::Barra, padre) {}
-    Proprieta<int, Nome::Min> Min{*this, 0};
-    Proprieta<int, Nome::Max> Max{*this, 100};
-    Proprieta<int, Nome::Value> Value{*this, 0};
+    Proprieta<&Valori::Min> Min{*this};
+    Proprieta<&Valori::Max> Max{*this};
+    Proprieta<&Valori::Value> Value{*this};
     int LargeChange = 10;
     bool Contiene(int valore) const;
     /// Throws `Guasto` 380 when `valore` lies outside of `Min` to `Max`.
@@ -88,7 +88,7 @@ struct Barra : Controllo {
 struct Spunta : ConCaption {
     Spunta(Form& form, std::string nome, Controllo* padre = nullptr)
         : ConCaption(form, std::move(nome), Genere::Spunta, padre) {}
-    Proprieta<bool, Nome::Checked> Value{*this, false};
+    Proprieta<&Valori::Checked> Value{*this};
     void Accogli(const Evento& e) override;
     void Ripeti() override;
 };
@@ -107,7 +107,7 @@ struct Figura : Controllo {
 struct VoceMenu : ConCaption {
     VoceMenu(Form& form, std::string nome, Controllo* padre = nullptr)
         : ConCaption(form, std::move(nome), Genere::VoceMenu, padre) {}
-    Proprieta<bool, Nome::Checked> Checked{*this, false};
+    Proprieta<&Valori::Checked> Checked{*this};
 };
 
 /// A menu that stands in no bar: `Form::PopupMenu` opens it.

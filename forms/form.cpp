@@ -22,7 +22,7 @@ int Form::Iscrivi(Controllo& controllo) {
 
 void Form::Annuncia(const Controllo& controllo, const ProprietaBase& proprieta) {
     const Nome nome = proprieta.NomeProprieta();
-    if (&controllo == this && (nome == Nome::Left || nome == Nome::Top)) collocata_ = true;
+    if (&controllo == this && (nome == &Valori::Left || nome == &Valori::Top)) collocata_ = true;
     if (specchio_) specchio_->Cambiato(controllo, nome, proprieta.Leggi());
 }
 

@@ -15,11 +15,10 @@ class Form : public Controllo {
 public:
     explicit Form(std::string nome);
 
-    Proprieta<std::string, Nome::Caption> Caption{*this, ""};
-    /// Page of the help that F1 opens.
-    Proprieta<int, Nome::HelpContextID> HelpContextID{*this, 0};
+    Proprieta<&Valori::Caption> Caption{*this};
+    Proprieta<&Valori::HelpContextID> HelpContextID{*this};
     /// The pointer's shape over the window, where a control has none of its own.
-    Proprieta<int, Nome::MousePointer> MousePointer{*this, puntatoreNormale};
+    Proprieta<&Valori::MousePointer> MousePointer{*this};
 
     virtual void Form_Load() {}
     /// Each time that the window comes to the front of the program's windows. A fault that it lets

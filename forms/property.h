@@ -2,6 +2,8 @@
 // it holds already. Logic thread.
 #pragma once
 
+#include <concepts>
+#include <type_traits>
 #include <utility>
 
 #include "forms/value.h"
@@ -29,32 +31,35 @@ private:
     Nome nome_;
 };
 
-template <class T, Nome N>
+/// The one that `Campo` names, `&Valori::Caption`.
+template <auto Campo>
 class Proprieta final : public ProprietaBase {
 public:
-    Proprieta(Controllo& padrone, T iniziale)
-        : ProprietaBase(padrone, N), valore_(std::move(iniziale)) {}
+    using Tipo = std::remove_cvref_t<decltype(std::declval<Valori>().*Campo)>;
 
-    Proprieta& operator=(T nuovo) {
+    explicit Proprieta(Controllo& padrone) : ProprietaBase(padrone, Campo) {}
+
+    Proprieta& operator=(Tipo nuovo) {
         if (nuovo == valore_) return *this;
         valore_ = std::move(nuovo);
         Annuncia();
         return *this;
     }
-    operator const T&() const { return valore_; }
-    const T& operator()() const { return valore_; }
-    const T* operator->() const { return &valore_; }
+    operator const Tipo&() const { return valore_; }
+    const Tipo& operator()() const { return valore_; }
+    const Tipo* operator->() const { return &valore_; }
     Valore Leggi() const override { return valore_; }
 
     /// Takes what the user has made of it on the screen; the face shows it already.
-    void PonDaUtente(T nuovo) { valore_ = std::move(nuovo); }
+    void PonDaUtente(Tipo nuovo) { valore_ = std::move(nuovo); }
 
 private:
-    T valore_;
+    Tipo valore_ = Valori().*Campo;
 };
 
-template <class T, Nome N>
-bool operator==(const Proprieta<T, N>& a, const T& b) {
+template <auto Campo>
+bool operator==(const Proprieta<Campo>& a,
+                const std::same_as<typename Proprieta<Campo>::Tipo> auto& b) {
     return a() == b;
 }
 

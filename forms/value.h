@@ -1,9 +1,9 @@
-// What a property of a control can hold, and the name under which a change of it is told.
-// Plain data, for any thread.
+// The properties of all controls, in one table: what they are called, what they hold, and what at
+// first. A control has those that it declares (`Proprieta`). Plain data, for any thread.
 #pragma once
 
-#include <cstdint>
 #include <string>
+#include <type_traits>
 #include <variant>
 #include <vector>
 
@@ -52,34 +52,48 @@ struct Sfumatura {
     bool Presente() const { return inizio != coloreDiSistema; }
 };
 
-enum class Nome : std::uint8_t {
-    Caption,
-    Text,
-    Visible,
-    Enabled,
-    BackColor,
-    ForeColor,
-    ToolTipText,
-    Value,
-    Min,
-    Max,
-    List,
-    ListIndex,
-    Checked,
-    Locked,
-    Top,
-    Left,
-    Width,
-    Height,
-    BorderStyle,
-    Sfondo,
-    HelpContextID,
-    BackStyle,
-    MousePointer,
-    Ascolti,
+using Righe = std::vector<std::string>;
+
+/// Every property that a control of some kind has, with what it holds at first.
+struct Valori {
+    std::string Caption, Text, ToolTipText;
+    Righe List;
+    int ListIndex = -1;
+    bool Visible = true, Enabled = true, Checked = false, Locked = false;
+    int Left = 0, Top = 0, Width = 0, Height = 0;  ///< twips
+    int Value = 0, Min = 0, Max = 100;
+    Colore BackColor = coloreDiSistema, ForeColor = coloreDiSistema;
+    int BackStyle = fondoOpaco;
+    int BorderStyle = 0;  ///< 1 draws a thin frame around it
+    Sfumatura Sfondo;
+    int HelpContextID = 0;  ///< page of the help that F1 opens
+    int MousePointer = puntatoreNormale;
+    int Ascolti = 0;  ///< which of these somebody listens to: the bits `ascolta...`
 };
 
-using Righe = std::vector<std::string>;
+/// What one of them holds.
 using Valore = std::variant<bool, int, std::string, Righe, Sfumatura>;
+
+/// Which of them it is: the name under which a change is told, as `&Valori::Caption`.
+class Nome {
+public:
+    template <class T>
+    constexpr Nome(T Valori::*campo) : campo_(campo) {}
+    bool operator==(const Nome&) const = default;
+
+    /// The value must be of the property's kind.
+    void Poni(Valori& valori, const Valore& valore) const {
+        const auto poni = [&](auto campo) {
+            auto& suo = valori.*campo;
+            suo = std::get<std::remove_reference_t<decltype(suo)>>(valore);
+        };
+        std::visit(poni, campo_);
+    }
+
+private:
+    std::variant<bool Valori::*, int Valori::*, std::string Valori::*, Righe Valori::*,
+                 Sfumatura Valori::*>
+        campo_;
+};
 
 }  // namespace corvana

@@ -31,7 +31,7 @@ struct BancoGiri : BancoComposer {
     std::vector<int> PostiCursore() const {
         std::vector<int> posti;
         for (const auto& cambio : specchio.cambi)
-            if (cambio.controllo == "Cursore" && cambio.nome == Nome::Left)
+            if (cambio.controllo == "Cursore" && cambio.nome == &Valori::Left)
                 posti.push_back(std::get<int>(cambio.valore));
         return posti;
     }

@@ -48,7 +48,7 @@ struct BancoOrdine : Banco {
             messaggiFino(i);
             const auto& [controllo, nome, valore] = specchio.cambi[i];
             if (controllo == "cmdPlay" && valore == Valore(std::string("Play"))) return fatti;
-            if (nome != Nome::BackStyle) continue;
+            if (nome != &Valori::BackStyle) continue;
             fatti.push_back(controllo + (valore == Valore(fondoOpaco) ? " lit" : " cleared"));
         }
         return fatti;

@@ -71,7 +71,7 @@ TEST(SalvaSuSupporto, ThePointerWaitsWhileItWritesAndIsBackBeforeTheMessage) {
     b.finestra.archivio.mnuSalvaA_Click();
     std::vector<Valore> forme;
     for (const auto& cambio : b.specchio.cambi)
-        if (cambio.nome == Nome::MousePointer) forme.push_back(cambio.valore);
+        if (cambio.nome == &Valori::MousePointer) forme.push_back(cambio.valore);
     EXPECT_EQ(forme, (std::vector<Valore>{11, 0}));
     EXPECT_EQ(b.puntatori, std::vector<int>{0});
 }

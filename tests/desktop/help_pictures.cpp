@@ -107,7 +107,7 @@ void Metronomo(Fotografo& f) {
     f.Scegli("mnuMetro");
     Deve(Aspetta([&] { return f.Di("frmMetro").isVisible(); }));
     f.Premi("cmdSSmetro");
-    Deve(Aspetta([&] { return f.Stato("lblPuls0").fondo == Rgb(255, 0, 0); }));
+    Deve(Aspetta([&] { return f.Stato("lblPuls0").BackColor == Rgb(255, 0, 0); }));
     f.Scatta("metronome", "frmMetro", "frmMetro");
     f.Premi("cmdSSmetro");
     Deve(Aspetta([&] { return f.Di("cmdSetup").isEnabled(); }));

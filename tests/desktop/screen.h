@@ -30,7 +30,7 @@ public:
         vista_->PrendiFuoco(perche);
     }
     bool Fermata() const { return vista_->Fermata(); }
-    QString toolTip() const { return vista_->Stato().toolTip; }
+    QString toolTip() const { return InQt(vista_->Stato().ToolTipText); }
     QString accessibleName() const { return vista_->NomeDetto(); }
     /// What a screen reader is given of it.
     QAccessibleInterface* PerLettore() const;

@@ -91,7 +91,7 @@ void FotografaTutto(Servizio& s) {
 
 /// Ticking, in the meter of six pulses.
 void FotografaBattito(Servizio& s) {
-    while (!s.Stato("lblPuls5").visible) {
+    while (!s.Stato("lblPuls5").Visible) {
         s.Premi("lblTs");
         s.Respira();
     }
@@ -101,7 +101,8 @@ void FotografaBattito(Servizio& s) {
                                        {"ticking-a", Rgb(255, 0, 0)}}) {
         Aspetta([&, c = colore] {
             for (int i = 0; i < 6; ++i)
-                if (s.Stato(qPrintable(QStringLiteral("lblPuls%1").arg(i))).fondo == c) return true;
+                if (s.Stato(qPrintable(QStringLiteral("lblPuls%1").arg(i))).BackColor == c)
+                    return true;
             return false;
         });
         s.Scatta(QString::fromLatin1(nome));

@@ -13,9 +13,9 @@ TEST(Aspetto, CaptionsLoseTheMarksOfTheirAccessKeys) {
 
 TEST(Aspetto, TheToolTipNamesAControlBeforeItsCaptionDoes) {
     Aspetto aspetto;
-    aspetto.caption = "&?";
+    aspetto.Caption = "&?";
     EXPECT_EQ(NomeAccessibile(aspetto), "?");
-    aspetto.toolTip = "Mostra il nome";
+    aspetto.ToolTipText = "Mostra il nome";
     EXPECT_EQ(NomeAccessibile(aspetto), "Mostra il nome");
 }
 
@@ -41,17 +41,17 @@ TEST(Aspetto, ACopyTakesEveryPropertyOfItsControl) {
     CopiaControllo copia;
     copia.nome = "Velocità";
     copia.stile = "titolo centro";
-    copia.proprieta = {{Nome::Caption, std::string("a\r\nb")},
-                       {Nome::Left, 45},
-                       {Nome::Visible, false},
-                       {Nome::List, Righe{"x", "y"}}};
+    copia.proprieta = {{&Valori::Caption, std::string("a\r\nb")},
+                       {&Valori::Left, 45},
+                       {&Valori::Visible, false},
+                       {&Valori::List, Righe{"x", "y"}}};
     const Aspetto aspetto = AspettoDa(copia);
     EXPECT_EQ(aspetto.nome, QString::fromUtf8("Velocità"));
     EXPECT_TRUE(aspetto.Ha("titolo") && aspetto.Ha("centro"));
-    EXPECT_EQ(aspetto.caption, "a\nb");
-    EXPECT_EQ(aspetto.left, 45);
-    EXPECT_FALSE(aspetto.visible);
-    EXPECT_EQ(aspetto.righe, QStringList({"x", "y"}));
+    EXPECT_EQ(InQt(aspetto.Caption), "a\nb");
+    EXPECT_EQ(aspetto.Left, 45);
+    EXPECT_FALSE(aspetto.Visible);
+    EXPECT_EQ(InQt(aspetto.List), QStringList({"x", "y"}));
 }
 
 }  // namespace

@@ -26,8 +26,8 @@ TEST(Lettera, KeepsItsColourAndStandsOutFromItsPlateWhateverColourThatIs) {
     for (const Colore colore : {Rgb(255, 0, 0), Rgb(0, 255, 0), Rgb(0, 0, 255)}) {
         Aspetto aspetto;
         aspetto.stile << QStringLiteral("lettera");
-        aspetto.caption = QStringLiteral("b");
-        aspetto.penna = colore;
+        aspetto.Caption = "b";
+        aspetto.ForeColor = colore;
         QImage foto(60, 22, QImage::Format_RGB32);
         foto.fill(QColor(202, 143, 85));
         QPainter p(&foto);

@@ -14,7 +14,7 @@ bool Suona(int presa) {
 }
 
 CambiaProprieta Cambio(int controllo) {
-    return {1, controllo, Nome::Value, 0};
+    return {1, controllo, &Valori::Value, 0};
 }
 
 TEST(Cassetta, CommandsComeOutInTheOrderInWhichTheyWerePut) {

@@ -160,7 +160,7 @@ TEST(Etichetta, IsOpaqueUntilItIsMadeTransparent) {
     b.specchio.registra = true;
     b.finestra.dentro.BackStyle = fondoTrasparente;
     const std::vector<SpecchioRegistrato::Cambio> attesi = {
-        {"dentro", Nome::BackStyle, fondoTrasparente}};
+        {"dentro", &Valori::BackStyle, fondoTrasparente}};
     EXPECT_EQ(b.specchio.cambi, attesi);
 }
 

@@ -101,7 +101,7 @@ TEST(Form, HasTheNormalPointerUntilItIsGivenAnother) {
     b.specchio.registra = true;
     b.finestra.MousePointer = puntatoreAttesa;
     const std::vector<SpecchioRegistrato::Cambio> attesi = {
-        {"frmProva", Nome::MousePointer, puntatoreAttesa}};
+        {"frmProva", &Valori::MousePointer, puntatoreAttesa}};
     EXPECT_EQ(b.specchio.cambi, attesi);
 }
 

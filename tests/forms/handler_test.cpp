@@ -40,10 +40,10 @@ TEST(Gestore, TheFaceIsToldWhenAnybodyBeginsOrCeasesToListen) {
     figura.MouseMove = [](const Evento&) {};
     figura.Click = nullptr;
     figura.Click = nullptr;
-    EXPECT_EQ(b.specchio.cambi, (Cambi{{"figura", Nome::Ascolti, 1},
-                                       {"figura", Nome::Ascolti, 3},
-                                       {"figura", Nome::Ascolti, 7},
-                                       {"figura", Nome::Ascolti, 6}}));
+    EXPECT_EQ(b.specchio.cambi, (Cambi{{"figura", &Valori::Ascolti, 1},
+                                       {"figura", &Valori::Ascolti, 3},
+                                       {"figura", &Valori::Ascolti, 7},
+                                       {"figura", &Valori::Ascolti, 6}}));
 }
 
 TEST(Gestore, OfWhatTheFaceNeedntKnowItIsntTold) {

@@ -63,7 +63,7 @@ TEST(Posto, SettingItIsToldToTheFace) {
     BancoFinestra b;
     b.specchio.registra = true;
     b.finestra.Left = 600;
-    const std::vector<SpecchioRegistrato::Cambio> attesi = {{"frmProva", Nome::Left, 600}};
+    const std::vector<SpecchioRegistrato::Cambio> attesi = {{"frmProva", &Valori::Left, 600}};
     EXPECT_EQ(b.specchio.cambi, attesi);
 }
 

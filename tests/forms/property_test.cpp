@@ -38,9 +38,9 @@ TEST(Proprieta, AChangeTellsTheMirrorTheControlTheNameAndTheNewValue) {
     b.finestra.bottone.Caption = "x";
     b.finestra.bottone.Enabled = false;
     b.finestra.figura.Top = 15;
-    const std::vector<Cambio> attesi = {{"bottone", Nome::Caption, std::string("x")},
-                                        {"bottone", Nome::Enabled, false},
-                                        {"figura", Nome::Top, 15}};
+    const std::vector<Cambio> attesi = {{"bottone", &Valori::Caption, std::string("x")},
+                                        {"bottone", &Valori::Enabled, false},
+                                        {"figura", &Valori::Top, 15}};
     EXPECT_EQ(b.specchio.cambi, attesi);
 }
 
@@ -49,8 +49,8 @@ TEST(Proprieta, ListsAndGradientsAreToldWhole) {
     const Sfumatura banda{Rgb(1, 2, 3), Rgb(4, 5, 6), true, false};
     b.finestra.lista.List = Righe{"z"};
     b.finestra.figura.Sfondo = banda;
-    const std::vector<Cambio> attesi = {{"lista", Nome::List, Righe{"z"}},
-                                        {"figura", Nome::Sfondo, banda}};
+    const std::vector<Cambio> attesi = {{"lista", &Valori::List, Righe{"z"}},
+                                        {"figura", &Valori::Sfondo, banda}};
     EXPECT_EQ(b.specchio.cambi, attesi);
 }
 
@@ -59,7 +59,7 @@ TEST(Proprieta, EachOfTwoChangesIsTold) {
     b.finestra.bottone.Left = 10;
     b.finestra.bottone.Left = 0;
     ASSERT_EQ(b.specchio.cambi.size(), 2U);
-    EXPECT_EQ(b.specchio.cambi[1], (Cambio{"bottone", Nome::Left, 0}));
+    EXPECT_EQ(b.specchio.cambi[1], (Cambio{"bottone", &Valori::Left, 0}));
 }
 
 TEST(Proprieta, WhatTheUserMadeOfItIsTakenWithoutTellingTheFace) {
@@ -87,16 +87,16 @@ TEST(Proprieta, AClosedWindowTellsNobody) {
 
 TEST(Proprieta, AControlListsItsOwnInTheOrderInWhichTheyWereMade) {
     FinestraProva finestra;
-    const std::vector<Nome> comuni = {Nome::Visible,     Nome::Enabled,     Nome::BackColor,
-                                      Nome::ForeColor,   Nome::ToolTipText, Nome::Left,
-                                      Nome::Top,         Nome::Width,       Nome::Height,
-                                      Nome::BorderStyle, Nome::Sfondo,      Nome::Ascolti};
+    const std::vector<Nome> comuni = {
+        &Valori::Visible,     &Valori::Enabled,     &Valori::BackColor, &Valori::ForeColor,
+        &Valori::ToolTipText, &Valori::Left,        &Valori::Top,       &Valori::Width,
+        &Valori::Height,      &Valori::BorderStyle, &Valori::Sfondo,    &Valori::Ascolti};
     EXPECT_EQ(NomiDi(finestra.figura), comuni);
     auto conCaption = comuni;
-    conCaption.push_back(Nome::Caption);
+    conCaption.push_back(&Valori::Caption);
     EXPECT_EQ(NomiDi(finestra.bottone), conCaption);
     auto conFondo = conCaption;
-    conFondo.push_back(Nome::BackStyle);
+    conFondo.push_back(&Valori::BackStyle);
     EXPECT_EQ(NomiDi(finestra.dentro), conFondo);
 }
 

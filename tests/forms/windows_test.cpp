@@ -90,11 +90,11 @@ TEST(Consegna, WhatAnUnusableControlShowsIsToldToItsFaceAgain) {
     b.Accoda(Fatto::Change, "casella", 0);
     b.Consegna();
     const std::vector<SpecchioRegistrato::Cambio> attesi = {
-        {"lista", Nome::ListIndex, 1},
-        {"combo", Nome::ListIndex, 0},
-        {"barra", Nome::Value, 0},
-        {"spunta", Nome::Checked, false},
-        {"casella", Nome::Text, std::string("x")}};
+        {"lista", &Valori::ListIndex, 1},
+        {"combo", &Valori::ListIndex, 0},
+        {"barra", &Valori::Value, 0},
+        {"spunta", &Valori::Checked, false},
+        {"casella", &Valori::Text, std::string("x")}};
     EXPECT_EQ(b.specchio.cambi, attesi);
     EXPECT_TRUE(b.Visto().empty());
 }
@@ -110,8 +110,8 @@ TEST(Consegna, AWindowThatIsntInFrontGetsNothingAndItsFaceIsToldAgain) {
     b.Consegna();
     EXPECT_TRUE(b.Visto().empty());
     EXPECT_EQ(b.finestra.lista.ListIndex(), -1);
-    const std::vector<SpecchioRegistrato::Cambio> attesi = {{"lista", Nome::ListIndex, -1},
-                                                            {"barra", Nome::Value, 0}};
+    const std::vector<SpecchioRegistrato::Cambio> attesi = {{"lista", &Valori::ListIndex, -1},
+                                                            {"barra", &Valori::Value, 0}};
     EXPECT_EQ(b.specchio.cambi, attesi);
     b.finestre.Scarica(sopra);
 }

@@ -38,7 +38,7 @@ void Aggiungi(Luoghi& luoghi, const Controllo& controllo, const ProprietaBase& p
                 luoghi.insert(controllo.Name + '[' + std::to_string(i) + ']');
     } else if (const auto* letto = std::get_if<std::string>(&valore);
                letto && letto->ends_with(testo)) {
-        const bool consiglio = proprieta.NomeProprieta() == Nome::ToolTipText;
+        const bool consiglio = proprieta.NomeProprieta() == &Valori::ToolTipText;
         luoghi.insert(controllo.Name + (consiglio ? ".tip" : ""));
     }
 }
