@@ -1,5 +1,7 @@
 #include "desktop/menu_painter.h"
 
+#include <QIconEngine>
+#include <QPixmap>
 #include <QStyle>
 #include <algorithm>
 
@@ -57,6 +59,25 @@ void Freccia(QPainter& p, const QRectF& area, const QColor& colore, double scala
     p.drawPolyline(punti, std::size(punti));
 }
 
+class Seguito final : public QIconEngine {
+public:
+    void paint(QPainter* p, const QRect& area, QIcon::Mode modo, QIcon::State) override {
+        const QColor colore = modo == QIcon::Disabled ? tinta::spento : tinta::inchiostro;
+        const double lato = std::min(area.width(), area.height());
+        p->setRenderHint(QPainter::Antialiasing);
+        for (const double dove : {-0.2, 0.15})
+            Freccia(*p, QRectF(area).translated(dove * lato, 0), colore, lato / 12);
+    }
+    QPixmap pixmap(const QSize& misura, QIcon::Mode modo, QIcon::State stato) override {
+        QPixmap immagine(misura);
+        immagine.fill(Qt::transparent);
+        QPainter p(&immagine);
+        paint(&p, QRect(QPoint(), misura), modo, stato);
+        return immagine;
+    }
+    QIconEngine* clone() const override { return new Seguito(*this); }
+};
+
 void DipingiFilo(QPainter& p, const QStyleOptionMenuItem& o, double scala) {
     p.setPen(QPen(tinta::filo, std::max(1.0, scala)));
     const double y = QRectF(o.rect).center().y();
@@ -111,6 +132,10 @@ void DipingiSegnata(QPainter& p, const QRectF& area, const QColor& colore, doubl
     const QPointF punti[] = {c + QPointF(-4.5, 0) * scala, c + QPointF(-1.3, 3.5) * scala,
                              c + QPointF(4.7, -4) * scala};
     p.drawPolyline(punti, std::size(punti));
+}
+
+QIcon IconaDelSeguito() {
+    return QIcon(new Seguito);
 }
 
 }  // namespace corvana

@@ -2,6 +2,7 @@
 // grows with the scale. Pure geometry and painting; GUI thread.
 #pragma once
 
+#include <QIcon>
 #include <QPainter>
 #include <QStyleOptionMenuItem>
 
@@ -16,5 +17,8 @@ void DipingiVoceSbarra(QPainter& p, const QStyleOptionMenuItem& o, double scala)
 
 /// The mark itself, in the middle of the area, for check boxes too.
 void DipingiSegnata(QPainter& p, const QRectF& area, const QColor& colore, double scala);
+
+/// What stands for the entries that a narrow bar has no room for. Painted when it is first seen.
+QIcon IconaDelSeguito();
 
 }  // namespace corvana

@@ -166,6 +166,13 @@ QRect Stile::subControlRect(ComplexControl cosa, const QStyleOptionComplex* o, S
     return QProxyStyle::subControlRect(cosa, o, parte, widget);
 }
 
+QIcon Stile::standardIcon(StandardPixmap quale, const QStyleOption* o,
+                          const QWidget* widget) const {
+    // Each menu bar asks for it, and the toolkit's would load all its readers of pictures.
+    if (quale == SP_ToolBarHorizontalExtensionButton) return IconaDelSeguito();
+    return QProxyStyle::standardIcon(quale, o, widget);
+}
+
 void Stile::drawPrimitive(PrimitiveElement cosa, const QStyleOption* o, QPainter* p,
                           const QWidget* widget) const {
     const Aspetto* aspetto = AspettoDi(widget);

@@ -23,6 +23,8 @@ public:
                          const QWidget* widget) const override;
     QRect subControlRect(ComplexControl cosa, const QStyleOptionComplex* o, SubControl parte,
                          const QWidget* widget) const override;
+    QIcon standardIcon(StandardPixmap quale, const QStyleOption* o,
+                       const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement cosa, const QStyleOption* o, QPainter* p,
                        const QWidget* widget) const override;
     void drawControl(ControlElement cosa, const QStyleOption* o, QPainter* p,

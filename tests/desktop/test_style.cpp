@@ -33,6 +33,23 @@ QRect Disco(QSlider& barra) {
     return disco;
 }
 
+TEST(Stile, TheMarkOfANarrowMenuBarIsSeenAndGrowsPaleWhenItCannotBeUsed) {
+    const QIcon icona =
+        Stile().standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton, nullptr, nullptr);
+    const auto piuScuro = [&](QIcon::Mode modo) {
+        const QImage foto = icona.pixmap(QSize(24, 24), modo).toImage();
+        int buio = 0;
+        for (int x = 0; x < foto.width(); ++x)
+            for (int y = 0; y < foto.height(); ++y)
+                if (foto.pixelColor(x, y).alpha() > 200)
+                    buio = std::max(buio, 255 - foto.pixelColor(x, y).lightness());
+        return buio;
+    };
+    EXPECT_GT(piuScuro(QIcon::Normal), 150);
+    EXPECT_GT(piuScuro(QIcon::Disabled), 50);
+    EXPECT_LT(piuScuro(QIcon::Disabled), 150);
+}
+
 TEST(Stile, TheHandleOfASliderGrowsAndIsWholeAtBothEnds) {
     Palco palco;
     for (const char* nome : {"barra", "ritta"})
