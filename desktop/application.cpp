@@ -41,7 +41,9 @@ private:
 struct Applicazione::Interno {
     Interno(int& argc, char** argv)
         : qt(qApp ? nullptr : std::make_unique<QApplication>(argc, argv)) {
-        if (qt) VestiProgramma(*qt);
+        if (!qt) return;
+        VestiProgramma(*qt);
+        scrivania.Dipinta().PonPoi(PonIconaProgramma);
     }
 
     /// Tells the logic that the program ends, and gives it up when it doesn't listen.

@@ -145,6 +145,7 @@ void Scrivania::Fai(const MostraAiuto& comando) {
 
 void Scrivania::Fai(const ApriRiquadro& comando) {
     if (coda_.FineChiesta()) return;
+    dipinta_.Avvenuta();
     QWidget* sopra = finestre_.empty() ? nullptr : &finestre_.back()->Finestra();
     riquadro_ = MostraRiquadro(comando, sopra, [this, numero = comando.numero](Risposta risposta) {
         specchio_.Rispondi(numero, std::move(risposta));

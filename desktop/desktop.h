@@ -50,7 +50,7 @@ public:
     bool TerminaAlBuio(std::chrono::milliseconds pazienza);
 
     /// When the first window has been painted.
-    const PrimaPittura& Dipinta() const { return dipinta_; }
+    PrimaPittura& Dipinta() { return dipinta_; }
 
     /// The window in front, or null.
     VistaFinestra* Davanti();

@@ -9,6 +9,11 @@ void PrimaPittura::Segui(QWindow& finestra) {
     if (!std::exchange(seguita_, true)) finestra.installEventFilter(this);
 }
 
+void PrimaPittura::Avvenuta() {
+    Rinuncia();
+    if (const auto poi = std::exchange(poi_, {})) poi();
+}
+
 void PrimaPittura::Rinuncia() {
     if (!std::exchange(detta_, true)) promessa_.set_value();
 }
@@ -18,7 +23,7 @@ bool PrimaPittura::eventFilter(QObject* oggetto, QEvent* evento) {
     oggetto->removeEventFilter(this);
     // Painted by whom the event goes on to.
     QMetaObject::invokeMethod(
-        this, [this] { Rinuncia(); }, Qt::QueuedConnection);
+        this, [this] { Avvenuta(); }, Qt::QueuedConnection);
     return false;
 }
 

@@ -25,12 +25,15 @@ void VestiProgramma(QApplication& qt) {
     LeggiCaratteri();
     QApplication::setApplicationName(QStringLiteral("corvana"));
     QApplication::setDesktopFileName(QStringLiteral("org.corvana.Corvana"));
-    QApplication::setWindowIcon(IconaDelProgramma(QStringLiteral("corvana")));
     QApplication::setQuitOnLastWindowClosed(false);
     PreparaLettori();
     QApplication::setStyle(new Stile);
     QApplication::setPalette(TavolozzaDelProgramma());
     qt.setFont(Carattere({}, 1));
+}
+
+void PonIconaProgramma() {
+    QApplication::setWindowIcon(IconaDelProgramma(QStringLiteral("corvana")));
 }
 
 }  // namespace corvana

@@ -60,6 +60,28 @@ TEST(PrimaPittura, NobodyWaitsAnyLongerOnceItIsGivenUp) {
     prima.Rinuncia();
 }
 
+TEST(PrimaPittura, WhatIsToBeDoneThenIsDoneOnce) {
+    PrimaPittura prima;
+    int volte = 0;
+    prima.PonPoi([&] { ++volte; });
+    FinestraContata finestra;
+    prima.Segui(finestra);
+    finestra.show();
+    EXPECT_TRUE(Aspetta([&] { return volte == 1; }));
+    EXPECT_GT(finestra.pitture, 0);
+    prima.Avvenuta();
+    EXPECT_EQ(volte, 1);
+}
+
+TEST(PrimaPittura, ABoxThatComesBeforeAnyWindowCountsToo) {
+    Scrivania scrivania;
+    const Attesa attesa(scrivania.Dipinta());
+    scrivania.Avvia([&] { scrivania.Riquadri().MsgBox("already running"); });
+    EXPECT_TRUE(Aspetta([&] { return scrivania.Riquadro() != nullptr; }));
+    EXPECT_TRUE(attesa.Finita());
+    scrivania.Termina();
+}
+
 TEST(PrimaPittura, OfADesktopItIsThatOfItsFirstWindow) {
     Palco palco;
     const Attesa attesa(palco.scrivania.Dipinta());
