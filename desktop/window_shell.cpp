@@ -5,8 +5,22 @@
 
 namespace corvana {
 
+namespace {
+
+/// Looks the same with and without the focus: Qt would paint all that lies in it again.
+class Centro final : public QWidget {
+public:
+    using QWidget::QWidget;
+
+protected:
+    void focusInEvent(QFocusEvent*) override {}
+    void focusOutEvent(QFocusEvent*) override {}
+};
+
+}  // namespace
+
 Guscio::Guscio(CasiFinestra casi) : casi_(std::move(casi)) {
-    auto* centro = new QWidget(this);
+    auto* centro = new Centro(this);
     centro->setAutoFillBackground(true);
     setCentralWidget(centro);
     centro->installEventFilter(this);

@@ -10,6 +10,17 @@
 namespace corvana::prova {
 namespace {
 
+/// Counts how often the widget is painted.
+class Pitture final : public QObject {
+public:
+    explicit Pitture(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* evento) override {
+        if (evento->type() == QEvent::Paint) ++quante;
+        return false;
+    }
+    int quante = 0;
+};
+
 TEST(Scrivania, AWindowShowsItsTitleAtItsDesignedSize) {
     Palco palco;
     QMainWindow& finestra = palco.scrivania.Davanti()->Finestra();
@@ -17,6 +28,20 @@ TEST(Scrivania, AWindowShowsItsTitleAtItsDesignedSize) {
     EXPECT_EQ(finestra.centralWidget()->size(), QSize(780, 320));
     palco.NellaLogica([](FormDiProva& form) { form.Caption = "Altra"; });
     EXPECT_EQ(finestra.windowTitle(), "Altra");
+}
+
+TEST(Scrivania, AWindowInWhichNothingHasTheFocusIsNotPaintedAgainWhenItGetsTheKeyboard) {
+    Palco palco;
+    VistaFinestra& finestra = *palco.scrivania.Davanti();
+    Pitture pitture(*finestra.Controllo(0)->Widget());
+    finestra.Controllo(0)->Widget()->update();
+    ASSERT_TRUE(Aspetta([&] { return pitture.quante == 1; }));
+    for (const auto tipo : {QEvent::FocusIn, QEvent::FocusOut}) {
+        QFocusEvent fuoco(tipo, Qt::ActiveWindowFocusReason);
+        QApplication::sendEvent(finestra.Finestra().centralWidget(), &fuoco);
+    }
+    QTest::qWait(0);
+    EXPECT_EQ(pitture.quante, 1);
 }
 
 TEST(Scrivania, ClosingAWindowOnlyAsksTheLogic) {
