@@ -5,8 +5,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenuBar>
-#include <functional>
-#include <utility>
+#include <algorithm>
 
 #include "desktop/theme.h"
 
@@ -18,17 +17,11 @@ constexpr double margineTesto = 6;  ///< designed pixels beside the text
 
 class Scrittura final : public QLineEdit {
 public:
-    /// `mostrata` is called when it comes to be seen.
-    Scrittura(const Vista& vista, QWidget& padre, std::function<void()> mostrata)
-        : QLineEdit(&padre), vista_(vista), mostrata_(std::move(mostrata)) {
+    Scrittura(const Vista& vista, QWidget& padre) : QLineEdit(&padre), vista_(vista) {
         setFrame(false);
     }
 
 protected:
-    void showEvent(QShowEvent* evento) override {
-        mostrata_();
-        QLineEdit::showEvent(evento);
-    }
     void keyPressEvent(QKeyEvent* tasto) override {
         const QString battuto = tasto->text();
         if (battuto.isEmpty() || !battuto[0].isPrint()) return QLineEdit::keyPressEvent(tasto);
@@ -51,8 +44,19 @@ private:
     }
 
     const Vista& vista_;
-    const std::function<void()> mostrata_;
 };
+
+/// Makes the letters small enough for the text. A text is about as long as its letters are large:
+/// to try each size would load a font for each.
+void Rimpicciolisci(QFont& font, const QString& testo, double spazio) {
+    constexpr int minima = 6;
+    const auto lungo = [&] { return QFontMetricsF(font).horizontalAdvance(testo); };
+    for (double eccede = lungo() / spazio; eccede > 1 && font.pixelSize() > minima;
+         eccede = lungo() / spazio) {
+        const int prossima = static_cast<int>(font.pixelSize() / eccede);
+        font.setPixelSize(std::max(minima, std::min(font.pixelSize() - 1, prossima)));
+    }
+}
 
 }  // namespace
 
@@ -65,7 +69,7 @@ QString Filtrato(const QString& battuto, char32_t (*filtro)(char32_t)) {
 }
 
 VistaCasella::VistaCasella(const CopiaControllo& copia, Mittente mittente, QWidget& padre)
-    : Vista(copia, mittente), casella_(new Scrittura(*this, padre, [this] { Riscala(); })) {
+    : Vista(copia, mittente), casella_(new Scrittura(*this, padre)) {
     PonWidget(*casella_);
     if (copia.lunghezzaMassima > 0) casella_->setMaxLength(copia.lunghezzaMassima);
     PonBlocco();
@@ -124,12 +128,10 @@ void VistaCasella::Rinfresca(Nome nome) {
 
 void VistaCasella::Riscala() {
     QFont font = Carattere(Stato().stile, Scala());
-    // A box that is only read never scrolls: what is too long for it gets smaller letters. Each
-    // size costs some time: one that nobody sees yet waits.
-    const double spazio = casella_->width() - 2 * (margineTesto + 4) * Scala();
-    while (Stato().Locked && casella_->isVisible() && font.pixelSize() > 6 &&
-           QFontMetricsF(font).horizontalAdvance(InQt(Stato().Text)) > spazio)
-        font.setPixelSize(font.pixelSize() - 1);
+    // A box that is only read never scrolls: what is too long for it gets smaller letters.
+    if (Stato().Locked)
+        Rimpicciolisci(font, InQt(Stato().Text),
+                       std::max(1.0, casella_->width() - 2 * (margineTesto + 4) * Scala()));
     casella_->setFont(font);
     const int margine = static_cast<int>(margineTesto * Scala());
     casella_->setTextMargins(margine, 0, margine, 0);

@@ -6,6 +6,7 @@
 #include <QTest>
 
 #include "desktop/text_box_view.h"
+#include "desktop/theme.h"
 #include "tests/desktop/stage.h"
 
 namespace corvana::prova {
@@ -79,19 +80,20 @@ TEST(Casella, ALockedOneShowsAndTakesNothing) {
     EXPECT_EQ(palco.Diario(), (Righe{"giu 51", "su 51"}));
 }
 
-TEST(Casella, ALockedOneFitsTheTextThatItGotWhileHidden) {
-    Palco palco([](FormDiProva& form) {
-        form.casella.Locked = true;
-        form.casella.Visible = false;
-    });
-    QLineEdit& casella = CasellaDi(palco);
-    const auto avanza = [&] {
-        return casella.width() - QFontMetricsF(casella.font()).horizontalAdvance(casella.text());
-    };
-    palco.NellaLogica([](FormDiProva& form) { form.casella.Text = "a text too long for its box"; });
-    EXPECT_LT(avanza(), 0);
-    palco.NellaLogica([](FormDiProva& form) { form.casella.Visible = true; });
-    EXPECT_GT(avanza(), 0);
+TEST(Casella, ALockedOneHasTheLargestLettersThatItsTextFitsIn) {
+    for (const char* testo : {"50.00%", "a long text", "a much longer text"}) {
+        Palco palco([&](FormDiProva& form) {
+            form.casella.Locked = true;
+            form.casella.Text = testo;
+        });
+        QLineEdit& casella = CasellaDi(palco);
+        QFont font = casella.font();
+        const auto lungo = [&] { return QFontMetricsF(font).horizontalAdvance(casella.text()); };
+        EXPECT_LT(lungo(), casella.width() - 20) << testo;
+        if (font.pixelSize() == Carattere({}, 1).pixelSize()) continue;
+        font.setPixelSize(font.pixelSize() + 1);
+        EXPECT_GT(lungo(), casella.width() - 20) << testo;
+    }
 }
 
 TEST(Casella, EnterIsToldBetweenItsPressAndItsRelease) {
