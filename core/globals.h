@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 
+#include "core/ear_trainer_state.h"
 #include "core/metronome_state.h"
 #include "core/random.h"
 #include "core/settings.h"
@@ -72,6 +73,7 @@ struct Globali {
     bool IntoAperto = false;
     bool PickerAperto = false;
     StatoMetronomo metronomo;
+    StatoInto into;
     std::int32_t ContestoInto = 0;     ///< help page that the ear trainer opens with
     std::array<bool, 5> PaginaInto{};  ///< the page that the ear trainer opens on
     TestiLingua testi;

@@ -87,6 +87,7 @@ void Suono::SuonaNota(std::int16_t valore) {
     if (soloFermare) return;
     const int scarto = CodiceBasso(valore) ? -scartoCodiciBassi : scartoIndice;
     NotaOn(canaleNota, Midi(valore, scarto), velocitaNota);
+    IntoAttesa = true;
     UltimaNota = valore;
 }
 
@@ -95,7 +96,7 @@ void Suono::ProssimaDomanda() {
     const std::int16_t intoNota = domanda_->ScegliIntoNota();
     if (UltimaNota >= 0) NotaOff(canaleNota, Midi(UltimaNota, scartoIndice));
     NotaOn(canaleNota, Midi(intoNota, scartoIndice), velocitaNota);
-    domanda_->PonIntoAttesa();
+    IntoAttesa = true;
     UltimaNota = intoNota;
     if (domanda_->NomeInVista()) {
         domanda_->sw(Midi(intoNota, scartoIndice), true);

@@ -22,8 +22,6 @@ public:
 
     /// Chooses `IntoNota` (the last one again when a repeat was asked for) and returns it.
     virtual std::int16_t ScegliIntoNota() = 0;
-    /// Notes that a question stands.
-    virtual void PonIntoAttesa() = 0;
     /// The learner wants to see the name of what sounds.
     virtual bool NomeInVista() const = 0;
     virtual void MostraNome(std::int16_t intoNota) = 0;
@@ -39,6 +37,7 @@ public:
 
     HandleDispositivo HandleMidi = 0;  ///< 0 when no device is open
     std::int16_t UltimaNota = 0;       ///< index or low code last started by `SuonaNota`
+    bool IntoAttesa = false;  ///< `SuonaNota` has asked for a note since the program started
     std::int32_t UltimoMessaggio = 0;  ///< the last short message packed
     std::int16_t EsitoMidi = 0;        ///< result of the last short message
 

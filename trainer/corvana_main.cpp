@@ -40,16 +40,16 @@ CorvanaMainF::CorvanaMainF(const Ambiente& ambiente, Secondarie secondarie)
     menu.mnuEn.Click = [this] { mnuEn_Click(); };
 }
 
-PannelloBarra::Azioni CorvanaMainF::AzioniDellaBarra() {
-    PannelloBarra::Azioni azioni;
-    if (secondarie_.frmInto) azioni[0] = [this] { ApriInto(a_.globali, secondarie_, 3, 0); };
-    azioni[1] = secondarie_.frmComposer;
-    azioni[2] = secondarie_.metronomo.alterna;
-    azioni[3] = secondarie_.frmOptions;
-    azioni[4] = secondarie_.frmStrum;
-    azioni[5] = [this] { PonModo(menu.mnuNormale.Checked); };
-    azioni[6] = secondarie_.aiuto;
-    return azioni;
+PannelloBarra::Comandi CorvanaMainF::ComandiDellaBarra() {
+    std::function<void()> into;
+    if (secondarie_.frmInto) into = [this] { ApriInto(a_.globali, secondarie_, 3, 0); };
+    return {{into, &menu.es},
+            {secondarie_.frmComposer, &menu.Risorse},
+            {secondarie_.metronomo.alterna, &menu.Risorse, false},
+            {secondarie_.frmOptions, &menu.Risorse},
+            {secondarie_.frmStrum, &menu.Risorse},
+            {[this] { PonModo(menu.mnuNormale.Checked); }, &menu.Risorse, false},
+            {secondarie_.aiuto, &menu.Risorse}};
 }
 
 void CorvanaMainF::Form_Load() {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "core/hover.h"
+#include "core/toolbar_panel.h"
 #include "trainer/answer_panel.h"
 #include "trainer/automatic_panel.h"
 #include "trainer/drill_panel.h"
@@ -11,7 +12,6 @@
 #include "trainer/range_panel.h"
 #include "trainer/secondary_windows.h"
 #include "trainer/staff_panel.h"
-#include "trainer/toolbar_panel.h"
 
 namespace corvana {
 
@@ -29,7 +29,7 @@ public:
     StatoEsercizio stato;
     MenuPrincipale menu{*this, a_, secondarie_, stato};
     PannelloPentagramma pentagramma{*this, hover_};
-    PannelloBarra barra{*this, hover_, {menu.es, menu.Risorse}, AzioniDellaBarra()};
+    PannelloBarra barra{*this, hover_, ComandiDellaBarra()};
     PannelloIntervalli intervalli{*this, stato, pentagramma.Regolo,
                                   [this](bool si) { PonPronto(si); }};
     PannelloEsercizio esercizio{
@@ -60,7 +60,7 @@ public:
     void RipristinaStato();
 
 private:
-    PannelloBarra::Azioni AzioniDellaBarra();
+    PannelloBarra::Comandi ComandiDellaBarra();
     void DisabilitaAssenti();
     void PrimaAttivazione();
     void ApriSuono();

@@ -1,4 +1,4 @@
-#include "trainer/toolbar_panel.h"
+#include "core/toolbar_panel.h"
 
 #include <utility>
 
@@ -17,11 +17,12 @@ void DipingiStriscia(Controllo& striscia, bool evidenziata) {
 
 }  // namespace
 
-PannelloBarra::PannelloBarra(Form& finestra, HoverFinestra& hover, Guardie guardie, Azioni azioni)
-    : finestra_(finestra), hover_(hover), guardie_(guardie), azioni_(std::move(azioni)) {
-    int numero = 0;
-    for (Figura& bottone : ToolButton) {
-        bottone.Click = [this, b = ++numero] { ToolButton_Click(b); };
+PannelloBarra::PannelloBarra(Form& finestra, HoverFinestra& hover, Comandi comandi)
+    : finestra_(finestra), hover_(hover), comandi_(std::move(comandi)) {
+    for (int numero = 1; numero <= static_cast<int>(comandi_.size()); ++numero) {
+        Figura& bottone =
+            ToolButton.emplace_back(finestra_, "ToolButton" + std::to_string(numero), &frToolBar);
+        bottone.Click = [this, numero] { ToolButton_Click(numero); };
         hover_.Affonda(bottone);
     }
     ShToolbar.Click = [this] { ShToolbar_Click(); };
@@ -31,12 +32,10 @@ PannelloBarra::PannelloBarra(Form& finestra, HoverFinestra& hover, Guardie guard
 }
 
 void PannelloBarra::ToolButton_Click(int numero) {
-    const bool ammesso = numero == 1 ? guardie_.primo.Enabled() : guardie_.altri.Enabled();
-    if (!ammesso) return;
-    // A modal window swallows the pointer: the picture would stay sunk behind it.
-    const bool apreModale = numero != 3 && numero != 6;
-    if (apreModale) hover_.Lascia();
-    if (const auto& azione = azioni_.at(static_cast<std::size_t>(numero - 1))) azione();
+    const Comando& comando = comandi_.at(static_cast<std::size_t>(numero - 1));
+    if (comando.guardia && !comando.guardia->Enabled()) return;
+    if (comando.siRialza) hover_.Lascia();
+    if (comando.azione) comando.azione();
 }
 
 void PannelloBarra::ShToolbar_Click() {
@@ -44,8 +43,8 @@ void PannelloBarra::ShToolbar_Click() {
 }
 
 void PannelloBarra::DisabilitaAssenti() {
-    for (std::size_t i = 0; i < azioni_.size(); ++i)
-        if (!azioni_.at(i)) ToolButton.at(i).Enabled = false;
+    for (std::size_t i = 0; i < comandi_.size(); ++i)
+        if (!comandi_.at(i).azione) ToolButton.at(i).Enabled = false;
 }
 
 void PannelloBarra::Dipingi() {
