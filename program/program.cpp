@@ -1,6 +1,7 @@
 #include "program/program.h"
 
 #include "core/startup.h"
+#include "eartrainer/into.h"
 #include "metronome/conf_metro.h"
 #include "utilities/about.h"
 #include "utilities/instruments.h"
@@ -24,6 +25,7 @@ Programma::Programma(const Ambiente& ambiente)
 
 Secondarie Programma::Apri() {
     Secondarie s;
+    s.frmInto = [this] { MostraInto(); };
     s.frmMidiTest = [this] { MostraModale<frmMidiTest>(aiutoStrumenti); };
     s.frmStrum = [this] { MostraModale<frmStrum>(aiutoStrumenti); };
     s.frmAbout = [this] { MostraModale<frmAbout>(); };
@@ -31,6 +33,18 @@ Secondarie Programma::Apri() {
     s.metronomo = {[this] { metronomo.Carica(); }, [this] { metronomo.mnuMetro_Click(); },
                    [this] { metronomo.Alterna(); }, [this] { metronomo.ConsigliaX12(); }};
     return s;
+}
+
+void Programma::MostraInto() {
+    const auto consiglio = [this](std::size_t bottone) {
+        return [this, bottone] { return principale.barra.ToolButton.at(bottone).ToolTipText(); };
+    };
+    frmInto finestra(a_, {consiglio(0), consiglio(4), consiglio(6), [&] {
+                              frmStrum strumenti(a_, [&] { finestra.SaveLastIntoSup(); });
+                              strumenti.HelpContextID = aiutoStrumenti;
+                              a_.finestre.MostraModale(strumenti);
+                          }});
+    a_.finestre.MostraModale(finestra);
 }
 
 void Programma::DaMainAllaFine(bool altraIstanza) {

@@ -26,6 +26,7 @@ private:
         a_.finestre.MostraModale(finestra);
     }
     Secondarie Apri();
+    void MostraInto();
 
     Ambiente a_;
 };

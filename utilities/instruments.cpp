@@ -17,6 +17,7 @@ constexpr Colore blu = 0xFF0000;
 /// Where the window opens, in twips from the main window.
 constexpr int aDestra = 900;
 constexpr int inBasso = 2600;
+constexpr int aDestraDiInto = 400;  ///< of the ear trainer, when that opens it
 
 constexpr std::array postiStrumenti = {
     Posto{"frmStrum", 0, 0, 4245, 3150, "Corvana"},
@@ -28,7 +29,8 @@ constexpr std::array postiStrumenti = {
 
 }  // namespace
 
-frmStrum::frmStrum(const Ambiente& ambiente) : Form("frmStrum"), a_(ambiente) {
+frmStrum::frmStrum(const Ambiente& ambiente, std::function<void()> SaveLastIntoSup)
+    : Form("frmStrum"), a_(ambiente), SaveLastIntoSup_(std::move(SaveLastIntoSup)) {
     Disponi(*this, postiStrumenti.data(), postiStrumenti.size());
     cmdEsci.ForeColor = blu;
     List1.Click = [this] { List1_Click(); };
@@ -48,17 +50,27 @@ void frmStrum::Form_Load() {
     for (std::int32_t i = 0; i < strumenti; ++i)
         righe.push_back(std::to_string(i) + " - " + NomeStrumento(i));
     List1.List = std::move(righe);
-    if (const Form* principale = a_.finestre.Principale()) {
-        Left = principale->Left + aDestra;
-        Top = principale->Top + inBasso;
-    }
+    Colloca();
+    const std::int32_t strumento =
+        a_.globali.IntoAperto ? a_.globali.into.StrumentoInto : a_.globali.StrumentoGlobale;
     // A stored state edited by hand may name an instrument that the list hasn't.
-    List1.Seleziona(std::clamp(a_.globali.StrumentoGlobale, 0, strumenti - 1));
+    List1.Seleziona(std::clamp(strumento, 0, strumenti - 1));
+}
+
+void frmStrum::Colloca() {
+    const Form* principale = a_.finestre.Principale();
+    if (!principale) return;
+    Left = principale->Left + aDestra;
+    Top = principale->Top + inBasso;
+    // It is the ear trainer that has opened this window, and is still in front.
+    if (a_.globali.IntoAperto) Left = a_.finestre.Davanti()->Left + aDestraDiInto;
 }
 
 void frmStrum::List1_Click() {
-    a_.globali.StrumentoGlobale = List1.ListIndex;
+    const bool into = a_.globali.IntoAperto;
+    (into ? a_.globali.into.StrumentoInto : a_.globali.StrumentoGlobale) = List1.ListIndex;
     a_.suono.CambiaStrumento(List1.ListIndex, 0);
+    if (into && a_.globali.PaginaInto.front() && SaveLastIntoSup_) SaveLastIntoSup_();
 }
 
 void frmStrum::cmdTest_Click() {

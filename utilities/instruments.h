@@ -2,6 +2,8 @@
 // Logic thread.
 #pragma once
 
+#include <functional>
+
 #include "core/globals.h"
 #include "core/hover.h"
 #include "forms/form.h"
@@ -10,7 +12,8 @@ namespace corvana {
 
 class frmStrum final : public Form {
 public:
-    explicit frmStrum(const Ambiente& ambiente);
+    /// `SaveLastIntoSup` stores the ear trainer's state; may be empty when that isn't open.
+    explicit frmStrum(const Ambiente& ambiente, std::function<void()> SaveLastIntoSup = {});
 
     Etichetta lblTitolo{*this, "lblTitolo"};
     Lista List1{*this, "List1"};
@@ -28,7 +31,10 @@ public:
     void cmdTest_Click();
 
 private:
+    void Colloca();
+
     Ambiente a_;
+    std::function<void()> SaveLastIntoSup_;
     HoverFinestra hover_;
 };
 

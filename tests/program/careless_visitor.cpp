@@ -12,6 +12,15 @@ namespace {
 const char* const italiano = "1;CorvanaMainF;Esci\n28;CorvanaMainF;Esatte: \n34;CorvanaMainF;V \n";
 const char* const inglese = "1;CorvanaMainF;Exit\n28;CorvanaMainF;Right: \n34;CorvanaMainF;S \n";
 
+/// What the ear trainer says, so that it can be told from faults and its prompts from each other.
+std::string DellOrecchio() {
+    std::string righe;
+    for (const int id : {180, 181, 182, 183, 184, 208, 209, 215, 216, 217, 224, 225, 230, 231, 232,
+                         239, 240, 244})
+        righe += std::to_string(id) + ";frmInto;into " + std::to_string(id) + '\n';
+    return righe;
+}
+
 /// What a burst is made of; a name that comes twice is done twice as often. "" is a right answer.
 constexpr std::array<const char*, 20> abitudini = {"Start",
                                                    "Start",
@@ -48,8 +57,8 @@ void Vagabondo::Vivi() {
 void Vagabondo::Avvia() {
     banco_ = std::make_unique<BancoProgramma>(chance_);
     banco_->uscita.nomi = {"Porta"};
-    banco_->file.contenuti["/programma/langit.csv"] = italiano;
-    banco_->file.contenuti["/programma/langen.csv"] = inglese;
+    banco_->file.contenuti["/programma/langit.csv"] = italiano + DellOrecchio();
+    banco_->file.contenuti["/programma/langen.csv"] = inglese + DellOrecchio();
     if (Capita(100)) banco_->uscita.esitoOpen = 4;
     prima_.reset();
     banco_->Quando(0, [this] { Passo(); });
@@ -186,7 +195,7 @@ void Vagabondo::Controlla() {
 
 void Vagabondo::ControllaRiquadri() {
     for (const std::string& testo : banco_->riquadri.messaggi)
-        Esigi(testo.starts_with("Operation:"), "a box: " + testo);
+        Esigi(testo.starts_with("Operation:") || testo.starts_with("into "), "a box: " + testo);
     banco_->riquadri.messaggi.clear();
 }
 
