@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "composer/composer.h"
+#include "eartrainer/into.h"
 #include "metronome/conf_metro.h"
 #include "tests/program/program_rig.h"
 #include "utilities/about.h"
@@ -55,6 +56,14 @@ TEST(LinguaAlCaricamento, TheMelodyWindowReadsIt) {
     frmComposer finestra{b.Tutto(), {[] { return ""; }, [] { return ""; }, {}}};
     b.Carica(finestra, "277;frmComposer;letto");
     EXPECT_EQ(finestra.inserimento.cmdInsPausa.Caption(), "letto");
+}
+
+TEST(LinguaAlCaricamento, TheEarTrainerReadsIt) {
+    BancoCaricato b;
+    const auto niente = [] { return std::string(); };
+    frmInto finestra{b.Tutto(), {niente, niente, niente, {}}};
+    b.Carica(finestra, "169;frmInto;letto");
+    EXPECT_EQ(finestra.telaio.cmdEsci.Caption(), "letto");
 }
 
 TEST(LinguaAlCaricamento, WithoutItsFileTheTextsOfTheDesignStayAndNothingIsTold) {

@@ -3,6 +3,7 @@
 
 #include "composer/composer.h"
 #include "core/language.h"
+#include "eartrainer/into.h"
 #include "metronome/conf_metro.h"
 #include "tests/language/expected_rows.h"
 #include "tests/language/program_rows.h"
@@ -96,6 +97,12 @@ TEST(RigheNelleFinestre, EachSetsItsControlsOfTheMelodyWindowAndNoOther) {
     Banco b;
     frmComposer finestra{b.Tutto(), {}};
     ControllaRighe(finestra, b.globali, daFare);
+}
+
+TEST(RigheNelleFinestre, EachSetsItsControlsOfTheEarTrainerAndNoOther) {
+    Banco b;
+    frmInto finestra{b.Tutto(), {}};
+    ControllaRighe(finestra, b.globali);
 }
 
 TEST(RigheNelleFinestre, TheMelodyWindowHasNoneOfTheControlsThatItIsSaidToLack) {
