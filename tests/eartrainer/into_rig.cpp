@@ -53,18 +53,19 @@ std::vector<int> QualiAccesi(const std::deque<Etichetta>& etichette) {
 
 }  // namespace
 
-BancoInto::BancoInto(std::initializer_list<PaginaInto> pagine)
-    : finestra(Tutto(), {[] { return "into"; }, [] { return "strumenti"; }, [] { return "aiuto"; },
-                         [this] {
-                             ++scelte;
-                             if (nelPicker) nelPicker();
-                             // It closes as soon as it has come.
-                             Evento chiude;
-                             chiude.fatto = Fatto::Chiudi;
-                             const double adesso = orologio.Adesso();
-                             Quando(adesso, [this, chiude] { coda.Aggiungi(Fatta(chiude, "")); });
-                             finestre.MostraModale(picker);
-                         }}) {
+BancoInto::BancoInto(Casuale& altra, std::initializer_list<PaginaInto> pagine)
+    : finestra(Con(altra),
+               {[] { return "into"; }, [] { return "strumenti"; }, [] { return "aiuto"; },
+                [this] {
+                    ++scelte;
+                    if (nelPicker) nelPicker();
+                    // It closes as soon as it has come.
+                    Evento chiude;
+                    chiude.fatto = Fatto::Chiudi;
+                    const double adesso = orologio.Adesso();
+                    Quando(adesso, [this, chiude] { coda.Aggiungi(Fatta(chiude, "")); });
+                    finestre.MostraModale(picker);
+                }}) {
     PonTestiInto(globali.testi);
     globali.StrumentoGlobale = 40;
     for (const PaginaInto pagina : pagine)

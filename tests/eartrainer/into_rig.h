@@ -13,7 +13,10 @@ using Suonati = std::vector<std::string>;
 
 struct BancoInto : Banco {
     /// With these of its pages flagged.
-    explicit BancoInto(std::initializer_list<PaginaInto> pagine = {});
+    explicit BancoInto(std::initializer_list<PaginaInto> pagine = {})
+        : BancoInto(casuale, pagine) {}
+    /// With another source of chance.
+    explicit BancoInto(Casuale& altra, std::initializer_list<PaginaInto> pagine = {});
 
     struct Vuota final : Form {
         explicit Vuota(const char* nome) : Form(nome) {}
