@@ -48,7 +48,12 @@ void AscoltatoreDistratto::Apri() {
     ++aperture;
     banco_ = std::make_unique<BancoInto>(chance_);
     BancoInto& b = *banco_;
-    if (Capita(20)) b.globali.testi = {};
+    pazienza_ = 2000;
+    if (Capita(20)) {
+        b.globali.testi = {};
+        // Without texts most pages can't be closed.
+        pazienza_ = 200;
+    }
     if (Capita(500)) b.PonStato("10;40;60;1;True;5");
     if (Capita(50)) b.PonStato("10;40;60");
     for (bool& bandiera : b.globali.PaginaInto)
@@ -70,7 +75,7 @@ void AscoltatoreDistratto::Apri() {
 
 void AscoltatoreDistratto::Passo() {
     Controlla();
-    if (rimasti_ <= 0 || !guasto.empty()) throw FineCopione{};
+    if (rimasti_ <= 0 || --pazienza_ <= 0 || !guasto.empty()) throw FineCopione{};
     for (int i = Capita(150) ? Tra(2, 5) : 1; i > 0; --i)
         Agisci();
     banco_->Quando(banco_->orologio.Adesso() + Pausa(), [this] { Passo(); });

@@ -47,6 +47,7 @@ private:
     std::mt19937 generatore_;
     CasualeFisso chance_;
     int rimasti_;
+    int pazienza_ = 0;  ///< with this window, in steps
     std::unique_ptr<BancoInto> banco_;
 };
 
