@@ -11,22 +11,21 @@ namespace {
 struct Classe {
     std::string_view latino;
     std::string_view anglo;
-    bool nero;
 };
 
 constexpr std::array<Classe, 12> classi = {{
-    {"Do", "C", false},
-    {"Do#", "C#", true},
-    {"Re", "D", false},
-    {"Re#", "D#", true},
-    {"Mi", "E", false},
-    {"Fa", "F", false},
-    {"Fa#", "F#", true},
-    {"Sol", "G", false},
-    {"Sol#", "G#", true},
-    {"La", "A", false},
-    {"La#", "A#", true},
-    {"Si", "B", false},
+    {"Do", "C"},
+    {"Do#", "C#"},
+    {"Re", "D"},
+    {"Re#", "D#"},
+    {"Mi", "E"},
+    {"Fa", "F"},
+    {"Fa#", "F#"},
+    {"Sol", "G"},
+    {"Sol#", "G#"},
+    {"La", "A"},
+    {"La#", "A#"},
+    {"Si", "B"},
 }};
 
 constexpr std::int16_t primaMidi = 36;
@@ -51,11 +50,6 @@ std::string NomeNota(std::int16_t midi, bool nomiAnglo) {
     if (classe < 0) return {};
     const Classe& trovata = classi[static_cast<std::size_t>(classe)];
     return std::string(nomiAnglo ? trovata.anglo : trovata.latino);
-}
-
-bool TastoNero(std::int16_t indice) {
-    constexpr std::int16_t tasti = 60;
-    return indice >= 0 && indice < tasti && classi[static_cast<std::size_t>(indice % 12)].nero;
 }
 
 std::int16_t CasualeIntero(Casuale& casuale, std::int16_t basso, std::int16_t alto) {

@@ -1,4 +1,4 @@
-// The program's vocabulary: pitches and their names, black keys, instruments. Stateless; any
+// The program's vocabulary: pitches and their names, instruments. Stateless; any
 // thread, but for the draws, which belong to the logic thread.
 //
 // Three numberings of pitch are in use. A MIDI number is 36 to 95, for the note trainer from 31. An
@@ -19,9 +19,6 @@ constexpr std::int16_t scartoIndiceNota = 36;
 /// Name of a MIDI number from 36 to 95, of 0 (a rest), or of a low code plus 36 (532, 534, 536);
 /// empty for any other. `nomiAnglo` gives C, D, E instead of Do, Re, Mi.
 std::string NomeNota(std::int16_t midi, bool nomiAnglo);
-
-/// True when the `IndiceNota` is a black key of the five octaves 0 to 59.
-bool TastoNero(std::int16_t indice);
 
 /// Name of a General MIDI program, 0 to 127; empty for any other.
 std::string NomeStrumento(std::int32_t programma);

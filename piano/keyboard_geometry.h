@@ -9,15 +9,7 @@
 
 namespace corvana {
 
-constexpr int tastiTastiera = 60;
 constexpr int tastoCentrale = 24;  ///< middle C
-
-/// By the key's place, from 0.
-constexpr bool TastoNero(int tasto) {
-    constexpr std::array neri = {false, true,  false, true,  false, false,
-                                 true,  false, true,  false, true,  false};
-    return neri[static_cast<std::size_t>(tasto % 12)];
-}
 
 /// A place on the picture, in twips.
 struct Rettangolo {

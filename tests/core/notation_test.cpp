@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <set>
 #include <string_view>
 
 #include "tests/support/rig.h"
@@ -69,20 +68,6 @@ TEST(NomeNota, TellsNoOctave) {
 TEST(NomeNota, ExtremeNumbersHaveNoName) {
     EXPECT_EQ(NomeDi(32767), "");
     EXPECT_EQ(NomeDi(-32768, true), "");
-}
-
-TEST(TastoNero, HoldsForTheTwentyFiveBlackKeysOfTheFiveOctavesAndNoOtherIndex) {
-    const std::set<int> neri = {1,  3,  6,  8,  10, 13, 15, 18, 20, 22, 25, 27, 30,
-                                32, 34, 37, 39, 42, 44, 46, 49, 51, 54, 56, 58};
-    for (int indice = -200; indice <= 600; ++indice)
-        EXPECT_EQ(TastoNero(static_cast<std::int16_t>(indice)), neri.contains(indice)) << indice;
-}
-
-TEST(TastoNero, EndsWithTheKeyboardThoughTheOctavePatternWouldGoOn) {
-    EXPECT_TRUE(TastoNero(58));
-    EXPECT_FALSE(TastoNero(59));
-    EXPECT_FALSE(TastoNero(61));
-    EXPECT_FALSE(TastoNero(-2));
 }
 
 TEST(CasualeIntero, EqualBoundsDrawNoNumber) {

@@ -92,11 +92,4 @@ TEST(TastieraSchermo, ThePictureHoldsAllThatLiesOnIt) {
     EXPECT_LE(PostoDoCentrale().top + PostoDoCentrale().height, postoTastiera.height);
 }
 
-TEST(SullaTastiera, TheKeysAreTheNotes36To95) {
-    EXPECT_FALSE(SullaTastiera(35));
-    EXPECT_TRUE(SullaTastiera(36));
-    EXPECT_TRUE(SullaTastiera(95));
-    EXPECT_FALSE(SullaTastiera(96));
-}
-
 }  // namespace corvana::prova
