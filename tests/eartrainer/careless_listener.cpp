@@ -20,8 +20,8 @@ const std::array<std::vector<std::string>, 5> abitudini = {
      {"lblSceltaTasti", "lblSceltaTasti"},
      {"lblRipeti", "lblTsh", "lblT(3)", "lblT(0)", "T5"}}};
 constexpr std::array vociMenu = {"mnuNotA",   "mnuRint",     "mnuRicTa",    "mnuRicTasto",
-                             "mnuRicTo",  "mnuPiano",    "mnuOrgano",   "mnuSs",
-                             "mnuNotLat", "mnuNotAnglo", "ToolButton6", "cmdEsci"};
+                                 "mnuRicTo",  "mnuPiano",    "mnuOrgano",   "mnuSs",
+                                 "mnuNotLat", "mnuNotAnglo", "ToolButton6", "cmdEsci"};
 
 std::size_t PaginaDavanti(const frmInto& f) {
     const std::array<const Cornice*, 5> cornici = {&f.intonazione.frmInto2,

@@ -15,8 +15,8 @@ const char* const inglese = "1;CorvanaMainF;Exit\n28;CorvanaMainF;Right: \n34;Co
 /// What the ear trainer says, so that it can be told from faults and its prompts from each other.
 std::string DellOrecchio() {
     std::string righe;
-    for (const int id : {180, 181, 182, 183, 184, 208, 209, 215, 216, 217, 224, 225, 230, 231, 232,
-                         239, 240, 244})
+    for (const int id :
+         {180, 181, 182, 183, 184, 208, 209, 215, 216, 217, 224, 225, 230, 231, 232, 239, 240, 244})
         righe += std::to_string(id) + ";frmInto;into " + std::to_string(id) + '\n';
     return righe;
 }
