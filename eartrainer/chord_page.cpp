@@ -52,7 +52,6 @@ void PaginaAccordi::Entra() {
     t_.cmdEsci.Visible = true;
     t_.a.suono.SuonaNota(fermaSuonaNota);
     t_.TogliEstensione(stato.IntoBasso, stato.IntoAlto);
-    t_.Segna(t_.NotaRif - scartoIndiceNota, false);
     t_.IntInCorso = false;
     t_.SpegniCoppia();
     t_.lblStep.Caption = t_.Testi().msgPrimoLimite;

@@ -4,6 +4,7 @@
 #include "composer/composer.h"
 #include "desktop/aspect.h"
 #include "desktop/style_words.h"
+#include "eartrainer/into.h"
 #include "metronome/conf_metro.h"
 #include "tests/desktop/keyboard_form.h"
 #include "tests/program/program_rig.h"
@@ -33,6 +34,7 @@ TEST(ParoleStile, AllOfEveryWindowAreKnown) {
     ControllaParole(frmMidiTest(b.Tutto()));
     ControllaParole(frmStrum(b.Tutto()));
     ControllaParole(frmComposer(b.Tutto(), {}));
+    EXPECT_GT(ControllaParole(frmInto(b.Tutto(), {})), 250);
     EXPECT_EQ(ControllaParole(FormTastiera()), 122);
 }
 

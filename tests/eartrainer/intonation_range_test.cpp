@@ -56,8 +56,10 @@ TEST(EstensioneIntonazione, TheFirstClickHidesTheExitUntilAStop) {
     b.Estrai(1, 21);
     b.Clicca(13, "IntoStart");
     b.Quando(17, [&] { EXPECT_FALSE(b.Visibile("cmdEsci")); });
+    b.Quando(17.5, [&] { EXPECT_TRUE(b.finestra.intonazione.IntoRifOk); });
     b.Clicca(18, "IntoStart");
     b.Vai(19);
+    EXPECT_FALSE(b.finestra.intonazione.IntoRifOk);
     EXPECT_TRUE(b.Visibile("cmdEsci"));
     EXPECT_TRUE(b.finestra.menu.Esercizio.Enabled());
 }
