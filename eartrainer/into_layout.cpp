@@ -36,7 +36,7 @@ constexpr std::array postiInto = {
     Posto{"ToolButton5", 2100, 60, 480, 480, {}, {}, "icona:tasti"},
     Posto{"ToolButton6", 2625, 60, 480, 480, {}, {}, "icona:strumenti"},
     Posto{"ToolButton7", 3150, 60, 480, 480, {}, {}, "icona:aiuto"},
-    Posto{"lblStep", 180, 1050, 8040, 600, {}, {}, "carta titolo centro"},
+    Posto{"lblStep", 180, 1050, 8040, 600, {}, {}, "carta titolo centro mezzo"},
 
     Posto{"Label2", 8430, 1050, 2580, 300, "Risposte esatte"},
     Posto{"txtResatte", 8430, 1350, 1800, 450, "0", {}, "cifra giuste destra"},
@@ -122,7 +122,7 @@ void DisponiGriglia(PaginaIntervalli& pagina) {
     }
     for (std::size_t i = 0; i < nomiIntervalli.size(); ++i) {
         const NomeIntervallo& nome = nomiIntervalli.at(i);
-        PoniIn(pagina.Label4[i], posto(nome.semitoni), nome.sopra ? 105 : 1020, larga, 285,
+        PoniIn(pagina.Label4[i], posto(nome.semitoni) - 15, nome.sopra ? 105 : 1020, colonna, 285,
                "piccolo centro tondo");
     }
     pagina.lblIntSh.BackColor = fondoRisposte;

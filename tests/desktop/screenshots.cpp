@@ -128,6 +128,22 @@ void FotografaSecondarie(Servizio& s) {
     s.Premi("lblCloseMetro");
 }
 
+/// The ear trainer's pages, one after the other in the open window.
+void FotografaOrecchio(Servizio& s) {
+    s.Scegli("mnuRac");
+    s.Attendi(QStringLiteral("frmInto"));
+    for (const auto& [voce, cornice] : {std::pair{"mnuNotA", "frmInto2"},
+                                        {"mnuRint", "FrmIntervalli"},
+                                        {"mnuRicTa", "frmRacc"},
+                                        {"mnuRicTasto", "frmRicTasto"},
+                                        {"mnuRicTo", "frmTo"}}) {
+        s.Scegli(voce);
+        Aspetta([&, c = cornice] { return s.Stato(c).Visible; });
+        s.Scatta(QStringLiteral("frmInto-") + QString::fromLatin1(cornice));
+    }
+    s.Chiudi();
+}
+
 /// The five-octave keyboard, which no window of the program shows alone.
 void FotografaTastiera(const QString& cartella, double volte) {
     PalcoTastiera palco;
@@ -160,6 +176,7 @@ int main(int argc, char** argv) {
         FotografaTutto(servizio);
         FotografaBattito(servizio);
         FotografaSecondarie(servizio);
+        FotografaOrecchio(servizio);
     }
     scrivania.Termina();
     FotografaTastiera(QString::fromLocal8Bit(argv[1]), argc > 3 ? std::atof(argv[3]) : 1);
