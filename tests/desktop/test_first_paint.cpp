@@ -78,7 +78,7 @@ TEST(PrimaPittura, ABoxThatComesBeforeAnyWindowCountsToo) {
     const Attesa attesa(scrivania.Dipinta());
     scrivania.Avvia([&] { scrivania.Riquadri().MsgBox("already running"); });
     EXPECT_TRUE(Aspetta([&] { return scrivania.Riquadro() != nullptr; }));
-    EXPECT_TRUE(attesa.Finita());
+    EXPECT_TRUE(Aspetta([&] { return attesa.Finita(); }));
     scrivania.Termina();
 }
 
