@@ -40,7 +40,7 @@ TEST(Scrivania, AWindowInWhichNothingHasTheFocusIsNotPaintedAgainWhenItGetsTheKe
         QFocusEvent fuoco(tipo, Qt::ActiveWindowFocusReason);
         QApplication::sendEvent(finestra.Finestra().centralWidget(), &fuoco);
     }
-    QTest::qWait(0);
+    QCoreApplication::processEvents();
     EXPECT_EQ(pitture.quante, 1);
 }
 
