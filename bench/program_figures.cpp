@@ -10,12 +10,10 @@
 #include <QThread>
 #include <algorithm>
 #include <cstdio>
-#include <filesystem>
 #include <fstream>
-#include <map>
-#include <sstream>
 
 #include "bench/figures.h"
+#include "bench/process_figures.h"
 
 namespace {
 
@@ -56,26 +54,6 @@ private:
     QElapsedTimer tempo_;
     QProcess processo_;
 };
-
-double LeggiPss(const std::string& cartella) {
-    std::ifstream file(cartella + "/smaps_rollup");
-    for (std::string riga; std::getline(file, riga);)
-        if (riga.starts_with("Pss:")) return std::stod(riga.substr(4)) / 1024;
-    return 0;
-}
-
-/// Seconds that each thread has run so far, by its number and name.
-std::map<std::string, double> LeggiFili(const std::string& cartella) {
-    std::map<std::string, double> fili;
-    for (const auto& filo : std::filesystem::directory_iterator(cartella + "/task")) {
-        std::string nome;
-        double nanosecondi = 0;
-        std::getline(std::ifstream(filo.path() / "comm"), nome);
-        std::ifstream(filo.path() / "schedstat") >> nanosecondi;
-        fili[filo.path().filename().string() + " " + nome] = nanosecondi / 1e9;
-    }
-    return fili;
-}
 
 /// Milliseconds of processor that the thread of the windows has used.
 double LavoroFinestre(const std::string& cartella) {
@@ -122,16 +100,9 @@ void MisuraAvvii(const QString& percorso, const QString& vuota) {
 
 void MisuraRiposo(Programma& programma) {
     constexpr int secondi = 10;
-    const auto prima = LeggiFili(programma.Cartella());
+    const auto prima = misura::LeggiFili(programma.Cartella());
     QThread::sleep(secondi);
-    double somma = 0;
-    for (const auto& [filo, dopo] : LeggiFili(programma.Cartella())) {
-        const auto inizio = prima.find(filo);
-        const double quota = (dopo - (inizio == prima.end() ? 0 : inizio->second)) / secondi * 100;
-        somma += quota;
-        std::printf("  at rest over 10 s, thread %-30s %6.3f %%\n", filo.c_str(), quota);
-    }
-    std::printf("%-52s %6.3f %%\n", "processor use at rest, all threads", somma);
+    misura::StampaRiposo(prima, secondi, programma.Cartella());
 }
 
 }  // namespace
@@ -144,7 +115,7 @@ int main(int argc, char** argv) {
     programma.AspettaFinestra();
     QThread::sleep(5);
     std::printf("%-52s %.1f MiB\n", "memory (PSS), synthesiser ready",
-                LeggiPss(programma.Cartella()));
+                misura::LeggiPss(programma.Cartella()));
     // The stream goes to rest after half a minute of silence.
     QThread::sleep(35);
     MisuraRiposo(programma);

@@ -1,0 +1,63 @@
+#include "desktop/machine.h"
+
+#include <dlfcn.h>
+
+#include <QDir>
+#include <QStandardPaths>
+#include <chrono>
+#include <stdexcept>
+
+#include "core/folders.h"
+#include "core/real_files.h"
+#include "desktop/application.h"
+#include "desktop/late_outputs.h"
+#include "realtime/punctuality.h"
+#include "sound/outputs/module.h"
+
+namespace corvana {
+
+namespace {
+
+/// A file of the program's own in one of the user's folders, which is made when it is missing.
+std::string NellaCartella(QStandardPaths::StandardLocation dove, const char* nome) {
+    const QString cartella = QStandardPaths::writableLocation(dove) + QStringLiteral("/corvana");
+    QDir().mkpath(cartella);
+    return (cartella + QLatin1Char('/') + QLatin1String(nome)).toStdString();
+}
+
+/// Of a window that isn't painted by then, the sound doesn't wait any longer.
+constexpr std::chrono::milliseconds attesaDipinta(500);
+
+std::unique_ptr<PiattaformaMidi> CaricaUscite(const std::string& modulo,
+                                              const std::function<double()>& istante,
+                                              const ImpostazioniUscite& impostazioni) {
+    // Never let go: the audio libraries leave threads behind.
+    void* const preso = dlopen(modulo.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
+    void* const entrata = preso ? dlsym(preso, entrataUscite) : nullptr;
+    if (!entrata) throw std::runtime_error(dlerror());
+    return std::unique_ptr<PiattaformaMidi>(
+        reinterpret_cast<CreazioneUscite*>(entrata)(istante, impostazioni));
+}
+
+}  // namespace
+
+Macchina QuestaMacchina(const Applicazione& applicazione, const std::string& qui) {
+    FileReali file;
+    Macchina macchina;
+    macchina.cartellaProgramma = CercaCartellaProgramma(file, qui);
+    macchina.percorsoImpostazioni =
+        NellaCartella(QStandardPaths::GenericConfigLocation, "settings");
+    macchina.percorsoBlocco = NellaCartella(QStandardPaths::GenericCacheLocation, "lock");
+    const ImpostazioniUscite impostazioni{.cartellaSegnali = macchina.cartellaProgramma + "/note",
+                                          .puntuale = PreferisciPuntualita};
+    macchina.uscite = [=, &applicazione](const std::function<double()>& istante) {
+        return std::make_unique<UsciteDifferite>([=, &applicazione] {
+            applicazione.AspettaDipinta(attesaDipinta);
+            return CaricaUscite(qui + CORVANA_OUTPUTS, istante, impostazioni);
+        });
+    };
+    macchina.puntuale = PreferisciPuntualita;
+    return macchina;
+}
+
+}  // namespace corvana
