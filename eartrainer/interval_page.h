@@ -2,7 +2,7 @@
 // between them. Outside of a run the same row sounds what is pressed. Logic thread.
 #pragma once
 
-#include "eartrainer/interval_names.h"
+#include "core/interval_names.h"
 #include "eartrainer/into_frame.h"
 
 namespace corvana {

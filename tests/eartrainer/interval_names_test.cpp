@@ -1,4 +1,4 @@
-#include "eartrainer/interval_names.h"
+#include "core/interval_names.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-// The intervals' names as the ear trainer shows them: above each number of semitones one spelling,
-// below it another. Pure; any thread.
+// The intervals' names, as the ear trainer and the reference chart show them: above each number of
+// semitones one spelling, below it another. Pure; any thread.
 #pragma once
 
 #include <array>
