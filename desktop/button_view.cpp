@@ -25,6 +25,8 @@ protected:
         // The toolkit waits for a move where the pointer came, or was already.
         o->state.setFlag(QStyle::State_MouseOver, underMouse());
     }
+    /// Whether one that may stay down does, the logic says.
+    void nextCheckState() override {}
     void keyPressEvent(QKeyEvent* tasto) override {
         if (!EInvio(tasto->key())) return QPushButton::keyPressEvent(tasto);
         if (!tasto->isAutoRepeat()) click();
@@ -36,13 +38,17 @@ protected:
 VistaBottone::VistaBottone(const CopiaControllo& copia, Mittente mittente, QWidget& padre)
     : Vista(copia, mittente), bottone_(new Pulsante(padre)) {
     PonWidget(*bottone_);
+    for (const auto& [nome, valore] : copia.proprieta)
+        if (nome == &Valori::Checked) bottone_->setCheckable(true);
     Rinfresca(&Valori::Caption);
+    Rinfresca(&Valori::Checked);
     QObject::connect(bottone_, &QAbstractButton::clicked, bottone_,
                      [this] { Manda(Fatto::Click); });
 }
 
 void VistaBottone::Rinfresca(Nome nome) {
     if (nome == &Valori::Caption) bottone_->setText(InQt(Stato().Caption));
+    if (nome == &Valori::Checked) bottone_->setChecked(Stato().Checked);
     Vista::Rinfresca(nome);
 }
 

@@ -25,6 +25,12 @@ struct Bottone : ConCaption {
         : ConCaption(form, std::move(nome), Genere::Bottone, padre) {}
 };
 
+/// A button that may stay down: whether it does is the logic's to say, not the click's.
+struct Interruttore : Bottone {
+    using Bottone::Bottone;
+    Proprieta<&Valori::Checked> Checked{*this};
+};
+
 struct Casella : Controllo {
     Casella(Form& form, std::string nome, Controllo* padre = nullptr)
         : Controllo(form, std::move(nome), Genere::Casella, padre) {}
