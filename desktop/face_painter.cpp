@@ -38,6 +38,16 @@ void Ombra(QPainter& p, const QRectF& area, double raggio, double scala) {
     p.drawRoundedRect(area.translated(0, scala), raggio, raggio);
 }
 
+/// The tab whose page is in front is marked by more than its colour.
+void DipingiSceltaScheda(QPainter& p, const QRectF& area, double scala) {
+    constexpr double rientro = 14, altezza = 3, daSotto = 4;
+    const QRectF riga(area.left() + rientro * scala, area.bottom() - (daSotto + altezza) * scala,
+                      area.width() - 2 * rientro * scala, altezza * scala);
+    p.setPen(Qt::NoPen);
+    p.setBrush(tinta::accento);
+    p.drawRoundedRect(riga, riga.height() / 2, riga.height() / 2);
+}
+
 }  // namespace
 
 void DipingiFondo(QPainter& p, const QRectF& area, const Aspetto& a, double scala,
@@ -65,6 +75,7 @@ void DipingiBottone(QPainter& p, const QRectF& area, const Aspetto& a, double sc
     p.setBrush(Sotto(fondo, tocco));
     p.drawRoundedRect(faccia, raggio, raggio);
     Contorna(p, faccia, raggio, tocco.abilitato ? tinta::filoForte : tinta::filo, scala);
+    if (a.Ha("scheda") && a.Checked) DipingiSceltaScheda(p, faccia, scala);
     if (tocco.fuoco) DipingiAnello(p, faccia, scala);
     Aspetto centrato = a;
     centrato.stile << QStringLiteral("centro") << QStringLiteral("mezzo");

@@ -3,6 +3,9 @@
 #include <algorithm>
 
 #include "desktop/button_view.h"
+#include "desktop/chart_keys_view.h"
+#include "desktop/chart_notes_view.h"
+#include "desktop/chart_view.h"
 #include "desktop/combo_view.h"
 #include "desktop/keyboard_view.h"
 #include "desktop/light_view.h"
@@ -55,6 +58,17 @@ constexpr RigaFaccia facce[] = {
     {Genere::Figura, "docentrale", Dipinta<VistaDoCentrale>},
     {Genere::Figura, "luce", Dipinta<VistaLuce>},
     {Genere::Figura, "colonne", Dipinta<VistaColonne>},
+    {Genere::Figura, "pagina", Dipinta<VistaPagina>},
+    {Genere::Figura, "scala", Dipinta<VistaScala>},
+    {Genere::Figura, "valori", Dipinta<VistaValori>},
+    {Genere::Figura, "specchio", Dipinta<VistaSpecchio>},
+    {Genere::Figura, "armatura", Dipinta<VistaArmatura>},
+    {Genere::Figura, "grado", Dipinta<VistaGrado>},
+    {Genere::Figura, "consonante", Dipinta<VistaClasse>},
+    {Genere::Figura, "melodico", Dipinta<VistaClasse>},
+    {Genere::Figura, "dissonante", Dipinta<VistaClasse>},
+    {Genere::Figura, "spaziato", Dipinta<VistaSpaziato>},
+    {Genere::Figura, "frecce", Dipinta<VistaFrecce>},
     {Genere::Figura, "icona:", Dipinta<VistaIcona>},
     {Genere::Figura, "", Dipinta<VistaSemplice>},
 };

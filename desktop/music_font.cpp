@@ -26,25 +26,29 @@ constexpr FontMusicale fontMusicali[] = {
     {"Noto Music", 4.05, 0.0, 0.0},
 };
 
-QPainterPath DaFont(const FontMusicale& f, Segno segno) {
+QPainterPath DaFont(const FontMusicale& f, char32_t codice, double alza) {
     constexpr int grande = 1000;
     QFont font(QString::fromLatin1(f.famiglia));
     font.setStyleStrategy(QFont::NoFontMerging);
     font.setPixelSize(grande);
-    const char32_t codice = Codice(segno);
     QPainterPath grezza;
     grezza.addText(0, 0, font, QString::fromUcs4(&codice, 1));
-    const double alza = segno == Segno::ChiaveViolino ? f.alzaViolino : f.alzaBasso;
     const double scala = f.spazi / grande;
     return QTransform::fromTranslate(-grezza.boundingRect().left() * scala, -alza)
         .scale(scala, scala)
         .map(grezza);
 }
 
+bool CeIlFont(const FontMusicale& f) {
+    return QFontDatabase::hasFamily(QLatin1String(f.famiglia));
+}
+
 /// From the first font that the machine has, else by hand.
 QPainterPath Cerca(Segno segno) {
-    for (const FontMusicale& font : fontMusicali)
-        if (QFontDatabase::hasFamily(QLatin1String(font.famiglia))) return DaFont(font, segno);
+    for (const FontMusicale& f : fontMusicali)
+        if (CeIlFont(f))
+            return DaFont(f, Codice(segno),
+                          segno == Segno::ChiaveViolino ? f.alzaViolino : f.alzaBasso);
     return TracciaSegnoAMano(segno);
 }
 
@@ -87,6 +91,12 @@ const QPainterPath& TracciaSegno(Segno segno) {
     static const QPainterPath violino = Cerca(Segno::ChiaveViolino);
     static const QPainterPath basso = Cerca(Segno::ChiaveBasso);
     return segno == Segno::ChiaveViolino ? violino : basso;
+}
+
+std::optional<QPainterPath> TracciaDelFont(char32_t codice) {
+    const FontMusicale& f = fontMusicali[0];
+    if (!CeIlFont(f)) return std::nullopt;
+    return DaFont(f, codice, 0);
 }
 
 QPainterPath TracciaSegnoAMano(Segno segno) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QPainterPath>
+#include <optional>
 
 namespace corvana {
 
@@ -13,6 +14,10 @@ enum class Segno { ChiaveViolino, ChiaveBasso };
 const QPainterPath& TracciaSegno(Segno segno);
 /// The same without any font.
 QPainterPath TracciaSegnoAMano(Segno segno);
+
+/// Any sign of the font whose signs all lie alike: a note's head stands on the lowest line, a rest
+/// where it belongs. None where the machine hasn't got that font.
+std::optional<QPainterPath> TracciaDelFont(char32_t codice);
 
 /// A curly brace from 0, 0 down to 0, `altezza`, its point at -`larghezza`.
 QPainterPath TracciaGraffa(double altezza, double larghezza);

@@ -37,6 +37,10 @@ const ParolaStile parole[] = {
     {"risposta", Lettere{15, semi}},
     {"principale", Lettere{15, semi}},
     {"insegna", Lettere{24, QFont::Bold}, {}, true},
+    {"pagina", Lettere{18, semi}},
+    {"consonante", {}, {}, true},
+    {"melodico", {}, {}, true},
+    {"dissonante", {}, {}, true},
     {"percento", Lettere{15, semi}},
     // Of the letters: heavier. Of the text: its place.
     {"forte"},
@@ -48,6 +52,7 @@ const ParolaStile parole[] = {
     {"sbagliate"},
     {"tasti"},
     {"ornamento"},
+    {"scheda"},
     // Another control covers it; others name it.
     {"dietro"},
     {"nome:"},

@@ -6,6 +6,7 @@
 #include "utilities/about.h"
 #include "utilities/instruments.h"
 #include "utilities/midi_test.h"
+#include "utilities/options.h"
 
 namespace corvana {
 
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int aiutoMetronomo = 8;
 constexpr int aiutoStrumenti = 40;
+constexpr int aiutoPromemoria = 50;
 
 }  // namespace
 
@@ -27,6 +29,7 @@ Secondarie Programma::Apri() {
     Secondarie s;
     s.frmInto = [this] { MostraInto(); };
     s.frmMidiTest = [this] { MostraModale<frmMidiTest>(aiutoStrumenti); };
+    s.frmOptions = [this] { MostraModale<frmOptions>(aiutoPromemoria); };
     s.frmStrum = [this] { MostraModale<frmStrum>(aiutoStrumenti); };
     s.frmAbout = [this] { MostraModale<frmAbout>(); };
     s.aiuto = [this] { a_.finestre.ChiediAiuto(); };

@@ -144,6 +144,27 @@ void FotografaOrecchio(Servizio& s) {
     s.Chiudi();
 }
 
+/// The reference chart's pages; of the second one the keys with most accidentals too, and the
+/// degrees.
+void FotografaPromemoria(Servizio& s) {
+    s.Scegli("mnuPromemoria");
+    s.Attendi(QStringLiteral("frmOptions"));
+    s.Scatta(QStringLiteral("frmOptions-1"));
+    s.Premi("cmdSel1");
+    Aspetta([&] { return s.Stato("Frame12").Visible; });
+    s.Scatta(QStringLiteral("frmOptions-2"));
+    for (const auto& [ton, mostrato] :
+         {std::pair{"Ton8", "Img8"}, {"Ton15", "Img15"}, {"Ton16", "Gradi"}}) {
+        s.Premi(ton);
+        Aspetta([&, m = mostrato] { return s.Stato(m).Visible; });
+        s.Scatta(QStringLiteral("frmOptions-2-") + QLatin1String(mostrato));
+    }
+    s.Premi("cmdSel2");
+    Aspetta([&] { return s.Stato("Frame13").Visible; });
+    s.Scatta(QStringLiteral("frmOptions-3"));
+    s.Chiudi();
+}
+
 /// The five-octave keyboard, which no window of the program shows alone.
 void FotografaTastiera(const QString& cartella, double volte) {
     PalcoTastiera palco;
@@ -177,6 +198,7 @@ int main(int argc, char** argv) {
         FotografaBattito(servizio);
         FotografaSecondarie(servizio);
         FotografaOrecchio(servizio);
+        FotografaPromemoria(servizio);
     }
     scrivania.Termina();
     FotografaTastiera(QString::fromLocal8Bit(argv[1]), argc > 3 ? std::atof(argv[3]) : 1);
