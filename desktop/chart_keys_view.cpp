@@ -13,12 +13,17 @@ namespace corvana {
 namespace {
 
 // Designed pixels.
+constexpr double altezzaTestata = 54, sottoModo = 24;
 constexpr double altezzaRiga = 26, primaDeiGradi = 8;
 constexpr double fineAccidenti = 80, fineMaggiori = 190, fineMinori = 300, inizioTon = 464;
 constexpr double sogliaMaggiore = 135, sogliaMinore = 245;  ///< where the names end
 constexpr double altezzaAccidente = 5.4;                    ///< a space of one beside letters
 constexpr Qt::Alignment aDestra = Qt::AlignRight | Qt::AlignVCenter;
 constexpr Qt::Alignment aSinistra = Qt::AlignLeft | Qt::AlignVCenter;
+
+QString SoloNome(const NomeTonica& tonica) {
+    return QString::fromUtf8(tonica.nome.data(), static_cast<qsizetype>(tonica.nome.size()));
+}
 
 double LarghezzaAccidente(int alterazione, double spazio) {
     if (alterazione == 0) return 0;
@@ -30,14 +35,19 @@ void DipingiAccidente(QPainter& p, int alterazione, const QPointF& dove, double 
         DipingiSegnoTavola(p, SegniDellaTavola().alterazione(alterazione > 0), dove, spazio);
 }
 
+/// Beside letters in whose middle `dove` lies: a flat's belly stands on their foot.
+void DipingiAccidenteNelTesto(QPainter& p, int alterazione, const QPointF& dove, double spazio) {
+    const double giu = alterazione < 0 ? 0.35 * spazio : 0;
+    DipingiAccidente(p, alterazione, dove + QPointF(0, giu), spazio);
+}
+
 /// The name and its accidental, which end at `fine`.
 void DipingiTonica(QPainter& p, const NomeTonica& tonica, double fine, double y) {
     constexpr double stacco = 2;
     const double largo = LarghezzaAccidente(tonica.alterazione, altezzaAccidente);
-    DipingiAccidente(p, tonica.alterazione, {fine - largo, y - 1}, altezzaAccidente);
+    DipingiAccidenteNelTesto(p, tonica.alterazione, {fine - largo, y - 1}, altezzaAccidente);
     const double fineNome = fine - (largo > 0 ? largo + stacco : 0);
-    Scrivi(p, {fineNome - 60, y - altezzaRiga / 2, 60, altezzaRiga}, aDestra,
-           QString::fromUtf8(tonica.nome.data(), static_cast<qsizetype>(tonica.nome.size())),
+    Scrivi(p, {fineNome - 60, y - altezzaRiga / 2, 60, altezzaRiga}, aDestra, SoloNome(tonica),
            {15, true});
 }
 
@@ -50,7 +60,7 @@ void DipingiNumero(QPainter& p, int accidenti, double y) {
         return;
     }
     Scrivi(p, prima, aDestra, numero);
-    DipingiAccidente(p, accidenti, {mezzo + 3, y - 1}, altezzaAccidente);
+    DipingiAccidenteNelTesto(p, accidenti, {mezzo + 3, y - 1}, altezzaAccidente);
 }
 
 void DipingiRigaSpecchio(QPainter& p, const RigaSpecchio& riga, double y, double larghezza) {
@@ -77,8 +87,7 @@ void DipingiRigaGradi(QPainter& p, double y) {
 }
 
 QString InTesto(const NomeTonica& tonica) {
-    const QString nome =
-        QString::fromUtf8(tonica.nome.data(), static_cast<qsizetype>(tonica.nome.size()));
+    const QString nome = SoloNome(tonica);
     if (tonica.alterazione == 0) return nome;
     return nome + (tonica.alterazione > 0 ? u'\u266F' : u'\u266D');
 }
@@ -87,8 +96,7 @@ double MisuraTonica(const NomeTonica& tonica, double pixel, double spazio) {
     QFont font = Carattere({}, 1);
     font.setPixelSize(static_cast<int>(pixel));
     font.setWeight(QFont::DemiBold);
-    const QString nome =
-        QString::fromUtf8(tonica.nome.data(), static_cast<qsizetype>(tonica.nome.size()));
+    const QString nome = SoloNome(tonica);
     return QFontMetricsF(font).horizontalAdvance(nome) + 2 +
            LarghezzaAccidente(tonica.alterazione, spazio);
 }
@@ -109,10 +117,9 @@ void DipingiIntestazione(QPainter& p, const RigaSpecchio& riga, double larghezza
     const NomeTonica* const nomi[] = {&riga.maggiore, &riga.minore};
     double x = larghezza / 2 - stacco / 2 - MisuraTonica(riga.maggiore, pixel, spazio);
     for (const NomeTonica* nome : nomi) {
-        const QString testo =
-            QString::fromUtf8(nome->nome.data(), static_cast<qsizetype>(nome->nome.size()));
+        const QString testo = SoloNome(*nome);
         const double largo = Scrivi(p, {x, y - 20, 100, 40}, aSinistra, testo, {pixel, true});
-        DipingiAccidente(p, nome->alterazione, {x + largo + 2, y - 1}, spazio);
+        DipingiAccidenteNelTesto(p, nome->alterazione, {x + largo + 2, y - 1}, spazio);
         x = larghezza / 2 + stacco / 2;
     }
     Scrivi(p, {larghezza / 2 - 20, y - 20, 40, 40}, Qt::AlignCenter, QStringLiteral("–"),
@@ -124,14 +131,17 @@ void DipingiIntestazione(QPainter& p, const RigaSpecchio& riga, double larghezza
 void VistaSpecchio::Dipingi(QPainter& p, const QRectF& area, const Tocco&) {
     p.scale(Scala(), Scala());
     const double larghezza = area.width() / Scala();
-    DipingiFilo(p, {0, 0}, {larghezza, 0}, tinta::filoForte, 1.6);
-    double y = 0;
+    constexpr double rientro = 10;
+    DipingiFilo(p, {fineAccidenti + rientro, sottoModo}, {fineMinori - rientro, sottoModo},
+                tinta::filoForte);
+    double y = altezzaTestata;
+    DipingiFilo(p, {0, y}, {larghezza, y}, tinta::filoForte, 1.6);
     for (const RigaSpecchio& riga : specchioTonalita) {
         DipingiRigaSpecchio(p, riga, y, larghezza);
         y += altezzaRiga;
     }
     for (const double x : {fineAccidenti, fineMaggiori, fineMinori, inizioTon})
-        DipingiFilo(p, {x, 0}, {x, y}, tinta::filo);
+        DipingiFilo(p, {x, altezzaTestata}, {x, y}, tinta::filo);
     DipingiRigaGradi(p, y + primaDeiGradi);
 }
 

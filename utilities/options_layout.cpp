@@ -24,11 +24,11 @@ constexpr std::array postiOptions = {
           "Nomi delle note, loro durata e simboli delle relative pause ",
           {},
           "carta pagina"},
-    Posto{"Scala", 375, 930, 11970, 1440, {}, {}, "scala"},
-    Posto{"Image1", 375, 3480, 11970, 4350, {}, {}, "valori"},
+    Posto{"Scala", 360, 930, 12000, 1440, {}, {}, "scala"},
+    Posto{"Image1", 360, 3480, 12000, 4350, {}, {}, "valori"},
 
     Posto{"Frame12", 240, 960, 12720, 8100, "Specchio delle tonalità ", {}, "carta pagina"},
-    Posto{"Image3", 360, 1620, 7740, 6360, {}, {}, "specchio"},
+    Posto{"Image3", 360, 810, 7740, 7170, {}, {}, "specchio"},
     Posto{"Label37", 360, 1170, 1200, 330, "N° Acc.", {}, "centro titolo"},
     Posto{"lblModo", 1560, 840, 3300, 330, "Modo", {}, "centro titolo"},
     Posto{"lblMa", 1560, 1170, 1650, 330, "Maggiore", {}, "centro titolo"},
@@ -70,7 +70,7 @@ void Poni(Controllo& controllo, int left, int top, int width, int height, std::s
 }
 
 void DisponiNomiEValori(frmOptions& f) {
-    constexpr int sinistra = 375, colonna = 1710;
+    constexpr int sinistra = 360, colonna = 12000 / 7;
     for (std::size_t i = 0; i < nomiLatini.size(); ++i) {
         const int x = sinistra + static_cast<int>(i) * colonna;
         Etichetta& lettera = f.Label36[i + nomiLatini.size()];

@@ -11,6 +11,7 @@
 #include "utilities/about.h"
 #include "utilities/instruments.h"
 #include "utilities/midi_test.h"
+#include "utilities/options.h"
 
 namespace corvana::prova {
 namespace {
@@ -32,6 +33,7 @@ TEST(ParoleStile, AllOfEveryWindowAreKnown) {
     EXPECT_GT(ControllaParole(frmConfMetro(b.Tutto())), 10);
     EXPECT_GT(ControllaParole(frmAbout(b.Tutto())), 0);
     ControllaParole(frmMidiTest(b.Tutto()));
+    EXPECT_GT(ControllaParole(frmOptions(b.Tutto())), 150);
     ControllaParole(frmStrum(b.Tutto()));
     ControllaParole(frmComposer(b.Tutto(), {}));
     EXPECT_GT(ControllaParole(frmInto(b.Tutto(), {})), 250);

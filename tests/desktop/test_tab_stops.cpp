@@ -124,6 +124,8 @@ TEST(Fermate, InTheWindowsAboveAllAreSeenNamedAndShowTheFocus) {
     percorri({"List1", "cmdTest", "cmdEsci"});
     Apri(s, "mnuMidiTest", "frmMidiTest");
     percorri({"LstMidiDev", "InstrS", "cmdTest", "cmdOff", "cmdChiudi"});
+    Apri(s, "mnuPromemoria", "frmOptions");
+    percorri({"cmdSel0", "cmdSel1", "cmdSel2", "cmdOK"});
     TrovaVoce(s, "mnuMetro").trigger();
     ASSERT_TRUE(Aspetta([&] { return Trova(s, "cmdSetup").isVisible(); }));
     Clicca(s, "cmdSetup");

@@ -14,6 +14,7 @@
 #include "trainer/main_rows.h"
 #include "utilities/about.h"
 #include "utilities/midi_test.h"
+#include "utilities/options.h"
 #include "utilities/utility_rows.h"
 
 namespace corvana::prova {
@@ -98,6 +99,13 @@ TEST_P(TestiNeiControlli, FitInTheMidiTest) {
     BancoTesti b(GetParam());
     frmMidiTest finestra{b.Tutto()};
     UpdateString(b.Tutto(), finestra, BersagliMidiTest());
+    ControllaFinestra(finestra);
+}
+
+TEST_P(TestiNeiControlli, FitInTheReferenceChart) {
+    BancoTesti b(GetParam());
+    frmOptions finestra{b.Tutto()};
+    UpdateString(b.Tutto(), finestra, BersagliOptions());
     ControllaFinestra(finestra);
 }
 

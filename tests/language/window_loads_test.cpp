@@ -7,6 +7,7 @@
 #include "tests/program/program_rig.h"
 #include "utilities/about.h"
 #include "utilities/midi_test.h"
+#include "utilities/options.h"
 
 namespace corvana::prova {
 
@@ -49,6 +50,13 @@ TEST(LinguaAlCaricamento, TheAboutBoxReadsItBeforeItShowsTheVersion) {
     frmAbout finestra{b.Tutto()};
     b.Carica(finestra, "79;frmAbout;letto");
     EXPECT_TRUE(finestra.lblVersion.Caption().ends_with(" - letto"));
+}
+
+TEST(LinguaAlCaricamento, TheReferenceChartReadsIt) {
+    BancoCaricato b;
+    frmOptions finestra{b.Tutto()};
+    b.Carica(finestra, "84;frmOptions;letto");
+    EXPECT_EQ(finestra.cmdOK.Caption(), "letto");
 }
 
 TEST(LinguaAlCaricamento, TheMelodyWindowReadsIt) {

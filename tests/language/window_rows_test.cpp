@@ -11,6 +11,7 @@
 #include "trainer/main_rows.h"
 #include "utilities/about.h"
 #include "utilities/midi_test.h"
+#include "utilities/options.h"
 
 namespace corvana::prova {
 
@@ -90,6 +91,11 @@ TEST(RigheNelleFinestre, EachSetsItsControlsOfTheMidiTestAndNoOther) {
 
 TEST(RigheNelleFinestre, EachSetsItsControlsOfTheAboutBoxAndNoOther) {
     BancoFinestra<frmAbout> b;
+    ControllaRighe(b.finestra, b.globali);
+}
+
+TEST(RigheNelleFinestre, EachSetsItsControlsOfTheReferenceChartAndNoOther) {
+    BancoFinestra<frmOptions> b;
     ControllaRighe(b.finestra, b.globali);
 }
 

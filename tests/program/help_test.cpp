@@ -11,6 +11,7 @@ using Aiuti = std::vector<std::string>;
 constexpr double pronta = BancoProgramma::pronta;
 const std::string trainer = "2 /programma/corvana.chm";
 const std::string metronomo = "8 /programma/corvana.chm";
+const std::string promemoria = "50 /programma/corvana.chm";
 const std::string strumenti = "40 /programma/corvana.chm";
 
 TEST(Aiuto, F1TheMenuAndTheToolButtonOpenThePageOfTheTrainer) {
@@ -36,7 +37,7 @@ TEST(Aiuto, WithTheMetronomeOpenTheyOpenItsPageUntilItCloses) {
 TEST(Aiuto, F1OpensThePageOfTheSecondaryWindowInFront) {
     BancoProgramma b;
     double t = pronta;
-    for (const char* voce : {"mnuSs", "mnuMidiTest", "mnuVersione"}) {
+    for (const char* voce : {"mnuSs", "mnuMidiTest", "mnuPromemoria", "mnuVersione"}) {
         b.Clicca(++t, voce);
         b.Tasto(++t, vk::f1);
         b.Chiudi(++t);
@@ -46,7 +47,7 @@ TEST(Aiuto, F1OpensThePageOfTheSecondaryWindowInFront) {
     b.Tasto(++t, vk::f1);
     b.Vai(++t);
     EXPECT_EQ(b.specchio.aiuti,
-              (Aiuti{strumenti, strumenti, "0 /programma/corvana.chm", metronomo}));
+              (Aiuti{strumenti, strumenti, promemoria, "0 /programma/corvana.chm", metronomo}));
 }
 
 TEST(Aiuto, AKeyHeldDownOpensItOnce) {

@@ -1,0 +1,157 @@
+// The reference chart in a real window.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAccessible>
+
+#include "desktop/theme.h"
+#include "tests/desktop/program_stage.h"
+
+namespace corvana::prova {
+namespace {
+
+struct PalcoTavole : PalcoProgramma {
+    PalcoTavole() : PalcoProgramma(QStringLiteral(CORVANA_DATA)) {
+        TrovaVoce(scrivania, "mnuPromemoria").trigger();
+        AspettaFinestra(scrivania, "frmOptions");
+    }
+    Cosa Di(const QString& nome) { return Trova(scrivania, nome); }
+    void ApriPagina(int pagina) {
+        Clicca(scrivania, QStringLiteral("cmdSel%1").arg(pagina - 1));
+        EXPECT_TRUE(
+            Aspetta([&] { return Di(QStringLiteral("Frame1%1").arg(pagina)).isVisible(); }));
+    }
+};
+
+/// How many points of the picture are about as dark as ink, within `dove` of shares of its size.
+int Inchiostro(const QImage& foto, const QRectF& dove = {0, 0, 1, 1}) {
+    const QRect parte(qRound(dove.x() * foto.width()), qRound(dove.y() * foto.height()),
+                      qRound(dove.width() * foto.width()), qRound(dove.height() * foto.height()));
+    int punti = 0;
+    for (int y = parte.top(); y <= parte.bottom() && y < foto.height(); ++y)
+        for (int x = parte.left(); x <= parte.right() && x < foto.width(); ++x)
+            punti += qGray(foto.pixel(x, y)) < 96 ? 1 : 0;
+    return punti;
+}
+
+TEST(Tavole, EachValueHasItsNoteAndItsRestInItsColumn) {
+    PalcoTavole palco;
+    const QImage valori = Fotografa(palco.Di("Image1"));
+    // Note and rest, as far as the lines leave it: the five lines make as much ink in each column.
+    for (int colonna = 0; colonna < 7; ++colonna) {
+        const QRectF note(colonna / 7.0 + 0.01, 0.05, 1 / 7.0 - 0.02, 0.35);
+        const QRectF pause(colonna / 7.0 + 0.01, 0.45, 1 / 7.0 - 0.02, 0.25);
+        const int linee = 5 * qRound(valori.width() * note.width());
+        EXPECT_GT(Inchiostro(valori, note), linee + 30) << colonna;
+        EXPECT_GT(Inchiostro(valori, pause), linee + 30) << colonna;
+    }
+}
+
+TEST(Tavole, TheSignatureGrowsByAnAccidentalInBothStaves) {
+    PalcoTavole palco;
+    palco.ApriPagina(2);
+    int sopra = 0, sotto = 0;
+    for (int riga = 1; riga <= 8; ++riga) {
+        if (riga > 1) Clicca(palco.scrivania, QStringLiteral("Ton%1").arg(riga));
+        const QString img = QStringLiteral("Img%1").arg(riga);
+        ASSERT_TRUE(Aspetta([&] { return palco.Di(img).isVisible(); }));
+        const QImage foto = Fotografa(palco.Di(img));
+        const int violino = Inchiostro(foto, {0.3, 0.25, 0.6, 0.25});
+        const int basso = Inchiostro(foto, {0.3, 0.6, 0.6, 0.25});
+        if (riga > 1) {
+            EXPECT_GT(violino, sopra + 20) << riga;
+            EXPECT_GT(basso, sotto + 20) << riga;
+        }
+        sopra = violino;
+        sotto = basso;
+    }
+}
+
+TEST(Tavole, OnlyOnePictureLiesOverTheDegreesPlace) {
+    PalcoTavole palco;
+    palco.ApriPagina(2);
+    Clicca(palco.scrivania, "Ton16");
+    ASSERT_TRUE(Aspetta([&] { return palco.Di("Gradi").isVisible(); }));
+    for (int riga = 1; riga <= 15; ++riga)
+        EXPECT_FALSE(palco.Di(QStringLiteral("Img%1").arg(riga)).isVisible()) << riga;
+    EXPECT_TRUE(palco.Di("Label350").isVisible());
+}
+
+TEST(Tavole, AScreenReaderHearsWhichKeyAButtonIsForAndWhetherItIsDown) {
+    PalcoTavole palco;
+    palco.ApriPagina(2);
+    const Cosa quarto = palco.Di("Ton4");
+    EXPECT_EQ(quarto.accessibleName(), "Maggiore (A) Minore (F) Fa,Do,Sol");
+    EXPECT_FALSE(quarto.PerLettore()->state().checked);
+    Clicca(palco.scrivania, "Ton4");
+    ASSERT_TRUE(Aspetta([&] { return palco.Di("Img4").isVisible(); }));
+    EXPECT_TRUE(quarto.PerLettore()->state().checked);
+    EXPECT_FALSE(palco.Di("Ton1").PerLettore()->state().checked);
+    EXPECT_EQ(quarto.accessibleName(), "Maggiore (A) Minore (F) Fa,Do,Sol");
+    EXPECT_EQ(palco.Di("Img4").accessibleName(), QStringLiteral("La – Fa♯"));
+    EXPECT_EQ(palco.Di("Ton16").accessibleName(), "Mostra/Nascondi i gradi della scala");
+}
+
+TEST(Tavole, AClickOnTheChosenPagesButtonLeavesItDown) {
+    PalcoTavole palco;
+    const auto giu = [&](const char* nome) {
+        return palco.Di(QString::fromLatin1(nome)).Come<QAbstractButton>().isChecked();
+    };
+    Clicca(palco.scrivania, "cmdSel0");
+    palco.ApriPagina(3);
+    EXPECT_FALSE(giu("cmdSel0"));
+    EXPECT_TRUE(giu("cmdSel2"));
+    Clicca(palco.scrivania, "cmdSel2");
+    palco.ApriPagina(2);
+    palco.ApriPagina(3);
+    EXPECT_TRUE(giu("cmdSel2"));
+    EXPECT_FALSE(giu("cmdSel1"));
+}
+
+TEST(Tavole, AnIntervalIsToldWithItsClass) {
+    PalcoTavole palco;
+    palco.ApriPagina(3);
+    EXPECT_EQ(palco.Di("Label40").accessibleName(), "5 Gius Intervalli consonanti");
+    EXPECT_EQ(palco.Di("Label418").accessibleName(),
+              QStringLiteral("2 Min Consonanti se l'intervallo è melodico"));
+    EXPECT_EQ(palco.Di("Label46").accessibleName(), "8 Ecc Intervalli dissonanti");
+}
+
+TEST(Tavole, TheFrameAroundAnIntervalTellsItsClassWithoutColour) {
+    PalcoTavole palco;
+    palco.ApriPagina(3);
+    // Along the upper edge: thick and whole, thick with gaps, thin.
+    const auto bordo = [&](const char* nome) {
+        const QImage foto = Fotografa(palco.Di(QString::fromLatin1(nome)));
+        int scuri = 0, seconda = 0;
+        for (int x = 10; x < foto.width() - 10; ++x) {
+            scuri += qGray(foto.pixel(x, 0)) < 150 ? 1 : 0;
+            seconda += qGray(foto.pixel(x, 1)) < 150 ? 1 : 0;
+        }
+        const int lunga = foto.width() - 20;
+        return std::pair{scuri * 100 / lunga, seconda * 100 / lunga};
+    };
+    EXPECT_EQ(bordo("Label32"), (std::pair{100, 100}));
+    EXPECT_EQ(bordo("Label33").second, 0);
+    EXPECT_GT(bordo("Label34").second, 30);
+    EXPECT_LT(bordo("Label34").second, 85);
+}
+
+TEST(Tavole, EveryStopOfASecondPageIsReachedWithTheKeyboardAndPressed) {
+    PalcoTavole palco;
+    Batti(palco.scrivania, Qt::Key_Tab);
+    palco.Di("cmdSel1").setFocus(Qt::TabFocusReason);
+    Batti(palco.scrivania, Qt::Key_Space);
+    ASSERT_TRUE(Aspetta([&] { return palco.Di("Frame12").isVisible(); }));
+    palco.Di("cmdSel2").setFocus(Qt::TabFocusReason);
+    for (int riga = 1; riga <= 16; ++riga) {
+        Batti(palco.scrivania, Qt::Key_Tab);
+        const QString ton = QStringLiteral("Ton%1").arg(riga);
+        ASSERT_TRUE(palco.Di(ton).hasFocus()) << riga;
+    }
+    Batti(palco.scrivania, Qt::Key_Space);
+    EXPECT_TRUE(Aspetta([&] { return palco.Di("Gradi").isVisible(); }));
+}
+
+}  // namespace
+}  // namespace corvana::prova
