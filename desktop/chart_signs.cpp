@@ -27,11 +27,6 @@ QPainterPath NotaDelFont(int valore) {
     return LetteraMusicale(semibreve + static_cast<char32_t>(valore)).translated(0, mezzoSpazio);
 }
 
-QPainterPath PausaDelFont(int valore) {
-    constexpr char32_t semibreve = U'\U0001D13B';
-    return LetteraMusicale(semibreve + static_cast<char32_t>(valore));
-}
-
 QPainterPath Stilo(const QPainterPath& linea, double spessore) {
     QPainterPathStroker penna;
     penna.setWidth(spessore);
@@ -101,8 +96,8 @@ QPainterPath PausaDiSemiminima() {
 
 QPainterPath PausaAMano(int valore) {
     QPainterPath segno;
-    if (valore == 0) segno.addRect(0, -3, 1.2, 0.55);
-    if (valore == 1) segno.addRect(0, -2.55, 1.2, 0.55);
+    if (valore == 0) segno.addRect(0, -3, 1.2, 0.5);
+    if (valore == 1) segno.addRect(0, -2.5, 1.2, 0.5);
     if (valore == 2) return PausaDiSemiminima();
     const int palline = valore - primaConCoda + 1;
     if (palline <= 0) return segno;
@@ -119,6 +114,13 @@ QPainterPath PausaAMano(int valore) {
         segno = segno | pallina | Stilo(braccio, 0.12);
     }
     return segno.translated(-segno.boundingRect().left(), 0);
+}
+
+QPainterPath PausaDelFont(int valore) {
+    constexpr char32_t semibreve = U'\U0001D13B';
+    // The font's two longest ones bring a piece of a line along, which the staff has already.
+    if (valore < primaPiena) return PausaAMano(valore);
+    return LetteraMusicale(semibreve + static_cast<char32_t>(valore));
 }
 
 }  // namespace

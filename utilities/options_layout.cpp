@@ -76,7 +76,7 @@ void DisponiNomiEValori(frmOptions& f) {
         Etichetta& lettera = f.Label36[i + nomiLatini.size()];
         Poni(f.Label36[i], x, 2400, colonna, 450, "nome centro");
         Poni(lettera, x, 2850, colonna, 360, "titolo centro");
-        Poni(f.lblnn[i], x, 6690, colonna, 330, "titolo centro");
+        Poni(f.lblnn[i], x, 6705, colonna, 300, "forte centro");
         f.Label36[i].Caption = nomiLatini.at(i);
         lettera.Caption = lettere.at(i);
         f.lblnn[i].Caption = valori.at(i);

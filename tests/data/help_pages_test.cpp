@@ -64,9 +64,9 @@ TEST(PagineAiuto, BothLanguagesHaveTheSamePagesAndPictures) {
     EXPECT_EQ(NomiFile(volumi[0], ".png"), NomiFile(volumi[1], ".png"));
 }
 
-TEST(PagineAiuto, TheTrainerTheMetronomeAndTheInstrumentsHaveOne) {
+TEST(PagineAiuto, TheTrainerTheMetronomeTheInstrumentsAndTheChartHaveOne) {
     for (const std::string& volume : volumi)
-        for (const char* pagina : {"index.html", "2.html", "8.html", "40.html"})
+        for (const char* pagina : {"index.html", "2.html", "8.html", "40.html", "50.html"})
             EXPECT_TRUE(NomiFile(volume, ".html").contains(pagina)) << volume << ' ' << pagina;
 }
 

@@ -114,6 +114,20 @@ void Metronomo(Fotografo& f) {
     f.ScattaSopra("pattern", "frmConfMetro", [&] { f.Premi("cmdSetup"); });
 }
 
+void Promemoria(Fotografo& f) {
+    f.Scegli("mnuPromemoria");
+    f.Attendi("frmOptions");
+    f.Scatta("chart-notes");
+    f.Premi("cmdSel1");
+    Deve(Aspetta([&] { return f.Di("Frame12").isVisible(); }));
+    f.Premi("Ton3");
+    Deve(Aspetta([&] { return f.Di("Img3").isVisible(); }));
+    f.Scatta("chart-keys");
+    f.Premi("cmdSel2");
+    Deve(Aspetta([&] { return f.Di("Frame13").isVisible(); }));
+    f.ScattaSopra("chart-intervals", "frmOptions", [] {});
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -133,6 +147,7 @@ int main(int argc, char** argv) {
     Metronomo(f);
     f.ScattaSopra("instruments", "frmStrum", [&] { f.Scegli("mnuSs"); });
     f.ScattaSopra("midi", "frmMidiTest", [&] { f.Scegli("mnuMidiTest"); });
+    Promemoria(f);
     scrivania.Termina();
     return 0;
 }

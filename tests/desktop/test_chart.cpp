@@ -4,22 +4,51 @@
 #include <QAbstractButton>
 #include <QAccessible>
 
-#include "desktop/theme.h"
-#include "tests/desktop/program_stage.h"
+#include "core/real_files.h"
+#include "forms/real_clock.h"
+#include "sound/recorder.h"
+#include "tests/desktop/screen.h"
+#include "utilities/options.h"
 
 namespace corvana::prova {
 namespace {
 
-struct PalcoTavole : PalcoProgramma {
-    PalcoTavole() : PalcoProgramma(QStringLiteral(CORVANA_DATA)) {
-        TrovaVoce(scrivania, "mnuPromemoria").trigger();
-        AspettaFinestra(scrivania, "frmOptions");
+/// A desktop with the chart alone on it, in Italian; the logic runs on its own thread.
+class PalcoTavole {
+public:
+    PalcoTavole() {
+        scrivania.Avvia([this] { Logica(); });
+        AspettaFinestra(scrivania, QStringLiteral("frmOptions"));
     }
+    PalcoTavole(const PalcoTavole&) = delete;
+    PalcoTavole& operator=(const PalcoTavole&) = delete;
+    ~PalcoTavole() { scrivania.Termina(); }
+
+    Scrivania scrivania;
+
     Cosa Di(const QString& nome) { return Trova(scrivania, nome); }
     void ApriPagina(int pagina) {
         Clicca(scrivania, QStringLiteral("cmdSel%1").arg(pagina - 1));
-        EXPECT_TRUE(
-            Aspetta([&] { return Di(QStringLiteral("Frame1%1").arg(pagina)).isVisible(); }));
+        const QString cornice = QStringLiteral("Frame1%1").arg(pagina);
+        EXPECT_TRUE(Aspetta([&] { return Di(cornice).isVisible(); }));
+    }
+
+private:
+    void Logica() {
+        OrologioReale orologio;
+        Pompa pompa(orologio, scrivania.Coda());
+        Finestre finestre(pompa, scrivania.Riquadri(), &scrivania.Schermo());
+        Registratore uscita([&pompa] { return pompa.Adesso(); });
+        Suono suono(uscita, pompa, scrivania.Riquadri());
+        FileReali file;
+        Impostazioni impostazioni(file, scrivania.Riquadri(), {});
+        CasualeFisso casuale;
+        Globali globali;
+        globali.PercorsoLingua = CORVANA_DATA "/langit.csv";
+        frmOptions form(
+            {globali, pompa, finestre, scrivania.Riquadri(), suono, impostazioni, file, casuale});
+        finestre.Mostra(form);
+        finestre.FinoAllUltima();
     }
 };
 
