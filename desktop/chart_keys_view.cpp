@@ -92,13 +92,9 @@ QString InTesto(const NomeTonica& tonica) {
     return nome + (tonica.alterazione > 0 ? u'\u266F' : u'\u266D');
 }
 
-double MisuraTonica(const NomeTonica& tonica, double pixel, double spazio) {
-    QFont font = Carattere({}, 1);
-    font.setPixelSize(static_cast<int>(pixel));
-    font.setWeight(QFont::DemiBold);
-    const QString nome = SoloNome(tonica);
-    return QFontMetricsF(font).horizontalAdvance(nome) + 2 +
-           LarghezzaAccidente(tonica.alterazione, spazio);
+double MisuraTonica(const NomeTonica& tonica, const LettereTavola& lettere, double spazio) {
+    const double accidente = LarghezzaAccidente(tonica.alterazione, spazio);
+    return LarghezzaScritta(SoloNome(tonica), lettere) + (accidente > 0 ? accidente + 2 : 0);
 }
 
 void DipingiArmatura(QPainter& p, const RigoTavola& rigo, ChiaveRigo chiave, int accidenti) {
@@ -112,18 +108,27 @@ void DipingiArmatura(QPainter& p, const RigoTavola& rigo, ChiaveRigo chiave, int
     }
 }
 
-void DipingiIntestazione(QPainter& p, const RigaSpecchio& riga, double larghezza) {
-    constexpr double pixel = 22, spazio = 7.6, stacco = 40, y = 54;
-    const NomeTonica* const nomi[] = {&riga.maggiore, &riga.minore};
-    double x = larghezza / 2 - stacco / 2 - MisuraTonica(riga.maggiore, pixel, spazio);
-    for (const NomeTonica* nome : nomi) {
-        const QString testo = SoloNome(*nome);
-        const double largo = Scrivi(p, {x, y - 20, 100, 40}, aSinistra, testo, {pixel, true});
-        DipingiAccidenteNelTesto(p, nome->alterazione, {x + largo + 2, y - 1}, spazio);
-        x = larghezza / 2 + stacco / 2;
+/// Two names with a dash between them in the middle.
+void DipingiCoppia(QPainter& p, const NomeTonica& prima, const NomeTonica& seconda,
+                   const QPointF& mezzo, const LettereTavola& lettere) {
+    const double spazio = lettere.pixel * 0.35, stacco = lettere.pixel * 0.9;
+    const QRectF riga(mezzo.x() - 100, mezzo.y() - 20, 200, 40);
+    Scrivi(p, riga, Qt::AlignCenter, QStringLiteral("–"), {lettere.pixel, false, true});
+    double x = mezzo.x() - stacco - MisuraTonica(prima, lettere, spazio);
+    for (const NomeTonica* nome : {&prima, &seconda}) {
+        const double largo =
+            Scrivi(p, riga.translated(x - riga.left(), 0), aSinistra, SoloNome(*nome), lettere);
+        DipingiAccidenteNelTesto(p, nome->alterazione, {x + largo + 2, mezzo.y() - 1}, spazio);
+        x = mezzo.x() + stacco;
     }
-    Scrivi(p, {larghezza / 2 - 20, y - 20, 40, 40}, Qt::AlignCenter, QStringLiteral("–"),
-           {pixel, false, true});
+}
+
+/// The two keys' Latin names, and beneath them their letters.
+void DipingiIntestazione(QPainter& p, const RigaSpecchio& riga, double larghezza) {
+    DipingiCoppia(p, riga.maggiore, riga.minore, {larghezza / 2, 46}, {22, true});
+    DipingiCoppia(p, {riga.letteraMaggiore, riga.maggiore.alterazione},
+                  {riga.letteraMinore, riga.minore.alterazione}, {larghezza / 2, 80},
+                  {16, false, true});
 }
 
 }  // namespace

@@ -14,6 +14,13 @@ namespace {
 constexpr int lineeDelRigo = 5;
 constexpr double rientroChiave = 0.8;  ///< spaces
 
+QFont CarattereTavola(const LettereTavola& lettere) {
+    QFont font = Carattere({}, 1);
+    font.setPixelSize(static_cast<int>(lettere.pixel));
+    if (lettere.forti) font.setWeight(QFont::DemiBold);
+    return font;
+}
+
 }  // namespace
 
 void DipingiRigo(QPainter& p, const RigoTavola& rigo) {
@@ -55,15 +62,16 @@ void DipingiFilo(QPainter& p, const QPointF& da, const QPointF& a, const QColor&
     p.fillRect(inPunti.inverted().mapRect(QRectF(angolo, misura)), colore);
 }
 
+double LarghezzaScritta(const QString& testo, const LettereTavola& lettere) {
+    return QFontMetricsF(CarattereTavola(lettere)).horizontalAdvance(testo);
+}
+
 double Scrivi(QPainter& p, const QRectF& dove, Qt::Alignment come, const QString& testo,
               const LettereTavola& lettere) {
-    QFont font = Carattere({}, 1);
-    font.setPixelSize(static_cast<int>(lettere.pixel));
-    if (lettere.forti) font.setWeight(QFont::DemiBold);
-    p.setFont(font);
+    p.setFont(CarattereTavola(lettere));
     p.setPen(lettere.tenui ? tinta::inchiostroTenue : tinta::inchiostro);
     p.drawText(dove, static_cast<int>(come) | Qt::TextDontClip, testo);
-    return QFontMetricsF(font).horizontalAdvance(testo);
+    return LarghezzaScritta(testo, lettere);
 }
 
 }  // namespace corvana

@@ -36,6 +36,7 @@ struct LettereTavola {
     bool forti = false;
     bool tenui = false;
 };
+double LarghezzaScritta(const QString& testo, const LettereTavola& lettere);
 /// Returns how wide the text is.
 double Scrivi(QPainter& p, const QRectF& dove, Qt::Alignment come, const QString& testo,
               const LettereTavola& lettere = {});
