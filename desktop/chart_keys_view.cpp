@@ -163,8 +163,8 @@ void VistaArmatura::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco)
     const RigaSpecchio& riga = specchioTonalita.at(riga_);
     DipingiIntestazione(p, riga, misura.width());
     constexpr double margine = 34, spazio = 14;
-    const RigoTavola violino{margine, misura.width() - 20, 190, spazio};
-    const RigoTavola basso{margine, misura.width() - 20, 340, spazio};
+    const RigoTavola violino{margine, misura.width() - 20, 206, spazio};
+    const RigoTavola basso{margine, misura.width() - 20, 356, spazio};
     DipingiArmatura(p, violino, ChiaveRigo::Violino, riga.accidenti);
     DipingiArmatura(p, basso, ChiaveRigo::Basso, riga.accidenti);
     for (const double x : {violino.da, violino.a})

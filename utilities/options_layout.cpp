@@ -29,11 +29,11 @@ constexpr std::array postiOptions = {
 
     Posto{"Frame12", 240, 960, 12720, 8100, "Specchio delle tonalità ", {}, "carta pagina"},
     Posto{"Image3", 360, 810, 7740, 7170, {}, {}, "specchio"},
-    Posto{"Label37", 360, 1170, 1200, 330, "N° Acc.", {}, "centro titolo"},
+    Posto{"Label37", 360, 1215, 1200, 330, "N° Acc.", {}, "centro titolo"},
     Posto{"lblModo", 1560, 840, 3300, 330, "Modo", {}, "centro titolo"},
-    Posto{"lblMa", 1560, 1170, 1650, 330, "Maggiore", {}, "centro titolo"},
-    Posto{"lblMi", 3210, 1170, 1650, 330, "Minore", {}, "centro titolo"},
-    Posto{"lblNa0", 4980, 1170, 2400, 330, "Nota alterata", {}, "titolo"},
+    Posto{"lblMa", 1560, 1215, 1650, 330, "Maggiore", {}, "centro titolo"},
+    Posto{"lblMi", 3210, 1215, 1650, 330, "Minore", {}, "centro titolo"},
+    Posto{"lblNa0", 4980, 1215, 2400, 330, "Nota alterata", {}, "titolo"},
     Posto{"Gradi", 8340, 1620, 4020, 6360, "Gradi", {}, "pannello pagina"},
 
     Posto{"Frame13", 240, 960, 12720, 8100, "Intervalli ", {}, "carta pagina"},
