@@ -35,7 +35,6 @@ void PaginaTonalita::Carica() {
 void PaginaTonalita::Entra() {
     for (const std::size_t indice : ammesseAllEntrata)
         Ammetti(indice, true);
-    AbilitaStart();
 }
 
 void PaginaTonalita::Ammetti(std::size_t indice, bool ammessa) {
@@ -44,16 +43,12 @@ void PaginaTonalita::Ammetti(std::size_t indice, bool ammessa) {
     lblT[indice].ToolTipText = ammessa ? t_.Testi().ttToAmmessa : t_.Testi().ttToEsclusa;
 }
 
-/// A run can't begin with nothing to ask.
-void PaginaTonalita::AbilitaStart() {
-    cmdT.Enabled = std::find(ToAmmessa.begin(), ToAmmessa.end(), true) != ToAmmessa.end();
-}
-
 void PaginaTonalita::lblT_Click(int indice) {
     if (TelaioInto::Corre(cmdT)) return;
     const auto quale = static_cast<std::size_t>(indice);
     Ammetti(quale, !ToAmmessa.at(quale));
-    AbilitaStart();
+    // A run can't begin with nothing to ask.
+    cmdT.Enabled = std::find(ToAmmessa.begin(), ToAmmessa.end(), true) != ToAmmessa.end();
 }
 
 void PaginaTonalita::cmdT_Click() {

@@ -34,7 +34,8 @@ public:
 
     /// At the window's load.
     void Carica();
-    /// What entering the page does beyond what all pages do.
+    /// What entering the page does beyond what all pages do. A Start that the learner has left
+    /// disabled, with nothing admitted, stays so until the next click on a strip.
     void Entra();
 
     void cmdT_Click();
@@ -49,7 +50,6 @@ private:
     void ToDomanda();
     void ToSuona(std::int16_t tonica, bool maggiore);
     void Ammetti(std::size_t indice, bool ammessa);
-    void AbilitaStart();
     bool Aiuto() const { return lblTsh.Caption().empty(); }
     Etichetta& Cella() { return T.at(static_cast<std::size_t>(ToIndice)); }
 };

@@ -140,8 +140,13 @@ TEST(Tonalita, WithNothingAdmittedThereIsNoStart) {
     b.Quando(2.5, [&] { EXPECT_TRUE(b.finestra.tonalita.cmdT.Enabled()); });
     b.Alterna(3, 22);
     b.Clicca(4, "mnuRicTo");
-    b.Vai(5);
-    EXPECT_TRUE(b.finestra.tonalita.cmdT.Enabled()) << "the entry has admitted eight";
+    b.Quando(4.5, [&] {
+        EXPECT_EQ(b.Ammesse().size(), 8U);
+        EXPECT_FALSE(b.finestra.tonalita.cmdT.Enabled()) << "only a strip gives it back";
+    });
+    b.Alterna(5, 0);
+    b.Vai(6);
+    EXPECT_TRUE(b.finestra.tonalita.cmdT.Enabled());
 }
 
 TEST(Tonalita, DuringARunTheStripsAreStill) {
