@@ -183,19 +183,12 @@ void PaginaIntervalli::ppSuonaCoppia(int bassa, int alta) {
         t_.sw(alta, true);
     }
     const ModoIntervallo modo = IntModo;
-    if (modo != ModoIntervallo::Armonico && !LasciaPassare()) return;
+    if (modo != ModoIntervallo::Armonico) t_.a.pompa.PompaEventi();
+    if (t_.Chiusa()) return;
     SuonaPerModo(modo, bassa, alta);
     t_.IntBassa = static_cast<std::int16_t>(bassa);
     t_.IntAlta = static_cast<std::int16_t>(alta);
     if (Aiuto()) MostraCoppia();
-}
-
-/// Lets events through. False when they have stopped the run or closed the window: nothing is to
-/// sound then.
-bool PaginaIntervalli::LasciaPassare() {
-    const bool correva = t_.IntInCorso;
-    t_.a.pompa.PompaEventi();
-    return !t_.Chiusa() && !(correva && !t_.IntInCorso);
 }
 
 void PaginaIntervalli::SuonaPerModo(ModoIntervallo modo, int bassa, int alta) {

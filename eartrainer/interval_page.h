@@ -76,7 +76,6 @@ private:
     void Ferma();
     void Domanda();
     void ppSuonaCoppia(int bassa, int alta);
-    bool LasciaPassare();
     void SuonaPerModo(ModoIntervallo modo, int bassa, int alta);
     void Suona(int nota);
     void ppSuonaRadice(int nota);

@@ -184,23 +184,18 @@ void PaginaIntonazione::Ferma() {
 }
 
 void PaginaIntonazione::IntoDomanda() {
+    StatoInto& stato = t_.Stato();
     if (ConRiferimento()) {
-        if (!LasciaPassare()) {
-            t_.Stato().RipetiNota = false;
+        t_.a.pompa.PompaEventi();
+        if (t_.Chiusa()) {
+            stato.RipetiNota = false;
             return;
         }
         SuonaRiferimento();
     }
-    t_.a.suono.SuonaNota(prossimaDomanda);
-}
-
-/// Lets events through. False when they have stopped the run, taken the range or closed the window:
-/// nothing is to be asked then.
-bool PaginaIntonazione::LasciaPassare() {
-    const bool correva = TelaioInto::Corre(IntoStart);
-    t_.a.pompa.PompaEventi();
-    const bool fermata = correva && !TelaioInto::Corre(IntoStart);
-    return !t_.Chiusa() && !fermata && !Limiti().Vuota();
+    // The events may have taken the range.
+    if (stato.RipetiNota || Limiti().HaDaChiedere(stato.SoloBianchi))
+        t_.a.suono.SuonaNota(prossimaDomanda);
 }
 
 void PaginaIntonazione::SuonaRiferimento() {

@@ -68,9 +68,8 @@ private:
     void SpostaRiferimento(std::int16_t indice);
     void Avvia();
     void Ferma();
-    /// The reference, if it is on, then the next question.
+    /// The reference, if it is on, then the next question. Nothing once the window has closed.
     void IntoDomanda();
-    bool LasciaPassare();
     void SuonaRiferimento();
     void Giudica(std::int16_t indice);
     void MostraStart();

@@ -1,5 +1,7 @@
 #include "eartrainer/range_steps.h"
 
+#include "core/octaves.h"
+
 namespace corvana {
 
 namespace {
@@ -9,6 +11,12 @@ constexpr int larghezzaMinima = 2;
 constexpr std::int16_t ultimaFondamentale = 51;
 
 }  // namespace
+
+bool Estensione::HaDaChiedere(bool soloBianchi) const {
+    if (basso < 0 || basso > alto) return false;
+    // No two black keys are neighbours.
+    return !soloBianchi || basso < alto || !TastoNero(basso);
+}
 
 ClicEstensione ClicSuEstensione(Estensione prima, std::int16_t tasto) {
     if (prima.Vuota()) return {{-1, tasto}, EsitoClic::Primo};

@@ -14,6 +14,9 @@ struct Estensione {
     bool operator==(const Estensione&) const = default;
     bool Vuota() const { return basso == -1 && alto == -1; }
     bool Contiene(std::int16_t tasto) const { return tasto >= basso && tasto <= alto; }
+    /// A draw from it comes to a key that may be asked for: both limits are chosen, and with white
+    /// keys alone there is one between them.
+    bool HaDaChiedere(bool soloBianchi) const;
 };
 
 enum class EsitoClic : std::uint8_t {

@@ -221,17 +221,34 @@ TEST(Intervalli, ANewEntryBringsTheThreeSizesBack) {
     EXPECT_EQ(b.Ammesse(), (std::vector{3, 4, 7}));
 }
 
-TEST(Intervalli, AStopThatWaitsBehindTheRightAnswerEndsTheRunBeforeTheNextPair) {
+TEST(Intervalli, AStopThatWaitsBehindTheRightAnswerDoesNotKeepTheNextPairFromSounding) {
     BancoIntervalli b;
     for (const int semitoni : {4, 7})
         b.Chiedi(semitoni);
     b.Modo(0.5, 1);
     b.Clicca(1, "CmdIntStart");
     b.Insieme(6, {{Fatto::Click, "LblSemi4"}, {Fatto::Click, "CmdIntStart"}});
+    b.Quando(10, [&] { EXPECT_EQ(b.uscita.NoteAccese().size(), 2U) << "they stay on"; });
+    b.Clicca(11, "mnuNotA");
     b.Vai(12);
+    EXPECT_EQ(b.Testo("CmdIntStart"), "Start");
+    EXPECT_EQ(b.Punti(), "0 0 0");
+    EXPECT_EQ(b.Note(6),
+              (Suonati{"0.0 60 0", "0.0 64 0", "0.0 60 0", "0.0 64 0", "0.0 60 90", "0.7 60 0",
+                       "0.8 67 90", "1.5 67 0", "2.2 60 90", "2.2 67 90", "5.0 60 0", "5.0 67 0"}))
+        << "until another page ends them";
+}
+
+TEST(Intervalli, AClosingThatWaitsBehindTheStopKeepsTheNextPairFromSounding) {
+    BancoIntervalli b;
+    for (const int semitoni : {4, 7})
+        b.Chiedi(semitoni);
+    b.Modo(0.5, 1);
+    b.Clicca(1, "CmdIntStart");
+    b.Insieme(6, {{Fatto::Click, "LblSemi4"}, {Fatto::Click, "CmdIntStart"}, {Fatto::Chiudi, ""}});
+    EXPECT_FALSE(b.Vai(12));
+    EXPECT_EQ(b.Note(6), (Suonati{"0.0 60 0", "0.0 64 0", "0.0 60 0", "0.0 64 0"}));
     EXPECT_TRUE(b.uscita.NoteAccese().empty());
-    EXPECT_EQ(b.Punti(), "1 0 100.00%");
-    EXPECT_EQ(b.Note(6.1), Suonati{});
 }
 
 }  // namespace corvana::prova

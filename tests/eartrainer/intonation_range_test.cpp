@@ -154,6 +154,23 @@ TEST(EstensioneIntonazione, WithWhiteKeysAloneNoRangeIsWithoutAnyToAsk) {
     }
 }
 
+TEST(EstensioneIntonazione, SetAnewBehindARightAnswerWhatIsNoRangeYetAsksNothing) {
+    // Nothing chosen, one limit, the same black key twice: none has a white key to draw.
+    for (const int clic : {0, 1, 2}) {
+        BancoInto b{PaginaInto::Intonazione};
+        b.Clicca(1, "IntoStart");
+        b.Clicca(5, "IntoStart");
+        b.Clicca(6, "mnuNotA");
+        std::vector<Mossa> mosse = {{Fatto::Click, "lb24"}, {Fatto::Click, "cmdReimposta"}};
+        for (int i = 0; i < clic; ++i)
+            mosse.push_back({Fatto::Click, "lb1"});
+        b.Insieme(7, mosse);
+        EXPECT_TRUE(b.Vai(12));
+        EXPECT_EQ(b.Note(7), (Suonati{"0.0 60 0", "0.0 69 90", "1.2 69 0"})) << clic;
+        EXPECT_EQ(b.into.IntoNota, 24) << clic;
+    }
+}
+
 TEST(EstensioneIntonazione, ChoosingAnInstrumentMeanwhileBringsTheStoredRangeBack) {
     BancoEstensione b;
     b.Tasti({20, 40, 25});

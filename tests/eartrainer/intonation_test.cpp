@@ -255,13 +255,25 @@ TEST(Intonazione, TheLittleKeyboardPalesItsBlackKeysWhenOnlyWhiteOnesAreAsked) {
         EXPECT_EQ(b.Consiglio(nome), " tutti ");
 }
 
-TEST(Intonazione, AStopThatWaitsBehindTheRightAnswerEndsTheRunBeforeTheNextQuestion) {
+TEST(Intonazione, AStopThatWaitsBehindTheRightAnswerDoesNotKeepTheNextFigureFromSounding) {
     BancoIntonazione b;
     b.Clicca(1, "IntoStart");
     b.Insieme(5, {{Fatto::Click, "lb24"}, {Fatto::Click, "IntoStart"}});
     b.Vai(9);
     EXPECT_EQ(b.Punti(), "1 0 100.00%");
-    EXPECT_EQ(b.Note(5), Suonati{"0.0 60 0"});
+    EXPECT_EQ(b.Testo("IntoStart"), "Start");
+    EXPECT_EQ(b.Note(5),
+              (Suonati{"0.0 60 0", "0.0 69 90", "1.2 69 0", "1.3 60 0", "1.3 60 100", "2.2 60 0"}));
+}
+
+TEST(Intonazione, AClosingThatWaitsBehindTheStopKeepsTheNextFigureFromSounding) {
+    BancoIntonazione b;
+    b.Clicca(1, "IntoStart");
+    b.Clicca(5, "lblRipInto");
+    b.Insieme(10, {{Fatto::Click, "lblRipInto"}, {Fatto::Click, "IntoStart"}, {Fatto::Chiudi, ""}});
+    EXPECT_FALSE(b.Vai(14));
+    EXPECT_EQ(b.Note(10), Suonati{"0.0 60 0"});
+    EXPECT_FALSE(b.into.RipetiNota) << "whoever asks next isn't to repeat";
 }
 
 }  // namespace corvana::prova

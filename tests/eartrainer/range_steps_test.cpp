@@ -70,6 +70,20 @@ TEST(ClicSuFondamentali, TakesAnyTwoKeysOnWhichEveryChordFits) {
                                   });
 }
 
+TEST(Estensione, ThereIsSomethingToAskOnlyBetweenTwoLimitsAndForWhiteKeysOnlyWhereOneLies) {
+    for (std::int16_t basso = -1; basso < 60; ++basso)
+        for (std::int16_t alto = -1; alto < 60; ++alto) {
+            int tutti = 0, bianchi = 0;
+            for (int tasto = basso; tasto <= alto && basso >= 0; ++tasto) {
+                ++tutti;
+                bianchi += std::string("x.x.xx.x.x.x")[static_cast<std::size_t>(tasto % 12)] == 'x';
+            }
+            const Estensione e{basso, alto};
+            EXPECT_EQ(e.HaDaChiedere(false), tutti > 0) << basso << ".." << alto;
+            EXPECT_EQ(e.HaDaChiedere(true), bianchi > 0) << basso << ".." << alto;
+        }
+}
+
 TEST(Estensione, ContainsBothItsLimits) {
     const Estensione e{10, 20};
     EXPECT_FALSE(e.Contiene(9));
