@@ -6,34 +6,9 @@ namespace corvana {
 
 namespace {
 
-constexpr int radiceZero = 60;  ///< MIDI number of a root of 0
 constexpr Colore coloreConsonante = Rgb(192, 255, 255), coloreDissonante = Rgb(224, 224, 224);
 constexpr std::array<std::size_t, 3> ammesseAllIngresso = {3, 4, 7};
 constexpr std::int16_t fermaUltima = -1;
-
-// In seconds.
-constexpr double durataNota = 0.7;
-constexpr double fraLeNote = 0.1;
-constexpr double dopoLeNote = 0.3;
-constexpr double primaDellUnione = 0.7;
-
-struct RigaModo {
-    const char* testo;
-    std::string TestiLingua::*consiglio;
-};
-
-constexpr std::array<RigaModo, 4> righeModo = {{{" : ", &TestiLingua::ttArmonico},
-                                                {" / ", &TestiLingua::ttMelodico},
-                                                {" / : ", &TestiLingua::ttMisto},
-                                                {" \\ ", &TestiLingua::ttMelodico}}};
-
-const RigaModo& RigaDiModo(ModoIntervallo modo) {
-    return righeModo.at(static_cast<std::size_t>(modo) - 1);
-}
-
-ModoIntervallo ModoDopo(ModoIntervallo modo) {
-    return static_cast<ModoIntervallo>(static_cast<std::size_t>(modo) % righeModo.size() + 1);
-}
 
 }  // namespace
 
@@ -74,37 +49,12 @@ void PaginaIntervalli::CollegaRiga(int n) {
         Il.back().Click = [this, n] { Il_Click(n); };
 }
 
-void PaginaIntervalli::CollegaRadici() {
-    struct Corsa {
-        Barra& barra;
-        int min, max;
-    };
-    for (const auto& [barra, min, max] : {Corsa{SelIntRoot, 36, 82}, Corsa{RifInf, 36, radiceZero},
-                                          Corsa{RifSup, radiceZero, 82}}) {
-        barra.Min = min;
-        barra.Max = max;
-        barra.Value = radiceZero;
-    }
-    SelIntRoot.Change = [this] { SelIntRoot_Change(); };
-    const auto collega = [this](Barra& barra, Etichetta& nome) {
-        barra.Change = [this, &barra, &nome] {
-            nome.Caption = t_.Nome(barra.Value);
-            ppSuonaRadice(barra.Value);
-        };
-        nome.MouseDown = [this](const Evento&) { MostraEstensioneRadici(true); };
-        nome.MouseUp = [this](const Evento&) { MostraEstensioneRadici(false); };
-    };
-    collega(RifInf, lblRifInf);
-    collega(RifSup, lblRifSup);
-}
-
 void PaginaIntervalli::Carica() {
     lblModo.ToolTipText = t_.Testi().ttArmonico;
     lblFv.Caption = t_.Testi().capRifFisso;
     t_.IntBassa = t_.IntAlta = 0;
     IntModo = ModoIntervallo::Armonico;
-    IntRadice = static_cast<std::int16_t>(SelIntRoot.Value - radiceZero);
-    IntRoot.Caption = t_.Nome(SelIntRoot.Value);
+    PrendiRadice();
     for (std::size_t n = 1; n < Il.size(); ++n) {
         Il[n].ToolTipText = t_.Testi().ttIntAmmesso;
         IntEscluso.at(n) = false;
@@ -162,93 +112,11 @@ void PaginaIntervalli::Domanda() {
     ppSuonaInt(IntSemitoni);
 }
 
-void PaginaIntervalli::ppSuonaInt(int semitoni) {
-    if (frmRifVar.Visible)
-        IntRadice = static_cast<std::int16_t>(
-            CasualeIntero(t_.a.casuale, static_cast<std::int16_t>(RifInf.Value()),
-                          static_cast<std::int16_t>(RifSup.Value())) -
-            radiceZero);
-    if (semitoni < 0 || semitoni >= dimensioniIntervallo) return;
-    const int bassa = IntRadice + radiceZero;
-    ppSuonaCoppia(bassa, bassa + semitoni);
-}
-
-void PaginaIntervalli::ppSuonaCoppia(int bassa, int alta) {
-    t_.NotaOff(t_.IntBassa);
-    t_.NotaOff(t_.IntAlta);
-    if (Aiuto()) NascondiCoppia(t_.IntAlta - t_.IntBassa);
-    if (!t_.IntInCorso) {
-        t_.SpegniTastiCoppia();
-        t_.sw(bassa, true);
-        t_.sw(alta, true);
-    }
-    const ModoIntervallo modo = IntModo;
-    if (modo != ModoIntervallo::Armonico) t_.a.pompa.PompaEventi();
-    if (t_.Chiusa()) return;
-    SuonaPerModo(modo, bassa, alta);
-    t_.IntBassa = static_cast<std::int16_t>(bassa);
-    t_.IntAlta = static_cast<std::int16_t>(alta);
-    if (Aiuto()) MostraCoppia();
-}
-
-void PaginaIntervalli::SuonaPerModo(ModoIntervallo modo, int bassa, int alta) {
-    const bool scende = modo == ModoIntervallo::Discendente;
-    const bool misto = modo == ModoIntervallo::Misto;
-    if (modo != ModoIntervallo::Armonico) {
-        Suona(scende ? alta : bassa);
-        t_.a.suono.Attendi(fraLeNote);
-        Suona(scende ? bassa : alta);
-        t_.a.suono.Attendi(misto ? primaDellUnione : dopoLeNote);
-    }
-    if (modo != ModoIntervallo::Armonico && !misto) return;
-    t_.NotaOn(bassa);
-    t_.NotaOn(alta);
-    if (misto) t_.a.suono.Attendi(durataNota);
-}
-
-void PaginaIntervalli::Suona(int nota) {
-    t_.NotaOn(nota);
-    t_.a.suono.Attendi(durataNota);
-    t_.NotaOff(nota);
-}
-
-void PaginaIntervalli::ppSuonaRadice(int nota) {
-    t_.sw(nota, true);
-    Suona(nota);
-    t_.sw(nota, false);
-}
-
-void PaginaIntervalli::MostraCoppia() {
-    t_.sw(t_.IntBassa, true);
-    lblNi.Caption = t_.Nome(t_.IntBassa);
-    t_.sw(t_.IntAlta, true);
-    lblNs.Caption = t_.Nome(t_.IntAlta);
-    Semi(IntSemitoni).BackColor = coloreSvelato;
-}
-
-void PaginaIntervalli::NascondiCoppia(int semitoni) {
-    t_.sw(t_.IntBassa, false);
-    lblNi.Caption = std::string();
-    t_.sw(t_.IntAlta, false);
-    lblNs.Caption = std::string();
-    Semi(semitoni).BackColor = lblIntSh.BackColor();
-}
-
 void PaginaIntervalli::LblSemi_Click(int semitoni) {
     if (!t_.IntInCorso || !IntCeNe()) return;
     const bool esatta = semitoni == IntSemitoni;
     t_.punti.Punteggio(esatta);
     if (esatta) Domanda();
-}
-
-void PaginaIntervalli::LblSemi_MouseDown(int semitoni) {
-    Semi(semitoni).BackStyle = fondoTrasparente;
-    if (!t_.IntInCorso) ppSuonaInt(semitoni);
-}
-
-void PaginaIntervalli::LblSemi_MouseUp(int semitoni) {
-    Semi(semitoni).BackStyle = fondoOpaco;
-    if (!t_.IntInCorso) t_.SpegniCoppia();
 }
 
 void PaginaIntervalli::Il_Click(int semitoni) {
@@ -261,51 +129,6 @@ void PaginaIntervalli::Il_DblClick(int semitoni) {
     const bool tutte = !IntEscluso[0];
     for (std::size_t n = 0; n < Il.size(); ++n)
         Escludi(n, tutte);
-}
-
-void PaginaIntervalli::lblIntSh_Click() {
-    if (!TelaioInto::Corre(CmdIntStart)) return;
-    const bool mostra = lblIntSh.Caption() == "?";
-    lblIntSh.Caption = mostra ? "" : "?";
-    lblNi.Visible = mostra;
-    lblNs.Visible = mostra;
-    mostra ? MostraCoppia() : NascondiCoppia(IntSemitoni);
-}
-
-void PaginaIntervalli::lblRipInt_Click() {
-    if (TelaioInto::Corre(CmdIntStart) && IntCeNe()) ppSuonaCoppia(t_.IntBassa, t_.IntAlta);
-}
-
-void PaginaIntervalli::lblModo_Click() {
-    IntModo = ModoDopo(IntModo);
-    const RigaModo& riga = RigaDiModo(IntModo);
-    lblModo.Caption = riga.testo;
-    lblModo.ToolTipText = t_.Testi().*riga.consiglio;
-}
-
-void PaginaIntervalli::lblFv_Click() {
-    const bool variabile = lblFv.Caption() == t_.Testi().capRifFisso;
-    lblFv.Caption = variabile ? t_.Testi().capRifVariabile : t_.Testi().capRifFisso;
-    if (variabile) {
-        lblRifInf.Caption = t_.Nome(RifInf.Value);
-        lblRifSup.Caption = t_.Nome(RifSup.Value);
-    } else {
-        IntRadice = static_cast<std::int16_t>(SelIntRoot.Value - radiceZero);
-    }
-    frmRifVar.Visible = variabile;
-    IntRoot.Visible = !variabile;
-    SelIntRoot.Visible = !variabile;
-}
-
-void PaginaIntervalli::SelIntRoot_Change() {
-    IntRadice = static_cast<std::int16_t>(SelIntRoot.Value - radiceZero);
-    IntRoot.Caption = t_.Nome(SelIntRoot.Value);
-    ppSuonaRadice(SelIntRoot.Value);
-}
-
-void PaginaIntervalli::MostraEstensioneRadici(bool mostra) {
-    t_.sw(RifInf.Value, mostra);
-    t_.sw(RifSup.Value, mostra);
 }
 
 }  // namespace corvana

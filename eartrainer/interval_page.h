@@ -11,6 +11,8 @@ namespace corvana {
 /// first.
 enum class ModoIntervallo : std::uint8_t { Armonico = 1, Melodico, Misto, Discendente };
 
+constexpr int radiceZero = 60;  ///< MIDI number of a root of 0
+
 class PaginaIntervalli {
 public:
     /// Makes the controls; the frame must live as long as the page.
@@ -72,6 +74,8 @@ private:
     void FaiEtichette();
     void CollegaRiga(int semitoni);
     void CollegaRadici();
+    void PrendiRadice();
+    void EstraiRadice();
     void Avvia();
     void Ferma();
     void Domanda();
