@@ -14,6 +14,16 @@ namespace {
 
 constexpr int tastiOttava = 12;
 
+QRect SullaFigura(const Rettangolo& posto, const Vista& figura) {
+    const Rettangolo suo = SuFigura(posto, figura.Stato().Width);
+    return InPixel({suo.left, suo.top, suo.width, suo.height}, figura.Scala());
+}
+
+/// Keys grow with their picture, and so does all that is painted of them.
+double ScalaTasti(const Vista& figura) {
+    return figura.Scala() * figura.Stato().Width / postoTastiera.width;
+}
+
 }  // namespace
 
 VistaTasto::VistaTasto(const CopiaControllo& copia, Mittente mittente)
@@ -29,13 +39,11 @@ void VistaTasto::Nomina() {
 }
 
 QRect VistaTasto::Area() const {
-    const Rettangolo intero = TastoIntero(tasto_);
-    return InPixel({intero.left, intero.top, intero.width, intero.height}, Scala())
-        .translated(Sotto()->Area().topLeft());
+    return SullaFigura(TastoIntero(tasto_), *Sotto()).translated(Sotto()->Area().topLeft());
 }
 
 QRect VistaTasto::Portata() const {
-    return TastoNero(tasto_) ? OmbraTasto(Area(), Scala()) : Area();
+    return TastoNero(tasto_) ? OmbraTasto(Area(), ScalaTasti(*Sotto())) : Area();
 }
 
 int VistaTasto::Strato() const {
@@ -45,9 +53,9 @@ int VistaTasto::Strato() const {
 void VistaTasto::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
     const AspettoTasto aspetto{Acceso(), InQt(Stato().BackColor, Qt::transparent), tocco.fuoco};
     if (TastoNero(tasto_))
-        DipingiTastoNero(p, area, aspetto, Scala());
+        DipingiTastoNero(p, area, aspetto, ScalaTasti(*Sotto()));
     else
-        DipingiTastoBianco(p, area, aspetto, Scala());
+        DipingiTastoBianco(p, area, aspetto, ScalaTasti(*Sotto()));
 }
 
 void VistaTasto::Rinfresca(Nome nome) {
@@ -59,8 +67,8 @@ void VistaTastiera::Dipingi(QPainter& p, const QRectF&, const Tocco&) {
     const Rettangolo primo = TastoIntero(0), ultimo = TastoIntero(tastiTastiera - 1);
     const int destra = ultimo.left + ultimo.width;
     const QRect tasti =
-        InPixel({primo.left, primo.top, destra - primo.left, primo.height}, Scala());
-    DipingiLetto(p, QRectF(tasti), Scala());
+        SullaFigura({primo.left, primo.top, destra - primo.left, primo.height}, *this);
+    DipingiLetto(p, QRectF(tasti), ScalaTasti(*this));
 }
 
 std::vector<VistaDipinta*> VistaTastiera::Tasti() const {
@@ -120,30 +128,23 @@ void VistaTastiera::Rinuncia() {
 void VistaTastiera::Giu() {
     Su(false);
     giu_ = Scelto();
-    if (!giu_) return;
-    Evento evento;
-    evento.fatto = Fatto::MouseDown;
-    evento.codice = bottoneSinistro;
-    giu_->Manda(evento);
+    if (giu_) giu_->MandaBottone(Fatto::MouseDown);
 }
 
 void VistaTastiera::Su(bool clicca) {
     VistaDipinta* tasto = std::exchange(giu_, nullptr);
     if (!tasto) return;
-    Evento evento;
-    evento.fatto = Fatto::MouseUp;
-    evento.codice = bottoneSinistro;
-    tasto->Manda(evento);
+    tasto->MandaBottone(Fatto::MouseUp);
     if (clicca) tasto->Manda(Fatto::Click);
 }
 
 void VistaBarretta::Dipingi(QPainter& p, const QRectF& area, const Tocco&) {
     if (Stato().BackStyle == fondoOpaco)
-        DipingiBarretta(p, area, InQt(Stato().BackColor, Qt::transparent), Scala());
+        DipingiBarretta(p, area, InQt(Stato().BackColor, Qt::transparent), ScalaTasti(*Sotto()));
 }
 
 void VistaDoCentrale::Dipingi(QPainter& p, const QRectF& area, const Tocco&) {
-    DipingiDoCentrale(p, area, InQt(Stato().BackColor, Qt::transparent), Scala());
+    DipingiDoCentrale(p, area, InQt(Stato().BackColor, Qt::transparent), ScalaTasti(*Sotto()));
 }
 
 }  // namespace corvana

@@ -21,6 +21,16 @@ constexpr int larghezzaOttava = 1545;
 constexpr Rettangolo postoTastiera{300, 1935, 7770,
                                    900};  ///< of the picture, where nothing else is said
 
+/// The same place on a picture that is `larga` wide: all of it grows in proportion.
+constexpr Rettangolo SuFigura(const Rettangolo& posto, int larga) {
+    constexpr auto misura = [](int twips, int nuova) {
+        return (twips * nuova + postoTastiera.width / 2) / postoTastiera.width;
+    };
+    const int left = misura(posto.left, larga), top = misura(posto.top, larga);
+    return {left, top, misura(posto.left + posto.width, larga) - left,
+            misura(posto.top + posto.height, larga) - top};
+}
+
 /// What of a key lights up: the lower part of a white one, the upper part of a black one.
 constexpr Rettangolo PostoTasto(int tasto) {
     // Of the first octave. The white keys are one seventh of it apart, the black ones drawn to the

@@ -17,8 +17,7 @@ void Poni(Controllo& controllo, const Rettangolo& posto) {
     controllo.Height = posto.height;
 }
 
-void Prepara(Etichetta& etichetta, const char* stile, Colore colore, const Rettangolo& posto) {
-    Poni(etichetta, posto);
+void Prepara(Etichetta& etichetta, const char* stile, Colore colore) {
     etichetta.stile = stile;
     etichetta.BackColor = colore;
 }
@@ -28,27 +27,39 @@ void Prepara(Etichetta& etichetta, const char* stile, Colore colore, const Retta
 TastieraSchermo::TastieraSchermo(Form& form, std::string nome, Controllo* padre, Corredo corredo,
                                  const Rettangolo& posto)
     : figura(form, std::move(nome), padre), Lbdoc(form, "Lbdoc", &figura) {
-    Poni(figura, posto);
     figura.stile = "tastiera";
     for (int tasto = 0; tasto < tastiTastiera; ++tasto)
         FaiTasto(tasto);
     for (int tasto = 0; corredo == Corredo::TastiEBarre && tasto < tastiTastiera; ++tasto)
         FaiBarra(tasto);
-    Prepara(Lbdoc, "docentrale", coloreDoCentrale, PostoDoCentrale());
+    Prepara(Lbdoc, "docentrale", coloreDoCentrale);
+    PonPosto(posto);
     Lbdoc.ToolTipText = "Do Centrale";
     PonNomi(false);
 }
 
 void TastieraSchermo::FaiTasto(int tasto) {
     Etichetta& fatto = lb.emplace_back(figura.Finestra(), "lb" + std::to_string(tasto), &figura);
-    Prepara(fatto, "tasto", coloreTasto, PostoTasto(tasto));
+    Prepara(fatto, "tasto", coloreTasto);
     Accendi(fatto, false);
 }
 
 void TastieraSchermo::FaiBarra(int tasto) {
     Etichetta& fatta = lbr.emplace_back(figura.Finestra(), "lbr" + std::to_string(tasto), &figura);
-    Prepara(fatta, "barretta", coloreBarra, PostoBarra(tasto));
+    Prepara(fatta, "barretta", coloreBarra);
     Accendi(fatta, false);
+}
+
+void TastieraSchermo::PonPosto(const Rettangolo& posto) {
+    Poni(figura, posto);
+    const auto poni = [&posto](Controllo& controllo, const Rettangolo& suo) {
+        Poni(controllo, SuFigura(suo, posto.width));
+    };
+    for (std::size_t tasto = 0; tasto < lb.size(); ++tasto)
+        poni(lb[tasto], PostoTasto(static_cast<int>(tasto)));
+    for (std::size_t tasto = 0; tasto < lbr.size(); ++tasto)
+        poni(lbr[tasto], PostoBarra(static_cast<int>(tasto)));
+    poni(Lbdoc, PostoDoCentrale());
 }
 
 void TastieraSchermo::sw(std::int16_t nota, std::uint8_t acceso) {

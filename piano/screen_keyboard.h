@@ -28,6 +28,9 @@ public:
     std::deque<Etichetta> lbr;  ///< their marks; none with the keys alone
     Etichetta Lbdoc;            ///< the mark of middle C
 
+    /// Lays the picture there, and all that is on it in proportion to its width.
+    void PonPosto(const Rettangolo& posto);
+
     /// Lights the key of the MIDI number, 36 to 95, when `acceso` is 1, and clears it otherwise.
     void sw(std::int16_t nota, std::uint8_t acceso);
     void SpegniTasti();

@@ -47,6 +47,22 @@ TEST(TastieraSchermo, WithTheKeysAloneThereIsNoMarkButMiddleC) {
     EXPECT_EQ(p.Trova("Lbdoc")->ToolTipText(), "Do Centrale");
 }
 
+TEST(TastieraSchermo, AllThatLiesOnItGrowsInProportionToItsWidth) {
+    Pagina p;
+    const auto posto = [&p](const std::string& nome) {
+        const Controllo& c = *p.Trova(nome);
+        return Rettangolo{c.Left, c.Top, c.Width, c.Height};
+    };
+    EXPECT_EQ(posto("lb0"), (Rettangolo{30, 435, 195, 300}));
+    p.tastiera.PonPosto({10, 20, 2 * 7770, 2 * 900});
+    EXPECT_EQ(posto("img2"), (Rettangolo{10, 20, 15540, 1800}));
+    EXPECT_EQ(posto("lb0"), (Rettangolo{60, 870, 390, 600}));
+    EXPECT_EQ(posto("lb1"), (Rettangolo{300, 180, 270, 600}));
+    EXPECT_EQ(posto("lb12").left - posto("lb0").left, 2 * 1545);
+    EXPECT_EQ(posto("lbr0"), (Rettangolo{90, 1440, 330, 150}));
+    EXPECT_EQ(posto("Lbdoc").width, 150);
+}
+
 TEST(TastieraSchermo, AtFirstNothingIsLit) {
     const Pagina p;
     EXPECT_TRUE(Accesi(p.tastiera.lb).empty());
