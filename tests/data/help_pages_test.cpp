@@ -64,9 +64,10 @@ TEST(PagineAiuto, BothLanguagesHaveTheSamePagesAndPictures) {
     EXPECT_EQ(NomiFile(volumi[0], ".png"), NomiFile(volumi[1], ".png"));
 }
 
-TEST(PagineAiuto, TheTrainerTheMetronomeTheInstrumentsAndTheChartHaveOne) {
+TEST(PagineAiuto, TheTrainerTheFiveDrillsTheMetronomeTheInstrumentsAndTheChartHaveOne) {
     for (const std::string& volume : volumi)
-        for (const char* pagina : {"index.html", "2.html", "8.html", "40.html", "50.html"})
+        for (const char* pagina : {"index.html", "2.html", "3.html", "5.html", "7.html", "8.html",
+                                   "20.html", "30.html", "40.html", "50.html"})
             EXPECT_TRUE(NomiFile(volume, ".html").contains(pagina)) << volume << ' ' << pagina;
 }
 
