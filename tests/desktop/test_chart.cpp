@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <vector>
 
 #include "core/real_files.h"
 #include "forms/real_clock.h"
@@ -76,23 +77,64 @@ TEST(Tavole, EachValueHasItsNoteAndItsRestInItsColumn) {
     }
 }
 
-TEST(Tavole, TheSignatureGrowsByAnAccidentalInBothStaves) {
+/// Where the lines of the two staves lie in the picture, from the top.
+std::vector<double> Linee(const QImage& foto) {
+    std::vector<double> linee;
+    const int x = foto.width() * 17 / 20;
+    for (int y = 0; y < foto.height(); ++y) {
+        if (qGray(foto.pixel(x, y)) >= 96) continue;
+        const int prima = y;
+        while (y + 1 < foto.height() && qGray(foto.pixel(x, y + 1)) < 96)
+            ++y;
+        linee.push_back((prima + y + 1) / 2.0);
+    }
+    return linee;
+}
+
+/// What the second picture has beyond the first one, from one height to another.
+QRect Aggiunto(const QImage& senza, const QImage& con, double da, double a) {
+    QRect aggiunto;
+    for (int y = qRound(da); y < qRound(a); ++y)
+        for (int x = 0; x < con.width(); ++x)
+            if (qGray(senza.pixel(x, y)) - qGray(con.pixel(x, y)) > 100)
+                aggiunto |= QRect(x, y, 1, 1);
+    return aggiunto;
+}
+
+/// The step of the accidental that `con` has beyond `senza`, on the staff whose lowest line is the
+/// picture's line of that number. A sharp's middle tells it, a flat's belly lies around it.
+double PassoAggiunto(const QImage& senza, const QImage& con, std::size_t bassa, bool diesis) {
+    const auto linee = Linee(con);
+    const double spazio = linee.at(1) - linee.at(0), fondo = linee.at(bassa);
+    const QRect segno = Aggiunto(senza, con, fondo - 6.8 * spazio, fondo + 1.8 * spazio);
+    const double y =
+        diesis ? segno.y() + segno.height() / 2.0 : segno.y() + segno.height() - 0.62 * spazio;
+    return (fondo - y) * 2 / spazio;
+}
+
+TEST(Tavole, EachSignatureAddsItsAccidentalAtItsPlaceInBothStaves) {
+    // Steps above the lowest line, the treble staff's and the bass staff's.
+    const std::vector<std::pair<int, int>> diesis = {{8, 6}, {5, 3}, {9, 7}, {6, 4},
+                                                     {3, 1}, {7, 5}, {4, 2}};
+    const std::vector<std::pair<int, int>> bemolli = {{4, 2}, {7, 5}, {3, 1}, {6, 4},
+                                                      {2, 0}, {5, 3}, {1, -1}};
     PalcoTavole palco;
     palco.ApriPagina(2);
-    int sopra = 0, sotto = 0;
-    for (int riga = 1; riga <= 8; ++riga) {
-        if (riga > 1) Clicca(palco.scrivania, QStringLiteral("Ton%1").arg(riga));
-        const QString img = QStringLiteral("Img%1").arg(riga);
-        ASSERT_TRUE(Aspetta([&] { return palco.Di(img).isVisible(); }));
-        const QImage foto = Fotografa(palco.Di(img));
-        const int violino = Inchiostro(foto, {0.3, 0.25, 0.6, 0.25});
-        const int basso = Inchiostro(foto, {0.3, 0.6, 0.6, 0.25});
-        if (riga > 1) {
-            EXPECT_GT(violino, sopra + 20) << riga;
-            EXPECT_GT(basso, sotto + 20) << riga;
+    const QImage nessuno = Fotografa(palco.Di("Img1"));
+    ASSERT_EQ(Linee(nessuno).size(), 10U);
+    for (const auto& [passi, primaRiga] : {std::pair{diesis, 2}, {bemolli, 9}}) {
+        QImage prima = nessuno;
+        for (std::size_t i = 0; i < passi.size(); ++i) {
+            const int riga = primaRiga + static_cast<int>(i);
+            Clicca(palco.scrivania, QStringLiteral("Ton%1").arg(riga));
+            const QString img = QStringLiteral("Img%1").arg(riga);
+            ASSERT_TRUE(Aspetta([&] { return palco.Di(img).isVisible(); }));
+            const QImage foto = Fotografa(palco.Di(img));
+            EXPECT_NEAR(PassoAggiunto(prima, foto, 4, primaRiga == 2), passi[i].first, 0.4) << riga;
+            EXPECT_NEAR(PassoAggiunto(prima, foto, 9, primaRiga == 2), passi[i].second, 0.4)
+                << riga;
+            prima = foto;
         }
-        sopra = violino;
-        sotto = basso;
     }
 }
 
