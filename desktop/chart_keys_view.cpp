@@ -87,9 +87,10 @@ void DipingiRigaGradi(QPainter& p, double y) {
 }
 
 QString InTesto(const NomeTonica& tonica) {
-    const QString nome = SoloNome(tonica);
-    if (tonica.alterazione == 0) return nome;
-    return nome + (tonica.alterazione > 0 ? u'\u266F' : u'\u266D');
+    QString nome = SoloNome(tonica);
+    if (tonica.alterazione > 0) nome += u'\u266F';
+    if (tonica.alterazione < 0) nome += u'\u266D';
+    return nome;
 }
 
 double MisuraTonica(const NomeTonica& tonica, const LettereTavola& lettere, double spazio) {

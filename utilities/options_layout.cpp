@@ -122,7 +122,7 @@ void DisponiSpecchio(frmOptions& f) {
 }
 
 /// The name's class, by colour and by the frame around it.
-void PonClasse(Etichetta& nome, const NomeIntervallo& intervallo, std::string detto) {
+void PonClasse(Etichetta& nome, const NomeIntervallo& intervallo, const std::string& detto) {
     const bool secondaMelodica = intervallo.nome == "2 Min" || intervallo.nome == "2 Mag";
     if (intervallo.consonante) {
         nome.BackColor = consonante;
