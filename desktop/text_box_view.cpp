@@ -13,7 +13,9 @@ namespace corvana {
 
 namespace {
 
-constexpr double margineTesto = 6;  ///< designed pixels beside the text
+// In designed pixels.
+constexpr double margineTesto = 6;    ///< beside the text
+constexpr double letteraMinima = 11;  ///< smaller ones can't be read
 
 class Scrittura final : public QLineEdit {
 public:
@@ -46,10 +48,9 @@ private:
     const Vista& vista_;
 };
 
-/// Makes the letters small enough for the text. A text is about as long as its letters are large:
+/// Makes the letters small enough for the text, down to `minima`. A text is about as long as its letters are large:
 /// to try each size would load a font for each.
-void Rimpicciolisci(QFont& font, const QString& testo, double spazio) {
-    constexpr int minima = 6;
+void Rimpicciolisci(QFont& font, const QString& testo, double spazio, int minima) {
     const auto lungo = [&] { return QFontMetricsF(font).horizontalAdvance(testo); };
     for (double eccede = lungo() / spazio; eccede > 1 && font.pixelSize() > minima;
          eccede = lungo() / spazio) {
@@ -130,8 +131,9 @@ void VistaCasella::Riscala() {
     QFont font = Carattere(Stato().stile, Scala());
     // A box that is only read never scrolls: what is too long for it gets smaller letters.
     if (Stato().Locked)
-        Rimpicciolisci(font, InQt(Stato().Text),
-                       std::max(1.0, casella_->width() - 2 * (margineTesto + 4) * Scala()));
+        Rimpicciolisci(font, InQt(Stato().Text).trimmed(),
+                       std::max(1.0, casella_->width() - 2 * (margineTesto + 4) * Scala()),
+                       static_cast<int>(letteraMinima * Scala()));
     casella_->setFont(font);
     const int margine = static_cast<int>(margineTesto * Scala());
     casella_->setTextMargins(margine, 0, margine, 0);

@@ -47,10 +47,10 @@ constexpr std::array posti = {
     Posto{"lblnn", 1065, 2340, 525, 390, {}, {}, "nome"},
     Posto{"lblMn", 6975, 3225, 360, 360, "?", "Mostra/Nascondi il nome della nota", "aiuto"},
 
-    Posto{"bgConta", 6510, 180, 1290, 1560, {}, {}, "carta"},
-    Posto{"conta", 6600, 270, 1110, 420, "0", "Risposte esatte", "cifra giuste destra"},
-    Posto{"er", 6600, 750, 1110, 420, "0", "Risposte errate", "cifra sbagliate destra"},
-    Posto{"PercEs", 6600, 1230, 1110, 420, "0", "Percentuale", "percento centro"},
+    Posto{"bgConta", 6420, 180, 1470, 1560, {}, {}, "carta"},
+    Posto{"conta", 6480, 270, 1350, 420, "0", "Risposte esatte", "cifra giuste destra"},
+    Posto{"er", 6480, 750, 1350, 420, "0", "Risposte errate", "cifra sbagliate destra"},
+    Posto{"PercEs", 6480, 1230, 1350, 420, "0", "Percentuale", "percento centro"},
     Posto{"PercBg", 6960, 1890, 390, 1200, {}, {}, "barra"},
     Posto{"PercMet", 6960, 1890, 390, 1200, {}, {}, "barra"},
 
