@@ -67,7 +67,6 @@ private:
 };
 
 void FotografaTutto(Servizio& s) {
-    s.Pronto();
     s.Scegli("mnuNormale");
     s.Scatta("idle");
     s.ScattaMenu("Opzioni");
@@ -128,18 +127,56 @@ void FotografaSecondarie(Servizio& s) {
     s.Premi("lblCloseMetro");
 }
 
+struct PaginaFotografata {
+    const char *voce, *cornice, *start;
+    /// What shows the answers; of the chords they are shown from the start.
+    const char* aiuto;
+};
+
+/// A range on the keyboard, where the page begins with none.
+void ScegliEstensione(Servizio& s, const PaginaFotografata& pagina) {
+    if (s.Di(pagina.start).isVisible()) return;
+    for (const char* tasto : {"lb12", "lb36"})
+        s.Premi(tasto);
+    Aspetta([&] { return s.Di(pagina.start).isVisible(); });
+}
+
+void AspettaScritta(Servizio& s, const char* nome, const char* scritta) {
+    Aspetta([&] { return s.Stato(nome).Caption == scritta; });
+}
+
+/// In a run, first as it begins, then with an answer wrong and the right one shown.
+void FotografaCorsa(Servizio& s, const PaginaFotografata& pagina, const QString& nome) {
+    s.Premi(pagina.start);
+    AspettaScritta(s, pagina.start, "Stop");
+    s.Scatta(nome + QStringLiteral("-running"));
+    if (pagina.aiuto) {
+        s.Premi(pagina.aiuto);
+        AspettaScritta(s, pagina.aiuto, "");
+        s.Scatta(nome + QStringLiteral("-help"));
+        s.Premi(pagina.aiuto);
+        AspettaScritta(s, pagina.aiuto, "?");
+    }
+    s.Premi(pagina.start);
+    AspettaScritta(s, pagina.start, "Start");
+}
+
 /// The ear trainer's pages, one after the other in the open window.
 void FotografaOrecchio(Servizio& s) {
     s.Scegli("mnuRac");
     s.Attendi(QStringLiteral("frmInto"));
-    for (const auto& [voce, cornice] : {std::pair{"mnuNotA", "frmInto2"},
-                                        {"mnuRint", "FrmIntervalli"},
-                                        {"mnuRicTa", "frmRacc"},
-                                        {"mnuRicTasto", "frmRicTasto"},
-                                        {"mnuRicTo", "frmTo"}}) {
-        s.Scegli(voce);
-        Aspetta([&, c = cornice] { return s.Stato(c).Visible; });
-        s.Scatta(QStringLiteral("frmInto-") + QString::fromLatin1(cornice));
+    for (const PaginaFotografata& pagina :
+         {PaginaFotografata{"mnuNotA", "frmInto2", "IntoStart", "lblIntoSh"},
+          {"mnuRint", "FrmIntervalli", "CmdIntStart", "lblIntSh"},
+          {"mnuRicTa", "frmRacc", "ComdRacStart", nullptr},
+          {"mnuRicTasto", "frmRicTasto", "cmdRicTasto", nullptr},
+          {"mnuRicTo", "frmTo", "cmdT", "lblTsh"}}) {
+        s.Scegli(pagina.voce);
+        Aspetta([&] { return s.Stato(pagina.cornice).Visible; });
+        const QString nome = QStringLiteral("frmInto-") + QString::fromLatin1(pagina.cornice);
+        s.Scatta(nome);
+        if (pagina.cornice != QLatin1String("frmRicTasto")) ScegliEstensione(s, pagina);
+        FotografaCorsa(s, pagina, nome);
     }
     s.Chiudi();
 }
@@ -184,16 +221,23 @@ void FotografaTastiera(const QString& cartella, double volte) {
 
 int main(int argc, char** argv) {
     Applicazione applicazione(argc, argv);
+    const QString cartella = QString::fromLocal8Bit(argv[1]);
+    QDir().mkpath(cartella);
     const QTemporaryDir stato;
     const Macchina macchina = MacchinaMuta(QString::fromLocal8Bit(argv[2]), stato);
     Scrivania& scrivania = applicazione.LaScrivania();
     scrivania.Avvia([&] { LogicaDelProgramma(applicazione, macchina); });
     AspettaFinestra(scrivania, "CorvanaMainF");
-    Servizio servizio(scrivania, QString::fromLocal8Bit(argv[1]),
-                      argc > 3 ? std::atof(argv[3]) : 1);
-    for (const auto& [voce, lingua] : {std::pair{"mnuIt", "it-"}, {"mnuEn", "en-"}}) {
-        servizio.PonLingua(QString::fromLatin1(lingua));
-        servizio.Scegli(voce);
+    Servizio servizio(scrivania, cartella, argc > 3 ? std::atof(argv[3]) : 1);
+    struct Lingua {
+        const char *voce, *nomi, *suoNome;  ///< its entry says so once the language is in use
+    };
+    for (const Lingua& lingua :
+         {Lingua{"mnuIt", "it-", "Italiano"}, Lingua{"mnuEn", "en-", "English"}}) {
+        servizio.PonLingua(QString::fromLatin1(lingua.nomi));
+        servizio.Pronto();
+        servizio.Scegli(lingua.voce);
+        AspettaScritta(servizio, lingua.voce, lingua.suoNome);
         FotografaTutto(servizio);
         FotografaBattito(servizio);
         FotografaSecondarie(servizio);
@@ -201,6 +245,6 @@ int main(int argc, char** argv) {
         FotografaPromemoria(servizio);
     }
     scrivania.Termina();
-    FotografaTastiera(QString::fromLocal8Bit(argv[1]), argc > 3 ? std::atof(argv[3]) : 1);
+    FotografaTastiera(cartella, argc > 3 ? std::atof(argv[3]) : 1);
     return 0;
 }
