@@ -22,6 +22,7 @@ VistaDipinta& Faccia::Sotto(const QPointF& punto) const {
 void Faccia::PonFuoco(VistaDipinta& vista, Qt::FocusReason perche) {
     CambiaFuoco();
     fuoco_ = &vista;
+    vista.Segnala();
     setFocus(perche);
     DiFuoco(vista);
     CambiaFuoco();

@@ -34,7 +34,7 @@ void TopoFaccia::Premi(const QMouseEvent& mouse) {
     presa_ = &Bersaglio(mouse);
     ultima_ = presa_;
     Manda(*presa_, Fatto::MouseDown, mouse);
-    if (mouse.button() != Qt::LeftButton || !presa_->Cliccabile() || !presa_->Abilitata()) return;
+    if (mouse.button() != Qt::LeftButton || !presa_->Azionabile() || !presa_->Abilitata()) return;
     premuta_ = dentro_ = true;
     presa_->Sporca();
 }
@@ -52,7 +52,8 @@ void TopoFaccia::Lascia(const QMouseEvent& mouse) {
     const bool premuta = premuta_ && mouse.button() == Qt::LeftButton;
     if (premuta || mouse.buttons() == Qt::NoButton) premuta_ = false;
     if (premuta) vista.Sporca();
-    if (premuta && vista.Area().contains(mouse.position().toPoint())) vista.Manda(Fatto::Click);
+    const bool dentro = vista.Area().contains(mouse.position().toPoint());
+    if (premuta && dentro && vista.Cliccabile()) vista.Manda(Fatto::Click);
     if (mouse.buttons() == Qt::NoButton) Libera();
 }
 

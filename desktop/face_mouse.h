@@ -44,7 +44,7 @@ private:
     VistaDipinta* presa_ = nullptr;   ///< has the mouse, since a button went down on it
     VistaDipinta* ultima_ = nullptr;  ///< on which a button last went down
     bool dentro_ = false;             ///< the pointer is in what it holds
-    bool premuta_ = false;            ///< the left button holds down what can be clicked
+    bool premuta_ = false;            ///< the left button holds down what feels it
 };
 
 }  // namespace corvana

@@ -9,6 +9,7 @@ namespace corvana {
 namespace {
 
 constexpr double raggioPulsante = 7;
+constexpr double rientroRiquadro = 8;  ///< beside the text, in designed pixels
 
 QColor Sotto(QColor colore, const Tocco& tocco) {
     if (!tocco.abilitato) return PiuChiara(colore, 0.45);
@@ -72,7 +73,7 @@ void DipingiBottone(QPainter& p, const QRectF& area, const Aspetto& a, double sc
     if (tocco.abilitato && !tocco.premuto) Ombra(p, faccia, raggio, scala);
     if (tocco.premuto) faccia.translate(0, scala);
     p.setPen(Qt::NoPen);
-    p.setBrush(Sotto(fondo, tocco));
+    p.setBrush(a.BackStyle == fondoTrasparente ? QBrush(Qt::NoBrush) : Sotto(fondo, tocco));
     p.drawRoundedRect(faccia, raggio, raggio);
     Contorna(p, faccia, raggio, tocco.abilitato ? tinta::filoForte : tinta::filo, scala);
     if (a.Ha("scheda") && a.Checked) DipingiSceltaScheda(p, faccia, scala);
@@ -88,7 +89,8 @@ void DipingiTesto(QPainter& p, const QRectF& area, const Aspetto& a, double scal
     const QColor proprio =
         InQt(a.ForeColor, a.Ha("piccolo") ? tinta::inchiostroTenue : tinta::inchiostro);
     p.setPen(abilitato ? proprio : tinta::spento);
-    p.drawText(area,
+    const double rientro = a.Ha("riquadro") ? rientroRiquadro * scala : 0;
+    p.drawText(area.adjusted(rientro, 0, -rientro, 0),
                static_cast<int>(Allineamento(a.stile)) | Qt::TextWordWrap | Qt::TextHideMnemonic,
                InQt(a.Caption));
 }

@@ -45,7 +45,7 @@ QAccessibleInterface* Al(const Interfacce& dette, int x, int y) {
 }
 
 QAccessible::Role Ruolo(const VistaDipinta& vista) {
-    if (vista.Cliccabile()) return QAccessible::PushButton;
+    if (vista.Azionabile()) return vista.Spuntata() ? QAccessible::CheckBox : QAccessible::PushButton;
     switch (vista.Origine().tipo) {
         case Genere::Figura: return vista.Fermata() ? QAccessible::Grouping : QAccessible::Graphic;
         case Genere::Cornice: return QAccessible::Grouping;
@@ -88,7 +88,11 @@ QAccessibleInterface* Accessibile::childAt(int x, int y) const {
 }
 
 QString Accessibile::text(QAccessible::Text quale) const {
-    return quale == QAccessible::Name ? vista_.NomeDetto() : QString();
+    const QString& nome = vista_.NomeDetto();
+    if (quale == QAccessible::Name) return nome;
+    const QString consiglio = InQt(vista_.Stato().ToolTipText).trimmed();
+    const bool altro = quale == QAccessible::Description && consiglio != nome.trimmed();
+    return altro ? consiglio : QString();
 }
 
 QRect Accessibile::rect() const {
@@ -108,23 +112,27 @@ QAccessible::State Accessibile::state() const {
     const VistaDipinta* fuoco = vista_.FacciaDove().Fuoco();
     stato.focused = fuoco && &fuoco->DovEIlFuoco() == &vista_;
     stato.pressed = vista_.PremutaDaTasto();
+    stato.checkable = vista_.Spuntata().has_value();
+    stato.checked = vista_.Spuntata().value_or(false);
+    stato.selectable = vista_.Stato().Ha("risposta");
+    stato.selected = vista_.Svelata();
     return stato;
 }
 
 void* Accessibile::interface_cast(QAccessible::InterfaceType quale) {
-    if (quale != QAccessible::ActionInterface || !vista_.Cliccabile()) return nullptr;
+    if (quale != QAccessible::ActionInterface || !vista_.Azionabile()) return nullptr;
     return static_cast<QAccessibleActionInterface*>(this);
 }
 
 QStringList Accessibile::actionNames() const {
-    if (!vista_.Cliccabile() || !vista_.Usabile()) return {};
+    if (!vista_.Azionabile() || !vista_.Usabile()) return {};
     return {pressAction(), setFocusAction()};
 }
 
 void Accessibile::doAction(const QString& nome) {
     if (!vista_.Usabile()) return;
     if (nome == setFocusAction()) vista_.PrendiFuoco(Qt::OtherFocusReason);
-    if (nome == pressAction()) vista_.Manda(Fatto::Click);
+    if (nome == pressAction()) vista_.Aziona();
 }
 
 AccessibileFaccia::AccessibileFaccia(Faccia& faccia)
@@ -170,7 +178,7 @@ void DiNomeCambiato(VistaDipinta& vista) {
 void DiStatoCambiato(VistaDipinta& vista) {
     if (!QAccessible::isActive() || !vista.Detta()) return;
     QAccessible::State cambiati;
-    cambiati.disabled = cambiati.invisible = true;
+    cambiati.disabled = cambiati.invisible = cambiati.checked = cambiati.selected = true;
     QAccessibleStateChangeEvent evento(&vista.PerLettore(), cambiati);
     QAccessible::updateAccessibility(&evento);
 }

@@ -6,6 +6,7 @@
 #include "desktop/chart_keys_view.h"
 #include "desktop/chart_notes_view.h"
 #include "desktop/chart_view.h"
+#include "desktop/choice_view.h"
 #include "desktop/combo_view.h"
 #include "desktop/keyboard_view.h"
 #include "desktop/light_view.h"
@@ -69,6 +70,9 @@ constexpr RigaFaccia facce[] = {
     {Genere::Figura, "dissonante", Dipinta<VistaClasse>},
     {Genere::Figura, "spaziato", Dipinta<VistaSpaziato>},
     {Genere::Figura, "frecce", Dipinta<VistaFrecce>},
+    {Genere::Figura, "ammissione", Dipinta<VistaAmmissione>},
+    {Genere::Figura, "detto", Dipinta<VistaDetto>},
+    {Genere::Figura, "tastino", Dipinta<VistaTastino>},
     {Genere::Figura, "icona:", Dipinta<VistaIcona>},
     {Genere::Figura, "", Dipinta<VistaSemplice>},
 };

@@ -1,7 +1,6 @@
 #include "desktop/field_painter.h"
 
-#include <QPainterPath>
-
+#include "desktop/sign_painter.h"
 #include "desktop/theme.h"
 
 namespace corvana {
@@ -12,7 +11,6 @@ namespace {
 constexpr double postoFreccia = 26;  ///< at the right end
 constexpr double rientroScelta = 8;  ///< before the text
 constexpr double mezzaFreccia = 4.5, spessoreFreccia = 2;
-constexpr double postoEsito = 14, spessoreEsito = 2.4;
 
 QPen PennaTonda(const QColor& colore, double spessore) {
     return {colore, spessore, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
@@ -32,29 +30,6 @@ void DipingiFreccia(QPainter& p, const QRectF& area, bool abilitata, double scal
     p.setBrush(Qt::NoBrush);
     p.setPen(PennaTonda(abilitata ? tinta::accento : tinta::spento, spessoreFreccia * scala));
     p.drawPolyline(punti, std::size(punti));
-}
-
-QPainterPath TracciaEsito(bool giusto) {
-    QPainterPath segno;
-    if (giusto) {
-        segno.addPolygon(QPolygonF({{-5, 0}, {-1.5, 4}, {5, -4.5}}));
-        return segno;
-    }
-    segno.addPolygon(QPolygonF({QPointF(-4, -4), QPointF(4, 4)}));
-    segno.addPolygon(QPolygonF({QPointF(-4, 4), QPointF(4, -4)}));
-    return segno;
-}
-
-/// What the number tells, for those who don't know its place or its colour.
-void DipingiEsito(QPainter& p, const QRectF& area, bool giusto, double scala) {
-    p.save();
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setBrush(Qt::NoBrush);
-    p.setPen(PennaTonda(giusto ? tinta::giusto : tinta::sbagliato, spessoreEsito));
-    p.translate(area.left() + postoEsito * scala, area.center().y());
-    p.scale(scala, scala);
-    p.drawPath(TracciaEsito(giusto));
-    p.restore();
 }
 
 }  // namespace
@@ -85,8 +60,7 @@ void DipingiCasella(QPainter& p, const QRectF& area, const Aspetto& aspetto, dou
     vestito.BorderStyle = 1;
     p.save();
     DipingiFondo(p, area, vestito, scala, {});
-    for (const bool giusto : {true, false})
-        if (aspetto.Ha(giusto ? "giuste" : "sbagliate")) DipingiEsito(p, area, giusto, scala);
+    DipingiEsito(p, area, aspetto, scala);
     if (fuoco) DipingiAnello(p, area, scala);
     // The toolkit's own cursor is to be as sharp as it was.
     p.restore();

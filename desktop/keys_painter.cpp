@@ -30,6 +30,13 @@ double Filo(double scala) {
     return std::max(1.0, std::round(scala * 0.75));
 }
 
+/// A lit key bears a dot, for who can't tell its colour.
+void Punto(QPainter& p, const QPointF& dove, const QColor& colore, double raggio) {
+    p.setPen(Qt::NoPen);
+    p.setBrush(PiuScura(colore, 0.6));
+    p.drawEllipse(dove, raggio, raggio);
+}
+
 void Anello(QPainter& p, const QPainterPath& sagoma, double scala) {
     p.setClipPath(sagoma, Qt::IntersectClip);
     p.setPen(QPen(tinta::accento, 5 * scala));
@@ -63,6 +70,8 @@ void DipingiTastoBianco(QPainter& p, const QRectF& area, const AspettoTasto& t, 
     ombra.setColorAt(0, tinta::ombraTasti);
     ombra.setColorAt(1, Qt::transparent);
     p.fillRect(QRectF(tasto.topLeft(), QSizeF(tasto.width(), 7 * scala)), ombra);
+    if (t.acceso)
+        Punto(p, {tasto.center().x(), tasto.top() + 0.68 * tasto.height()}, t.colore, 2.2 * scala);
     if (t.fuoco) Anello(p, intera, scala);
 }
 
@@ -83,6 +92,8 @@ void DipingiTastoNero(QPainter& p, const QRectF& area, const AspettoTasto& t, do
     lucido.setColorAt(0, tinta::ebano);
     lucido.setColorAt(1, tinta::ebanoLucido);
     p.fillPath(Sagoma(sopra, raggio), t.acceso ? QBrush(t.colore) : QBrush(lucido));
+    if (t.acceso)
+        Punto(p, {area.center().x(), area.top() + 0.5 * area.height()}, t.colore, 1.3 * scala);
     if (t.fuoco) Anello(p, intera, scala);
 }
 

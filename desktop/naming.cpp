@@ -32,8 +32,9 @@ void Nominatore::Rinnova() const {
     for (const Nominata& nominata : nominate_) {
         QStringList nomi;
         for (const Vista* etichetta : nominata.etichette)
-            nomi.append(SenzaAccesso(InQt(etichetta->Stato().Caption)).trimmed());
-        nominata.vista->PonNomeDetto(nomi.join(QLatin1Char(' ')));
+            nomi.append(SenzaAccesso(InQt(etichetta->Stato().Caption)).simplified());
+        const QString nome = nomi.join(QLatin1Char(' '));
+        if (nominata.vista->NomeDetto() != nome) nominata.vista->PonNomeDetto(nome);
     }
 }
 

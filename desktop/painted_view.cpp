@@ -1,8 +1,13 @@
 #include "desktop/painted_view.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "desktop/face.h"
 #include "desktop/face_reader.h"
+#include "desktop/grid_steps.h"
 #include "desktop/key_map.h"
+#include "eartrainer/answer_colours.h"
 
 namespace corvana {
 
@@ -62,30 +67,85 @@ bool VistaDipinta::Cliccabile() const {
            Origine().tipo != Genere::Finestra && !Stato().Ha("dietro");
 }
 
+bool VistaDipinta::Azionabile() const {
+    const bool ascolta = Stato().Ascolta(ascoltaPressione) || Stato().Ascolta(ascoltaDoppio);
+    return Cliccabile() || (ascolta && Origine().tipo != Genere::Casella &&
+                            Origine().tipo != Genere::Finestra && !Stato().Ha("dietro"));
+}
+
+void VistaDipinta::Aziona() const {
+    if (Stato().Ascolta(ascoltaPressione)) {
+        MandaBottone(Fatto::MouseDown);
+        MandaBottone(Fatto::MouseUp);
+    }
+    Compi();
+}
+
+void VistaDipinta::Compi() const {
+    if (Cliccabile())
+        Manda(Fatto::Click);
+    else if (Stato().Ascolta(ascoltaDoppio))
+        Manda(Fatto::DblClick);
+}
+
 bool VistaDipinta::PremiTasto(const QKeyEvent& tasto) {
+    if (VaNellaGriglia(*this, tasto.key())) return true;
     const bool spazio = tasto.key() == Qt::Key_Space || tasto.key() == Qt::Key_Select;
     if (!spazio && !EInvio(tasto.key())) return false;
     if (tasto.isAutoRepeat()) return true;
-    if (!spazio) {
-        Manda(Fatto::Click);
-        return true;
+    if (!spazio && tasto.modifiers().testFlag(Qt::ShiftModifier) &&
+        Stato().Ascolta(ascoltaDoppio)) {
+        Manda(Fatto::DblClick);
+    } else if (spazio || Stato().Ascolta(ascoltaPressione)) {
+        Rinuncia();
+        tastoGiu_ = tasto.key();
+        if (Stato().Ascolta(ascoltaPressione)) MandaBottone(Fatto::MouseDown);
+        Sporca();
+    } else {
+        Aziona();
     }
-    premutaDaTasto_ = true;
-    Sporca();
     return true;
 }
 
 bool VistaDipinta::LasciaTasto(const QKeyEvent& tasto) {
-    if (!premutaDaTasto_ || tasto.key() != Qt::Key_Space) return false;
+    if (!tastoGiu_ || tasto.key() != tastoGiu_) return false;
     if (tasto.isAutoRepeat()) return true;
-    premutaDaTasto_ = false;
+    Rinuncia();
     Sporca();
-    Manda(Fatto::Click);
+    Compi();
     return true;
 }
 
 void VistaDipinta::Rinuncia() {
-    premutaDaTasto_ = false;
+    if (std::exchange(tastoGiu_, 0) != 0 && Stato().Ascolta(ascoltaPressione))
+        MandaBottone(Fatto::MouseUp);
+}
+
+bool VistaDipinta::Insieme(const Vista& altra) const {
+    const QString griglia = GrigliaDi(Stato());
+    return !griglia.isEmpty() && altra.Padre() == Padre() && GrigliaDi(altra.Stato()) == griglia;
+}
+
+Vista& VistaDipinta::Ingresso() {
+    const auto griglia = Griglia(*this);
+    const auto segnalata = std::find_if(griglia.begin(), griglia.end(),
+                                        [](const VistaDipinta* v) { return v->segnalata_; });
+    if (segnalata != griglia.end()) return **segnalata;
+    return griglia.empty() ? *this : *griglia.front();
+}
+
+void VistaDipinta::Segnala() {
+    for (VistaDipinta* vicina : Griglia(*this))
+        vicina->segnalata_ = vicina == this;
+}
+
+std::optional<bool> VistaDipinta::Spuntata() const {
+    if (!Stato().Ha("aiuto")) return {};
+    return Stato().Caption.empty();
+}
+
+bool VistaDipinta::Svelata() const {
+    return Stato().Ha("risposta") && Stato().Ha("pulsante") && Stato().BackColor == coloreSvelato;
 }
 
 void VistaDipinta::Sporca() const {
@@ -104,6 +164,7 @@ void VistaDipinta::Prepara(Nome nome) {
 void VistaDipinta::Rinfresca(Nome nome) {
     if (nome == &Valori::ToolTipText) return;
     Sporca();
+    if (Spuntata() || Stato().Ha("risposta")) DiStatoCambiato(*this);
     if (nome != &Valori::Visible && nome != &Valori::Enabled && nome != &Valori::Ascolti) return;
     DiStatoCambiato(*this);
     FacciaDove().Controlla();

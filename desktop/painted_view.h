@@ -7,6 +7,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <optional>
 
 #include "desktop/face_painter.h"
 #include "desktop/view.h"
@@ -53,30 +54,46 @@ public:
     /// It does something when it is clicked. One that lies behind another has what is clicked
     /// before it.
     virtual bool Cliccabile() const;
+    /// The same, or something happens when a button goes down on it, or at a double click.
+    virtual bool Azionabile() const;
     /// The pointer's shape tells that there is something to do.
-    virtual bool Invita() const { return Cliccabile() || Fermata(); }
+    virtual bool Invita() const { return Cliccabile() || Stato().Ascolta(ascoltaPressione); }
     /// It looks different under the pointer.
-    virtual bool SenteIlPuntatore() const { return Cliccabile(); }
+    virtual bool SenteIlPuntatore() const { return Azionabile(); }
     /// The pointer is there, from the upper left corner of its area.
     virtual void Sorvola(const QPointF&) {}
     virtual void Lasciata() {}
-    /// A key went down while it has the focus; false when it has no use for it.
+    /// A key went down while it has the focus; false when it has no use for it. The space bar and
+    /// Enter click it. One that hears the button go down hears it as long as they are held. One
+    /// that knows only double clicks gets one, and any that knows them gets one by Shift and Enter.
+    /// In a grid (style word "griglia:" and its name) the arrows go from one to the next.
     virtual bool PremiTasto(const QKeyEvent& tasto);
     virtual bool LasciaTasto(const QKeyEvent& tasto);
     /// What was held down with the keyboard is let go without having been pressed.
     virtual void Rinuncia();
-    bool PremutaDaTasto() const { return premutaDaTasto_; }
+    bool PremutaDaTasto() const { return tastoGiu_ != 0; }
 
-    bool Fermata() const override { return Cliccabile(); }
+    bool Fermata() const override { return Azionabile(); }
+    /// In one grid.
+    bool Insieme(const Vista& altra) const override;
+    Vista& Ingresso() override;
     bool Usabile() const override;
     bool HaFuoco() const override;
     void PrendiFuoco(Qt::FocusReason perche) override;
+    /// From now on the Tab key comes to it, of those in its grid.
+    void Segnala();
+    /// Presses it and lets it go.
+    void Aziona() const;
 
     /// Its part of the face is to be painted anew.
     void Sporca() const;
 
     /// It is something to a screen reader.
-    virtual bool Detta() const { return Cliccabile() || !NomeDetto().isEmpty(); }
+    virtual bool Detta() const { return Azionabile() || !NomeDetto().isEmpty(); }
+    /// Of a switch whether it is on; nothing of all else.
+    virtual std::optional<bool> Spuntata() const;
+    /// It stands out among its like, as the answer that is shown.
+    bool Svelata() const;
     /// The one that has the focus, of those that share a stop of the Tab key.
     virtual const VistaDipinta& DovEIlFuoco() const { return *this; }
     /// What a screen reader knows of it; made when first asked for.
@@ -89,9 +106,13 @@ protected:
     void NomeCambiato() override;
 
 private:
+    /// What a press comes to: a click, or a double click where it hears no other.
+    void Compi() const;
+
     Faccia* faccia_ = nullptr;
     unsigned lettore_ = 0;  ///< what the toolkit calls it towards screen readers, 0 for not yet
-    bool premutaDaTasto_ = false;
+    bool segnalata_ = false;
+    int tastoGiu_ = 0;  ///< holds it down, 0 for none
 };
 
 }  // namespace corvana

@@ -3,6 +3,7 @@
 #include "desktop/icon_painter.h"
 #include "desktop/letter_painter.h"
 #include "desktop/ornament_painter.h"
+#include "desktop/sign_painter.h"
 #include "desktop/theme.h"
 
 namespace corvana {
@@ -22,12 +23,17 @@ Aspetto Acceso(Aspetto aspetto) {
 
 void VistaSemplice::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
     if (Stato().Ha("lettera")) return DipingiLettera(p, area, Stato(), Scala(), tocco);
-    if (Stato().Ha("pulsante")) return DipingiBottone(p, area, Stato(), Scala(), tocco);
+    if (Stato().Ha("pulsante")) {
+        DipingiBottone(p, area, Stato(), Scala(), tocco);
+        if (Svelata()) DipingiSvelata(p, area.adjusted(0, 0, 0, -Scala()), Scala());
+        return;
+    }
     const Aspetto aspetto = Acceso(Stato());
     DipingiFondo(p, area, aspetto, Scala(), tocco);
     if (Stato().Ha("ornamento")) DipingiOrnamento(p, area, Scala());
     const bool finestra = Origine().tipo == Genere::Finestra;
     if (!finestra) DipingiTesto(p, area, aspetto, Scala(), tocco.abilitato);
+    DipingiEsito(p, area, aspetto, Scala());
     if (tocco.fuoco) DipingiAnello(p, area, Scala());
 }
 

@@ -12,6 +12,7 @@ public:
 
     void Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) override;
     bool Fermata() const override { return true; }
+    bool Azionabile() const override { return false; }
     bool SenteIlPuntatore() const override { return true; }
     void Sorvola(const QPointF& dove) override;
     void Lasciata() override { Indica(0); }

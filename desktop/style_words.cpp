@@ -29,6 +29,8 @@ const ParolaStile parole[] = {
     {"chiudi", Lettere{15, semi}, FormaFondo{9, true, true, &tinta::bottone}, true},
     {"lettera", Lettere{20, QFont::Bold}, FormaFondo{6, true, true, &tinta::carta}, true},
     {"barra", {}, FormaFondo{6, true, false, nullptr}},
+    {"riquadro", {}, FormaFondo{5, true, false, &tinta::carta}},
+    {"ammissione", {}, FormaFondo{4, true, true, nullptr}},
     {"tondo", {}, FormaFondo{5, false, false, nullptr}},
     {"titolo", Lettere{15, semi}},
     {"cifra", Lettere{21, semi}},
@@ -44,18 +46,23 @@ const ParolaStile parole[] = {
     {"percento", Lettere{15, semi}},
     // Of the letters: heavier. Of the text: its place.
     {"forte"},
+    {"sottolineato"},
     {"centro"},
     {"destra"},
     {"mezzo"},
     // A painter draws something more.
     {"giuste"},
     {"sbagliate"},
+    {"esito"},
+    {"tastierina"},
     {"tasti"},
     {"ornamento"},
     {"scheda"},
     // Another control covers it; others name it.
     {"dietro"},
     {"nome:"},
+    // The arrow keys go from one to the next.
+    {"griglia:"},
 };
 
 bool Contiene(const QStringList& stile, const ParolaStile& riga) {

@@ -13,7 +13,8 @@ Vista* ProssimaFermata(const std::vector<std::unique_ptr<Vista>>& viste, bool av
     for (std::ptrdiff_t passo = 1; passo <= quante; ++passo) {
         const std::ptrdiff_t dove = da + (avanti ? passo : -passo);
         Vista& vista = *viste[static_cast<std::size_t>((dove % quante + quante) % quante)];
-        if (vista.Fermata() && vista.Usabile() && !vista.HaFuoco()) return &vista;
+        if (!vista.Fermata() || !vista.Usabile() || vista.HaFuoco()) continue;
+        if (fuoco == viste.end() || !vista.Insieme(**fuoco)) return &vista.Ingresso();
     }
     return nullptr;
 }

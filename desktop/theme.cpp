@@ -52,6 +52,7 @@ QFont Carattere(const QStringList& stile, double scala) {
     font.setFamilies(FamiglieDelTesto());
     font.setPixelSize(std::max(1, static_cast<int>(std::lround(lettere.pixel * scala))));
     font.setWeight(stile.contains(QLatin1String("forte")) ? QFont::DemiBold : lettere.peso);
+    font.setUnderline(stile.contains(QLatin1String("sottolineato")));
     return font;
 }
 

@@ -44,7 +44,8 @@ QPalette TavolozzaDelProgramma();
 /// The typeface of everything but music: the first of these that the machine has.
 QStringList FamiglieDelTesto();
 
-/// The letters for the style words, `scala` times the designed size; "forte" makes them heavier.
+/// The letters for the style words, `scala` times the designed size; "forte" makes them heavier,
+/// "sottolineato" puts a line under them.
 QFont Carattere(const QStringList& stile, double scala);
 
 /// Where a text stands for the style words: "centro", "destra", "mezzo" (of the height); the words

@@ -1,5 +1,7 @@
 #include "desktop/view.h"
 
+#include <utility>
+
 #include "desktop/mouse.h"
 #include "desktop/widget_aspect.h"
 
@@ -34,6 +36,15 @@ void Vista::PonWidgetMuto(QWidget& widget) {
 void Vista::Manda(Evento evento) const {
     evento.controllo = copia_.numero;
     mittente_.Manda(std::move(evento));
+}
+
+void Vista::MandaBottone(Fatto fatto) const {
+    Evento evento;
+    evento.fatto = fatto;
+    evento.codice = bottoneSinistro;
+    evento.x = aspetto_.Width / 2;
+    evento.y = aspetto_.Height / 2;
+    Manda(std::move(evento));
 }
 
 void Vista::MuoviFinestra() const {

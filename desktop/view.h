@@ -36,6 +36,8 @@ public:
     void Cambia(Nome nome, const Valore& valore);
     void Manda(Fatto fatto, int valore = 0) const { mittente_.Manda(copia_.numero, fatto, valore); }
     void Manda(Evento evento) const;
+    /// The left button went down or came up in its middle, though it was a key.
+    void MandaBottone(Fatto fatto) const;
     /// The pointer moved over the window, where no control listens to it.
     void MuoviFinestra() const;
 
@@ -50,6 +52,10 @@ public:
 
     /// The Tab key stops here, as long as it can be used.
     virtual bool Fermata() const;
+    /// They share a stop of the Tab key.
+    virtual bool Insieme(const Vista&) const { return false; }
+    /// Of those that share a stop with it, the one where the Tab key arrives.
+    virtual Vista& Ingresso() { return *this; }
     /// The user sees it and can use it.
     virtual bool Usabile() const;
     virtual bool HaFuoco() const;

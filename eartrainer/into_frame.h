@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "core/notation.h"
+#include "eartrainer/answer_colours.h"
 #include "eartrainer/into_score.h"
 #include "piano/screen_keyboard.h"
 
@@ -15,12 +16,6 @@ namespace corvana {
 /// The one channel of the ear trainer, and how hard it strikes where nothing else is said.
 constexpr std::int16_t canaleInto = 1;
 constexpr std::int16_t velocitaInto = 90;
-
-/// What says on a strip whether something may be asked.
-constexpr Colore coloreAmmesso = Rgb(128, 255, 128);
-constexpr Colore coloreEscluso = Rgb(255, 0, 0);
-/// What says which answer is right, when the learner wants to see it.
-constexpr Colore coloreSvelato = Rgb(255, 255, 255);
 
 class TelaioInto {
 public:

@@ -25,10 +25,11 @@ constexpr std::array postiMenu = {
 };
 
 constexpr std::array postiInto = {
-    Posto{"frmInto", 0, 0, 11190, 6600,
+    Posto{"frmInto", 0, 0, 12600, 6390,
           "Riconoscimento altezza nota / Intervallo / Tipo accordo / Tasti / Tonalità"},
-    Posto{"ShToolbar", 180, 210, 120, 540, {}, {}, "tondo nome:strumento"},
-    Posto{"frToolBar", 390, 180, 3630, 600},
+    Posto{"lblStep", 180, 180, 8220, 600, {}, {}, "carta titolo centro mezzo"},
+    Posto{"ShToolbar", 8580, 210, 120, 540, {}, {}, "tondo nome:strumento"},
+    Posto{"frToolBar", 8790, 180, 3630, 600},
     Posto{"ToolButton1", 0, 60, 480, 480, {}, {}, "icona:orecchio"},
     Posto{"ToolButton2", 525, 60, 480, 480, {}, {}, "icona:intervallo"},
     Posto{"ToolButton3", 1050, 60, 480, 480, {}, {}, "icona:accordo"},
@@ -36,78 +37,104 @@ constexpr std::array postiInto = {
     Posto{"ToolButton5", 2100, 60, 480, 480, {}, {}, "icona:tasti"},
     Posto{"ToolButton6", 2625, 60, 480, 480, {}, {}, "icona:strumenti"},
     Posto{"ToolButton7", 3150, 60, 480, 480, {}, {}, "icona:aiuto"},
-    Posto{"lblStep", 180, 1050, 8040, 600, {}, {}, "carta titolo centro mezzo"},
 
-    Posto{"Label2", 8430, 1050, 2580, 300, "Risposte esatte"},
-    Posto{"txtResatte", 8430, 1350, 1800, 450, "0", {}, "cifra giuste destra"},
-    Posto{"lblOk", 10380, 1380, 390, 390, {}, {}, "tondo"},
-    Posto{"Label1", 8430, 1920, 2580, 300, "Risposte errate"},
-    Posto{"txtRerrate", 8430, 2220, 1800, 450, "0", {}, "cifra sbagliate destra"},
-    Posto{"lblKo", 10380, 2250, 390, 390, {}, {}, "tondo"},
-    Posto{"lblPerc", 8430, 2790, 2580, 450, "0", "Percentuale", "percento centro"},
-    Posto{"cmdEsci", 8430, 5760, 2580, 600, "Esci", {}, "pulsante forte"},
+    Posto{"bgPunti", 8580, 2310, 3840, 3120, {}, {}, "carta"},
+    Posto{"Label2", 8790, 2490, 3420, 300, "Risposte esatte"},
+    Posto{"txtResatte",
+          8790,
+          2805,
+          2700,
+          540,
+          "0",
+          {},
+          "cifra riquadro giuste destra mezzo nome:Label2 nome:txtResatte"},
+    Posto{"lblOk", 11670, 2805, 540, 540, {}, {}, "tondo esito giuste nome:Label2"},
+    Posto{"Label1", 8790, 3480, 3420, 300, "Risposte errate"},
+    Posto{"txtRerrate",
+          8790,
+          3795,
+          2700,
+          540,
+          "0",
+          {},
+          "cifra riquadro sbagliate destra mezzo nome:Label1 nome:txtRerrate"},
+    Posto{"lblKo", 11670, 3795, 540, 540, {}, {}, "tondo esito sbagliate nome:Label1"},
+    Posto{"lblPerc", 8790, 4590, 3420, 600, "0", "Percentuale", "percento riquadro centro mezzo"},
+    Posto{"cmdEsci", 8580, 5610, 3840, 600, "Esci", {}, "pulsante forte"},
 
-    Posto{"frmInto2", 180, 3000, 8040, 3360, {}, {}, "carta"},
-    Posto{"Label6", 210, 210, 960, 480, "Modo", {}, "pulsante"},
-    Posto{"lblMod", 1290, 210, 600, 480, "/", {}, "pulsante"},
-    Posto{"lblSolotb", 2160, 210, 900, 660, {}, {}, "pulsante"},
-    Posto{"lblT1", 2400, 225, 150, 390},
-    Posto{"lblT2", 2670, 225, 150, 390},
-    Posto{"IntoStart", 210, 2550, 2490, 600, "Start", {}, "principale"},
-    Posto{"cmdReimposta", 2820, 2550, 1800, 600, "Reimposta"},
-    Posto{"frInto", 3600, 120, 4290, 900},
-    Posto{"lblRipInto", 60, 90, 1500, 480, "Ripeti", {}, "pulsante"},
-    Posto{"lblIntoSh", 1680, 90, 480, 480, "?", {}, "aiuto"},
-    Posto{"lblIntoNN", 2280, 90, 1200, 480, {}, {}, "nome centro"},
+    Posto{"frmInto2", 180, 2310, 8220, 3900, {}, {}, "carta"},
+    Posto{"Label6", 210, 720, 1200, 600, "Modo", {}, "pulsante"},
+    Posto{"lblMod", 1530, 720, 6480, 600, "/", {}, "detto"},
+    Posto{"lblSolotb", 1530, 1560, 6480, 600, {}, {}, "detto tastierina"},
+    Posto{"lblT1", 1835, 1650, 130, 250, {}, {}, "tastino"},
+    Posto{"lblT2", 2055, 1650, 130, 250, {}, {}, "tastino"},
+    Posto{"IntoStart", 210, 3090, 2490, 600, "Start", {}, "principale"},
+    Posto{"cmdReimposta", 6510, 3090, 1500, 600, "Reimposta"},
+    Posto{"frInto", 2820, 3000, 3660, 780},
+    Posto{"lblRipInto", 0, 90, 1500, 600, "Ripeti", {}, "pulsante"},
+    Posto{"lblIntoSh", 1620, 150, 480, 480, "?", {}, "aiuto"},
+    Posto{"lblIntoNN", 2220, 90, 1320, 600, {}, {}, "nome centro mezzo"},
 
-    Posto{"FrmIntervalli", 180, 3000, 8040, 3360, {}, {}, "carta"},
-    Posto{"Label5", 45, 420, 540, 420, "Semit.", {}, "piccolo mezzo"},
-    Posto{"Label7", 210, 1620, 960, 480, "Modo", {}, "pulsante"},
-    Posto{"lblModo", 1290, 1620, 900, 480, " : ", {}, "pulsante"},
-    Posto{"lblFv", 2310, 1620, 1500, 480, {}, {}, "pulsante"},
-    Posto{"IntRoot", 3930, 1620, 600, 480, {}, {}, "nome centro"},
-    Posto{"SelIntRoot", 4620, 1680, 3240, 360},
-    Posto{"frmRifVar", 3900, 1560, 4020, 600},
-    Posto{"lblRifInf", 0, 60, 600, 480, {}, {}, "pulsante"},
-    Posto{"RifInf", 630, 120, 1320, 360},
-    Posto{"lblRifSup", 2040, 60, 600, 480, {}, {}, "pulsante"},
-    Posto{"RifSup", 2670, 120, 1320, 360},
-    Posto{"CmdIntStart", 210, 2550, 2490, 600, "Start", {}, "principale"},
-    Posto{"lblRipInt", 2820, 2550, 1500, 600, "Ripeti", {}, "pulsante"},
-    Posto{"lblIntSh", 4440, 2610, 480, 480, "?", {}, "aiuto"},
-    Posto{"lblNi", 5040, 2610, 1200, 480, {}, {}, "nome centro"},
-    Posto{"lblNs", 6360, 2610, 1200, 480, {}, {}, "nome centro"},
+    Posto{"FrmIntervalli", 180, 2310, 8220, 3900, {}, {}, "carta"},
+    Posto{"Label5", 45, 495, 540, 480, "Semit.", {}, "piccolo mezzo centro"},
+    Posto{"Label7", 210, 1755, 1200, 510, "Modo", {}, "pulsante"},
+    Posto{"lblModo", 1530, 1755, 6480, 510, " : ", {}, "detto"},
+    Posto{"lblFv", 210, 2385, 1650, 510, {}, {}, "pulsante"},
+    Posto{"IntRoot", 1980, 2385, 960, 510, {}, {}, "nome centro mezzo"},
+    Posto{"SelIntRoot", 3060, 2460, 4950, 360, {}, {}, "nome:lblFv nome:IntRoot"},
+    Posto{"frmRifVar", 1980, 2325, 6030, 630},
+    Posto{"lblRifInf", 0, 60, 960, 510, {}, {}, "pulsante"},
+    Posto{"RifInf", 1080, 135, 1830, 360, {}, {}, "nome:lblFv nome:lblRifInf"},
+    Posto{"lblRifSup", 3120, 60, 960, 510, {}, {}, "pulsante"},
+    Posto{"RifSup", 4200, 135, 1830, 360, {}, {}, "nome:lblFv nome:lblRifSup"},
+    Posto{"CmdIntStart", 210, 3090, 2490, 600, "Start", {}, "principale"},
+    Posto{"lblRipInt", 2820, 3090, 1500, 600, "Ripeti", {}, "pulsante"},
+    Posto{"lblIntSh", 4440, 3150, 480, 480, "?", {}, "aiuto"},
+    Posto{"lblNi", 5040, 3090, 1320, 600, {}, {}, "nome centro mezzo"},
+    Posto{"lblNs", 6480, 3090, 1320, 600, {}, {}, "nome centro mezzo"},
 
-    Posto{"frmRacc", 180, 3000, 8040, 3360, {}, {}, "carta"},
-    Posto{"ComdRacStart", 210, 2550, 2490, 600, "Start", {}, "principale"},
-    Posto{"cmdRes", 2820, 2550, 1500, 600, "Reim", "Reimposta intervallo"},
-    Posto{"lblRipta", 4440, 2550, 1500, 600, "Ripeti", {}, "pulsante"},
-    Posto{"lblModoVt", 210, 1620, 960, 480, "Modo", {}, "pulsante"},
-    Posto{"lblVt", 1290, 1620, 1800, 480, {}, "Mostra tasti suonati", "pulsante"},
+    Posto{"frmRacc", 180, 2310, 8220, 3900, {}, {}, "carta"},
+    Posto{"ComdRacStart", 210, 3090, 2490, 600, "Start", {}, "principale"},
+    Posto{"cmdRes", 6510, 3090, 1500, 600, "Reim", "Reimposta intervallo"},
+    Posto{"lblRipta", 2820, 3090, 1500, 600, "Ripeti", {}, "pulsante"},
+    Posto{"lblModoVt", 210, 2070, 1860, 600, "Modo", {}, "pulsante"},
+    Posto{"lblVt", 2190, 2070, 1860, 600, {}, "Mostra tasti suonati", "pulsante"},
 
-    Posto{"frmRicTasto", 180, 3000, 8040, 3360, {}, {}, "carta"},
-    Posto{"lblSceltaTasti", 210, 300, 3600, 480, "Solo tasti bianchi",
-          "Clicca per cambiare la difficoltà dell'esercizio", "pulsante"},
-    Posto{"cmdRicTasto", 210, 2550, 2490, 600, "Start", {}, "principale"},
+    Posto{"frmRicTasto", 180, 2310, 8220, 3900, {}, {}, "carta"},
+    Posto{"lblSceltaTasti", 2190, 1170, 3840, 720, "Solo tasti bianchi",
+          "Clicca per cambiare la difficoltà dell'esercizio", "pulsante titolo"},
+    Posto{"cmdRicTasto", 210, 3090, 2490, 600, "Start", {}, "principale"},
 
-    Posto{"frmTo", 180, 3000, 8040, 3360, {}, {}, "carta"},
-    Posto{"Label9", 120, 90, 1800, 285, "Maggiore"},
-    Posto{"Label10", 120, 1260, 1800, 285, "Minore"},
-    Posto{"cmdT", 210, 2550, 2490, 600, "Start", {}, "principale"},
-    Posto{"lblRipeti", 2820, 2550, 1500, 600, "Ripeti", {}, "pulsante"},
-    Posto{"lblTsh", 4440, 2610, 480, 480, "?", "Mostra tonalità", "aiuto"},
+    Posto{"frmTo", 180, 2310, 8220, 3900, {}, {}, "carta"},
+    Posto{"Label9", 210, 120, 1800, 300, "Maggiore", {}, "forte mezzo"},
+    Posto{"Label10", 210, 1470, 1800, 300, "Minore", {}, "forte mezzo"},
+    Posto{"cmdT", 210, 3090, 2490, 600, "Start", {}, "principale"},
+    Posto{"lblRipeti", 2820, 3090, 1500, 600, "Ripeti", {}, "pulsante"},
+    Posto{"lblTsh", 4440, 3150, 480, 480, "?", "Mostra tonalità", "aiuto"},
 };
+
+// Its keys are as wide, all together, as what stands above and below them.
+constexpr Rettangolo postoTastieraInto{153, 800, 12311, 1426};
 
 constexpr Colore fondoPasso = Rgb(255, 255, 192), fondoModo = Rgb(255, 236, 200);
 constexpr Colore fondoRisposte = Rgb(224, 240, 255);
 constexpr Colore fondoMaggiori = Rgb(202, 247, 247), fondoMinori = Rgb(218, 255, 218);
 
-void PoniIn(Controllo& controllo, int left, int top, int width, int height, const char* stile) {
-    controllo.Left = left;
-    controllo.Top = top;
-    controllo.Width = width;
-    controllo.Height = height;
+void PoniIn(Controllo& controllo, const Rettangolo& posto, const std::string& stile) {
+    controllo.Left = posto.left;
+    controllo.Top = posto.top;
+    controllo.Width = posto.width;
+    controllo.Height = posto.height;
     controllo.stile = stile;
+}
+
+/// An answer, and the strip that says whether it may be asked: the one bears the other's name.
+void PoniCoppia(Etichetta& risposta, Etichetta& striscia, const Rettangolo& posto, int sopra,
+                const std::string& griglia) {
+    constexpr int alta = 210;
+    PoniIn(risposta, posto, "risposta pulsante griglia:" + griglia);
+    PoniIn(striscia, {posto.left, posto.top + sopra, posto.width, alta},
+           "ammissione griglia:" + griglia + " nome:" + risposta.Name);
 }
 
 /// A grid of columns, one for each number of semitones.
@@ -116,35 +143,35 @@ void DisponiGriglia(PaginaIntervalli& pagina) {
     const auto posto = [](int semitoni) { return sinistra + semitoni * colonna; };
     for (int n = 0; n < dimensioniIntervallo; ++n) {
         const auto quale = static_cast<std::size_t>(n);
-        PoniIn(pagina.LblSemi[quale], posto(n), 420, larga, 420, "risposta pulsante");
-        PoniIn(pagina.Il[quale], posto(n), 870, larga, 105, "tondo");
+        PoniCoppia(pagina.LblSemi[quale], pagina.Il[quale], {posto(n), 495, larga, 480}, 510,
+                   "semitoni");
         pagina.LblSemi[quale].BackColor = fondoRisposte;
     }
     for (std::size_t i = 0; i < nomiIntervalli.size(); ++i) {
         const NomeIntervallo& nome = nomiIntervalli.at(i);
-        PoniIn(pagina.Label4[i], posto(nome.semitoni) - 15, nome.sopra ? 105 : 1020, colonna, 285,
-               "piccolo centro tondo");
+        PoniIn(pagina.Label4[i],
+               {posto(nome.semitoni) - 12, nome.sopra ? 180 : 1245, colonna - 6, 285},
+               nome.consonante ? "piccolo centro mezzo tondo sottolineato"
+                               : "piccolo centro mezzo tondo");
     }
     pagina.lblIntSh.BackColor = fondoRisposte;
 }
 
 void DisponiTipi(PaginaAccordi& pagina, Colore neutro) {
-    constexpr int colonna = 1650, larga = 1500;
+    constexpr int colonna = 1980, larga = 1860, alta = 840;
     for (std::size_t i = 0; i < pagina.TipoAcc.size(); ++i) {
-        const int sinistra = 210 + static_cast<int>(i) * colonna;
-        PoniIn(pagina.TipoAcc[i], sinistra, 240, larga, 600, "risposta pulsante");
-        PoniIn(pagina.EsclTa[i], sinistra, 870, larga, 105, "tondo");
+        PoniCoppia(pagina.TipoAcc[i], pagina.EsclTa[i],
+                   {210 + static_cast<int>(i) * colonna, 450, larga, alta}, alta + 30, "accordi");
         pagina.TipoAcc[i].BackColor = neutro;
     }
 }
 
 void DisponiCelle(PaginaTonalita& pagina) {
-    constexpr int colonna = 645, larga = 600;
+    constexpr int sinistra = 210, colonna = 654, larga = 606;
     for (std::size_t i = 0; i < corvana::tonalita; ++i) {
-        const int sinistra = 150 + static_cast<int>(i % tonalitaMaggiori) * colonna;
-        const int sopra = Maggiore(i) ? 375 : 1545;
-        PoniIn(pagina.lblT[i], sinistra, sopra, larga, 105, "tondo");
-        PoniIn(pagina.T[i], sinistra, sopra + 135, larga, 600, "risposta pulsante");
+        const int qui = sinistra + static_cast<int>(i % tonalitaMaggiori) * colonna;
+        PoniCoppia(pagina.T[i], pagina.lblT[i], {qui, Maggiore(i) ? 660 : 2010, larga, 660}, -240,
+                   "tonalita");
         pagina.T[i].BackColor = Maggiore(i) ? fondoMaggiori : fondoMinori;
     }
 }
@@ -154,6 +181,7 @@ void DisponiCelle(PaginaTonalita& pagina) {
 void DisponiInto(frmInto& f) {
     Disponi(f, postiMenu.data(), postiMenu.size());
     Disponi(f, postiInto.data(), postiInto.size());
+    f.telaio.tastiera.PonPosto(postoTastieraInto);
     f.telaio.lblStep.BackColor = fondoPasso;
     f.intonazione.Label6.BackColor = fondoModo;
     for (Bottone* start : {&f.intonazione.IntoStart, &f.intervalli.CmdIntStart,

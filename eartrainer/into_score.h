@@ -16,6 +16,7 @@ private:
     Form& finestra_;
 
 public:
+    Figura bgPunti{finestra_, "bgPunti"};  ///< on which they lie
     Etichetta Label2{finestra_, "Label2"}, txtResatte{finestra_, "txtResatte"};
     Etichetta Label1{finestra_, "Label1"}, txtRerrate{finestra_, "txtRerrate"};
     Etichetta lblPerc{finestra_, "lblPerc"};

@@ -58,7 +58,7 @@ public:
     Proprieta<&Valori::Sfondo> Sfondo{*this};
     Proprieta<&Valori::Ascolti> Ascolti{*this};
     Gestore<> Click{*this, ascoltaClick};
-    Gestore<> DblClick{*this};
+    Gestore<> DblClick{*this, ascoltaDoppio};
     Gestore<> Change{*this};
     Gestore<> Scroll{*this};
     Gestore<> Invio{*this};

@@ -40,6 +40,7 @@ constexpr int puntatoreAttesa = 11;
 constexpr int ascoltaClick = 1;
 constexpr int ascoltaPressione = 2;
 constexpr int ascoltaMossa = 4;
+constexpr int ascoltaDoppio = 8;
 
 /// A band of colour painted on a control: see `Gradiente`.
 struct Sfumatura {

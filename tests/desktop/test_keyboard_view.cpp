@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QPaintEvent>
 #include <QTest>
 #include <QWindow>
 
@@ -73,8 +74,9 @@ TEST_P(OgniTasto, IsHitWhereverItIsSeen) {
             ASSERT_EQ(nome.toStdString(), "lb" + std::to_string(tasto)) << x << ", " << y;
         }
     for (int tasto = 0; tasto < 60; ++tasto) {
-        // In designed pixels: what is flat of a key of 14 x 43, less the black keys, or of 9 x 22.
-        const double minimo = (Nero(tasto) ? 90 : 300) * GetParam() * GetParam();
+        // In designed pixels: what is flat of a key of 14 x 43, less the black keys, or of 9 x 22;
+        // less the dot on a lit one.
+        const double minimo = (Nero(tasto) ? 80 : 300) * GetParam() * GetParam();
         EXPECT_GT(punti.at(static_cast<std::size_t>(tasto)), minimo) << tasto;
     }
 }
@@ -90,6 +92,57 @@ TEST_P(OgniTasto, TellsItsOwnMouseEvents) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Grande, OgniTasto, testing::ValuesIn(scale));
+
+TEST(TastieraSulloSchermo, OnAWiderPictureItIsHitAndPaintedAsFarAsItReaches) {
+    PalcoTastiera palco;
+    const QRect prima = palco.Tasto(59).rect();
+    palco.NellaLogica([](FormTastiera& form) {
+        const Figura& figura = form.tastiera.figura;
+        form.tastiera.PonPosto({figura.Left, 0, figura.Width * 7 / 10, figura.Height * 7 / 10});
+    });
+    const Cosa ultimo = palco.Tasto(59);
+    EXPECT_NEAR(ultimo.width(), 0.7 * prima.width(), 1.1);
+    EXPECT_NEAR(ultimo.height(), 0.7 * prima.height(), 1.1);
+    Clicca(ultimo, {ultimo.width() - 2, ultimo.height() - 2});
+    EXPECT_EQ(palco.Diario().back(), "lb59 click");
+    palco.NellaLogica([](FormTastiera& form) { Accendi(form.tastiera.lb[59], true); });
+    EXPECT_EQ(Fotografa(ultimo).pixelColor(ultimo.width() / 2, ultimo.height() - 5), acceso);
+}
+
+/// Notes what a widget is asked to paint.
+class Ridipinto final : public QObject {
+public:
+    explicit Ridipinto(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* evento) override {
+        if (evento->type() == QEvent::Paint) tutto += static_cast<QPaintEvent*>(evento)->region();
+        return false;
+    }
+    QRegion tutto;
+};
+
+TEST(TastieraSulloSchermo, AKeyThatIsLitRepaintsNothingButItself) {
+    PalcoTastiera palco;
+    const Cosa accanto = Trova(palco.scrivania, "accanto");
+    for (const int tasto : {24, 25}) {
+        // What was asked for before is painted first.
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+        const Cosa suo = palco.Tasto(tasto);
+        QWidget& faccia = suo.Suolo();
+        Ridipinto ridipinto(faccia);
+        palco.NellaLogica([=](FormTastiera& form) {
+            Accendi(form.tastiera.lb[static_cast<std::size_t>(tasto)], true);
+        });
+        ASSERT_TRUE(Aspetta([&] { return !ridipinto.tutto.isEmpty(); }));
+        const auto posto = [&faccia](const Cosa& cosa) {
+            return QRect(faccia.mapFrom(faccia.window(), cosa.NellaFinestra({})),
+                         cosa.rect().size());
+        };
+        // A black key throws a shadow. The button beside it serves the test.
+        const QRegion suoi = QRegion(posto(suo).adjusted(0, 0, 3, 4)) + posto(accanto);
+        EXPECT_TRUE((ridipinto.tutto - suoi).isEmpty()) << tasto;
+    }
+}
 
 TEST(TastieraSulloSchermo, ABlackKeyIsHitBeforeTheWhiteOneBeneathIt) {
     PalcoTastiera palco;
@@ -208,7 +261,7 @@ TEST(TastieraSulloSchermo, AScreenReaderFindsEachKeyByItsNoteAndOctave) {
     EXPECT_EQ(la->parent(), tastiera);
     EXPECT_EQ(la->rect().size(), palco.Tasto(33).rect().size());
     la->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_EQ(palco.Diario(), (Righe{"lb33 click"}));
+    EXPECT_EQ(palco.Diario(), (Righe{"lb33 giu", "lb33 su", "lb33 click"}));
 }
 
 TEST(TastieraSulloSchermo, TheFaceTellsAScreenReaderWhichKeyHasTheFocus) {

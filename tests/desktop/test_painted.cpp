@@ -52,9 +52,9 @@ TEST(Figura, MovesOverItAreItsOwnAndElsewhereTheWindows) {
 }
 
 TEST(Figura, EveryIconOfTheProgramIsADrawingOfItsOwn) {
-    for (const char* nome : {"orecchio", "composer", "metronomo", "promemoria", "strumenti", "modo",
-                             "aiuto", "prova", "corvana", "messaggio", "domanda",
-                             "intervallo", "accordo", "tonalita", "tasti"}) {
+    for (const char* nome :
+         {"orecchio", "composer", "metronomo", "promemoria", "strumenti", "modo", "aiuto", "prova",
+          "corvana", "messaggio", "domanda", "intervallo", "accordo", "tonalita", "tasti"}) {
         QSvgRenderer disegno(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(nome)));
         EXPECT_TRUE(disegno.isValid()) << nome;
         EXPECT_EQ(disegno.viewBox(), QRect(0, 0, 32, 32)) << nome;

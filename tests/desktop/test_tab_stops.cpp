@@ -44,11 +44,15 @@ void ControllaFermata(const Cosa& fermata) {
     EXPECT_TRUE(fermata.isVisible()) << nome;
     EXPECT_TRUE(Scoperto(fermata)) << nome << " lies behind something";
     EXPECT_TRUE(MostraIlFuoco(fermata)) << nome << " doesn't show the focus";
-    const auto* accessibile = fermata.PerLettore();
+    // Of those that share a stop, the one that the keyboard would press.
+    const auto* dipinta = dynamic_cast<const VistaDipinta*>(&fermata.LaVista());
+    const Cosa scelta(const_cast<Vista&>(dipinta ? static_cast<const Vista&>(dipinta->DovEIlFuoco())
+                                                 : fermata.LaVista()));
+    const auto* accessibile = scelta.PerLettore();
     ASSERT_TRUE(accessibile) << nome;
     EXPECT_FALSE(accessibile->text(QAccessible::Name).trimmed().isEmpty()) << nome;
     EXPECT_TRUE(accessibile->state().focused) << nome;
-    EXPECT_EQ(accessibile->rect().size(), fermata.rect().size()) << nome;
+    EXPECT_EQ(accessibile->rect().size(), scelta.rect().size()) << nome;
 }
 
 /// The control that has the keyboard, or null.
@@ -133,6 +137,38 @@ TEST(Fermate, InTheWindowsAboveAllAreSeenNamedAndShowTheFocus) {
     percorri({"lblA", "lblB1", "lblC", "InstrA", "InstrB1", "InstrC", "txtPattern", "txtTempo",
               "seqPreset", "cmdTest", "cmdOk"});
 }
+
+struct PaginaPercorsa {
+    const char* voce;
+    QStringList attese;
+};
+
+class FermateOrecchio : public testing::TestWithParam<PaginaPercorsa> {};
+
+TEST_P(FermateOrecchio, AreSeenNamedAndShowTheFocusOnEveryPage) {
+    PalcoProgramma programma(QStringLiteral(CORVANA_DATA));
+    Scrivania& s = programma.scrivania;
+    Apri(s, GetParam().voce, "frmInto");
+    const QStringList fermate = Percorri(s);
+    const QString tutte = fermate.join(QLatin1Char(' '));
+    for (const QString& nome : GetParam().attese + QStringList{"img2", "cmdEsci", "ToolButton2"})
+        EXPECT_TRUE(fermate.contains(nome))
+            << nome.toStdString() << " not in " << tutte.toStdString();
+    // What belongs together is one stop.
+    for (const char* nome : {"LblSemi1", "Il13", "TipoAcc3", "T23", "lblT1", "lb24", "Lbdoc"})
+        EXPECT_FALSE(fermate.contains(QLatin1String(nome))) << nome;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Pagine, FermateOrecchio,
+    testing::Values(PaginaPercorsa{"Intonazione", {"Label6", "lblMod", "lblSolotb", "IntoStart"}},
+                    PaginaPercorsa{"mnuRint",
+                                   {"LblSemi0", "Label7", "lblModo", "lblFv", "SelIntRoot",
+                                    "CmdIntStart", "lblRipInt", "lblIntSh"}},
+                    PaginaPercorsa{"mnuRac", {"TipoAcc0", "lblModoVt", "lblVt", "lblRipta"}},
+                    PaginaPercorsa{"mnuRicTasto", {"lblSceltaTasti", "cmdRicTasto"}},
+                    PaginaPercorsa{"mnuRicTo", {"lblT(0)", "cmdT", "lblRipeti", "lblTsh"}}),
+    [](const auto& pagina) { return std::string(pagina.param.voce); });
 
 TEST(Fermate, AControlIsNamedByItsLabelInTheLanguageOfTheMoment) {
     PalcoProgramma programma(QStringLiteral(CORVANA_DATA));

@@ -8,6 +8,8 @@
 #include "core/language.h"
 #include "desktop/aspect.h"
 #include "desktop/theme.h"
+#include "eartrainer/into.h"
+#include "eartrainer/into_rows.h"
 #include "metronome/conf_metro.h"
 #include "metronome/conf_metro_rows.h"
 #include "tests/program/program_rig.h"
@@ -50,6 +52,16 @@ void ControllaTesto(const Controllo& c, const std::string& testo) {
     EXPECT_LE(disegnato.height(), posto.height() + aria) << c.Name << ": " << testo;
 }
 
+/// What is only read gets smaller letters where it must, but none that can't be read.
+void ControllaCasella(const Casella& c) {
+    constexpr int minima = 11;
+    constexpr double bordi = 20;
+    QFont font = Carattere(Parole(c.stile), 1);
+    font.setPixelSize(minima);
+    const double lungo = QFontMetricsF(font).horizontalAdvance(InQt(c.Text).trimmed());
+    EXPECT_LE(lungo, Misura(c).width() - bordi) << c.Name << ": " << c.Text();
+}
+
 void ControllaRighe(const Lista& lista) {
     const QFontMetricsF lettere(Carattere(Parole(lista.stile), 1));
     for (const std::string& riga : lista.List())
@@ -59,11 +71,16 @@ void ControllaRighe(const Lista& lista) {
 void ControllaFinestra(const Form& finestra) {
     for (const Controllo* c : finestra.Controlli()) {
         if (const auto* scritta = dynamic_cast<const ConCaption*>(c); scritta && c->Width > 0) {
-            if (!Parole(c->stile).contains(QLatin1String("colonne")))
+            // The names of keys are said, not written.
+            const QStringList parole = Parole(c->stile);
+            if (!parole.contains(QLatin1String("colonne")) &&
+                !parole.contains(QLatin1String("tasto")))
                 ControllaTesto(*c, scritta->Caption);
-        } else if (const auto* casella = dynamic_cast<const Casella*>(c);
-                   casella && c->stile == "spiegazione") {
-            ControllaTesto(*c, casella->Text);
+        } else if (const auto* casella = dynamic_cast<const Casella*>(c)) {
+            if (c->stile == "spiegazione")
+                ControllaTesto(*c, casella->Text);
+            else if (casella->Locked)
+                ControllaCasella(*casella);
         } else if (const auto* lista = dynamic_cast<const Lista*>(c)) {
             ControllaRighe(*lista);
         }
@@ -107,6 +124,52 @@ TEST_P(TestiNeiControlli, FitInTheReferenceChart) {
     frmOptions finestra{b.Tutto()};
     UpdateString(b.Tutto(), finestra, BersagliOptions());
     ControllaFinestra(finestra);
+}
+
+/// In the letters and the place that a button with its tool tip beside its sign leaves them.
+void ControllaDetto(const Controllo& c) {
+    constexpr double altroDalTesto = 76;
+    const double lungo = QFontMetricsF(Carattere({}, 1)).horizontalAdvance(InQt(c.ToolTipText()));
+    EXPECT_LE(lungo, Misura(c).width() - altroDalTesto) << c.Name << ": " << c.ToolTipText();
+}
+
+TEST_P(TestiNeiControlli, FitInTheEarTrainerWhateverItSays) {
+    BancoTesti b(GetParam());
+    frmInto f{b.Tutto(), {}};
+    UpdateString(b.Tutto(), f, BersagliInto());
+    const TestiLingua& t = b.globali.testi;
+    for (const bool anglo : {false, true}) {
+        f.tonalita.ScriviNomi(anglo);
+        for (Etichetta* nome :
+             {&f.intonazione.lblIntoNN, &f.intervalli.lblNi, &f.intervalli.lblNs,
+              &f.intervalli.IntRoot, &f.intervalli.lblRifInf, &f.intervalli.lblRifSup})
+            nome->Caption = anglo ? "G#" : "Sol#";
+        f.telaio.punti.txtResatte.Caption = "10000";
+        f.telaio.punti.txtRerrate.Caption = "10000";
+        f.telaio.punti.lblPerc.Caption = "100.00%";
+        for (const auto& [etichetta, scritte] :
+             {std::pair<Etichetta*, Righe>{&f.intervalli.lblFv, {t.capRifFisso, t.capRifVariabile}},
+              {&f.intervalli.lblModo, {" / : "}},
+              {&f.accordi.lblVt, {t.capMostraTasti, t.capNascondiTasti}},
+              {&f.tasti.lblSceltaTasti, {t.capSoloBianchi, t.capTuttiTasti}},
+              {&f.telaio.lblStep,
+               {t.msgPrimoLimite, t.msgSecondoLimite, t.msgScegliRif, t.msgAscolta, t.msgFermato,
+                t.msgInt, t.msgAcc, t.msgPremiStart,
+                t.msgTastoPrima + (anglo ? "G#" : "Solb") + t.msgTastoDopo}}})
+            for (const std::string& scritta : scritte) {
+                etichetta->Caption = scritta;
+                ControllaFinestra(f);
+            }
+    }
+    for (const auto& [detta, consigli] :
+         {std::pair<Etichetta*, Righe>{&f.intonazione.lblMod, {t.ttRifSi, t.ttRifNo}},
+          {&f.intonazione.lblSolotb, {t.capSoloBianchi, t.capTuttiTasti}},
+          {&f.intervalli.lblModo, {t.ttMelodico, t.ttMisto, t.ttArmonico}}})
+        for (const std::string& consiglio : consigli) {
+            ASSERT_FALSE(consiglio.empty());
+            detta->ToolTipText = consiglio;
+            ControllaDetto(*detta);
+        }
 }
 
 TEST_P(TestiNeiControlli, FitInTheAboutBox) {
