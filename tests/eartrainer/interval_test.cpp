@@ -199,17 +199,22 @@ TEST(Intervalli, OnlyADoubleClickOnTheFirstStripSwitchesThemAllAndReachesSize0) 
 TEST(Intervalli, WithSize0AdmittedBothNotesAreOneAnd0IsARightAnswer) {
     BancoIntervalli b;
     b.Fa(1, Fatto::DblClick, "Il0");
-    for (const int semitoni : {0, 0})
+    for (const int semitoni : {0, 0, 5})
         b.Chiedi(semitoni);
     b.Modo(1, 3);
     b.Clicca(2, "CmdIntStart");
     b.Clicca(2.5, "lblIntSh");
     b.Quando(2.7, [&] { EXPECT_EQ(b.Fondo("LblSemi0"), Rgb(255, 255, 255)); });
     b.Clicca(3, "LblSemi0");
-    b.Vai(4);
-    EXPECT_EQ(b.Punti(), "1 0 100.00%");
-    EXPECT_EQ(b.Note(3), (Suonati{"0.0 60 0", "0.0 60 0", "0.0 60 90", "0.0 60 90"}));
-    EXPECT_EQ(b.Accesi(), std::vector{24});
+    b.Quando(3.5, [&] {
+        EXPECT_EQ(b.Punti(), "1 0 100.00%");
+        EXPECT_EQ(b.Note(3), (Suonati{"0.0 60 0", "0.0 60 0", "0.0 60 90", "0.0 60 90"}));
+        EXPECT_EQ(b.Accesi(), std::vector{24});
+    });
+    b.Clicca(4, "LblSemi0");
+    b.Vai(5);
+    EXPECT_EQ(b.Fondo("LblSemi0"), b.Fondo("lblIntSh")) << "restored by the distance of the last";
+    EXPECT_EQ(b.Note(4), (Suonati{"0.0 60 0", "0.0 60 0", "0.0 60 90", "0.0 65 90"}));
 }
 
 TEST(Intervalli, ANewEntryBringsTheThreeSizesBack) {

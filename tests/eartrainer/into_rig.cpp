@@ -1,6 +1,7 @@
 #include "tests/eartrainer/into_rig.h"
 
 #include <array>
+#include <cmath>
 #include <cstdio>
 
 namespace corvana::prova {
@@ -42,6 +43,16 @@ void PonTestiInto(TestiLingua& t) {
     t.capNascondiTasti = "nascondi";
     t.capSoloBianchi = "solo bianchi";
     t.capTuttiTasti = "tutti";
+}
+
+/// In seconds, to the tenth where it is a whole one, else as finely as a difference could matter.
+std::string Istante(double secondi) {
+    const double decimi = std::round(secondi * 10);
+    std::array<char, 32> testo{};
+    const bool tondo = std::fabs(secondi * 10 - decimi) < 1e-6;
+    std::snprintf(testo.data(), testo.size(), tondo ? "%.1f" : "%.6f",
+                  tondo ? std::fabs(decimi) / 10 : secondi);
+    return testo.data();
 }
 
 std::vector<int> QualiAccesi(const std::deque<Etichetta>& etichette) {
@@ -90,12 +101,25 @@ Suonati BancoInto::Note(double da) const {
     Suonati note;
     for (const auto& [istante, messaggio] : uscita.messaggi) {
         if ((messaggio & 0xFFU) != 0x90 || istante < da - 1e-9) continue;
-        std::array<char, 48> riga{};
-        std::snprintf(riga.data(), riga.size(), "%.1f %u %u", istante - da + 1e-9,
-                      (messaggio >> 8U) & 0xFFU, messaggio >> 16U);
-        note.emplace_back(riga.data());
+        note.push_back(Istante(istante - da) + " " + std::to_string((messaggio >> 8U) & 0xFFU) +
+                       " " + std::to_string(messaggio >> 16U));
     }
     return note;
+}
+
+Suonati BancoInto::Messaggi() const {
+    Suonati tutti;
+    for (const auto& [istante, messaggio] : uscita.messaggi) {
+        const unsigned stato = messaggio & 0xFFU;
+        const std::string dato = std::to_string((messaggio >> 8U) & 0xFFU);
+        const unsigned velocita = messaggio >> 16U;
+        const std::string che = stato == 0xC0   ? "program " + dato
+                                : stato != 0x90 ? "status " + std::to_string(stato)
+                                : velocita == 0 ? "off " + dato
+                                                : "on " + dato + " " + std::to_string(velocita);
+        tutti.push_back(Istante(istante) + " " + che);
+    }
+    return tutti;
 }
 
 std::vector<int> BancoInto::Programmi() const {

@@ -39,6 +39,8 @@ struct BancoInto : Banco {
 
     /// Note messages of channel 1 from an instant on, as "seconds note velocity", counted from it.
     Suonati Note(double da = 0) const;
+    /// All messages, as "seconds on note velocity", "seconds off note", "seconds program number".
+    Suonati Messaggi() const;
     std::vector<int> Programmi() const;
     std::vector<int> Accesi() const;   ///< keys
     std::vector<int> Segnati() const;  ///< marks

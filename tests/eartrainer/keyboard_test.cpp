@@ -109,6 +109,26 @@ TEST(TastieraInto, TheKeysThatComeAsEventsSoundAndLightWhileTheyAreHeld) {
     }
 }
 
+TEST(TastieraInto, AReleaseOfSuchAKeySendsItsNoteOffAlsoWhenNothingWasStruck) {
+    BancoInto b{P::Intervalli};
+    b.Lascia(1, vk::virgola);
+    b.Vai(2);
+    EXPECT_EQ(b.Note(1), Suonati{"0.0 60 0"});
+}
+
+TEST(TastieraInto, BackspaceHeldStrikesAtEachRepetitionAndIsSilentWhileTheCommaIsHeld) {
+    BancoInto b{P::Intervalli};
+    for (const double t : {1.0, 1.5, 1.6, 1.7})
+        b.Premi(t, vk::back);
+    b.Lascia(2, vk::back);
+    b.Premi(3, vk::virgola);
+    b.Premi(3.5, vk::virgola);
+    b.Premi(4, vk::back);
+    b.Vai(5);
+    EXPECT_EQ(b.Note(1), (Suonati{"0.0 80 90", "0.5 80 90", "0.6 80 90", "0.7 80 90", "1.0 80 0",
+                                  "2.0 60 90"}));
+}
+
 TEST(TastieraInto, InTheHighestOctaveTheHighestKeyIs92) {
     BancoInto b{P::Accordi};
     b.Fa(1, Fatto::DblClick, "lblPerc");
