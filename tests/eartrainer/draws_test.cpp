@@ -34,11 +34,22 @@ struct BancoEstrazioni : BancoInto {
     std::map<std::string, int> conti;
     /// Does it so often, at the window's rest.
     void Conta(const std::function<std::string()>& estrae) {
-        Quando(1, [this, estrae] {
+        Quando(8, [this, estrae] {
             for (int i = 0; i < estrazioni; ++i)
                 ++conti[estrae()];
         });
         Vai(1e6);
+    }
+    /// What comes when the right answer is given so often.
+    void ContaRisposte(const std::function<void()>& risponde,
+                       const std::function<std::string()>& chiesto) {
+        Conta([&] {
+            risponde();
+            uscita.messaggi.clear();
+            if (finestra.telaio.punti.txtResatte.Caption() == "32767")
+                finestra.telaio.punti.Azzera();
+            return chiesto();
+        });
     }
 };
 
@@ -56,11 +67,24 @@ TEST(Estrazioni, OfPitchEachKeyOfTheRangeAndOfTheWhiteOnesAloneEachOfThose) {
 
 TEST(Estrazioni, OfIntervalsEachSizeThatIsAdmitted) {
     BancoEstrazioni b(PaginaInto::Intervalli);
-    b.Conta([&] {
-        return std::to_string(EstraiAmmesso(
-            b.chance, 14, [&](std::size_t n) { return !b.finestra.intervalli.IntEscluso.at(n); }));
-    });
+    for (const char* nome : {"lblModo", "lblModo", "lblModo", "CmdIntStart"})
+        b.Clicca(0.5, nome);
+    PaginaIntervalli& pagina = b.finestra.intervalli;
+    b.ContaRisposte([&] { pagina.LblSemi_Click(pagina.IntSemitoni); },
+                    [&] { return std::to_string(pagina.IntSemitoni); });
     Controlla(b.conti, {{"3", 1}, {"4", 1}, {"7", 1}});
+}
+
+TEST(Estrazioni, OfIntervalsOnAVariableRootEachRootOfItsRange) {
+    BancoEstrazioni b(PaginaInto::Intervalli);
+    b.Clicca(0.1, "lblFv");
+    b.Fa(0.1, Fatto::Change, "RifInf", 58);
+    for (const char* nome : {"lblModo", "lblModo", "lblModo", "CmdIntStart"})
+        b.Clicca(0.5, nome);
+    PaginaIntervalli& pagina = b.finestra.intervalli;
+    b.ContaRisposte([&] { pagina.LblSemi_Click(pagina.IntSemitoni); },
+                    [&] { return std::to_string(pagina.IntRadice); });
+    Controlla(b.conti, {{"-2", 1}, {"-1", 1}, {"0", 1}});
 }
 
 TEST(Estrazioni, OfChordsEachTypeThatIsAdmittedOnEachRoot) {
@@ -69,13 +93,9 @@ TEST(Estrazioni, OfChordsEachTypeThatIsAdmittedOnEachRoot) {
     b.Tasto(0.4, 11);
     b.Clicca(0.5, "EsclTa2");
     b.Clicca(0.6, "ComdRacStart");
-    b.Conta([&] {
-        b.finestra.accordi.TipoAcc_Click(b.into.AccTipo);
-        b.uscita.messaggi.clear();
-        if (b.finestra.telaio.punti.txtResatte.Caption() == "32767")
-            b.finestra.telaio.punti.Azzera();
-        return std::to_string(b.into.AccTipo) + " " + std::to_string(b.into.AccNota[0]);
-    });
+    b.ContaRisposte(
+        [&] { b.finestra.accordi.TipoAcc_Click(b.into.AccTipo); },
+        [&] { return std::to_string(b.into.AccTipo) + " " + std::to_string(b.into.AccNota[0]); });
     Controlla(b.conti,
               {{"0 46", 1}, {"0 47", 1}, {"1 46", 1}, {"1 47", 1}, {"3 46", 1}, {"3 47", 1}});
 }
@@ -84,13 +104,9 @@ TEST(Estrazioni, OfKeysEachSpellingSoThatABlackKeyWithTwoComesTwiceAsOften) {
     BancoEstrazioni b(PaginaInto::Tasti);
     b.Clicca(0.2, "lblSceltaTasti");
     b.Clicca(0.4, "cmdRicTasto");
-    b.Conta([&] {
-        b.finestra.tasti.Tasto(static_cast<std::int16_t>(b.finestra.telaio.NotaRif - 36));
-        b.uscita.messaggi.clear();
-        if (b.finestra.telaio.punti.txtResatte.Caption() == "32767")
-            b.finestra.telaio.punti.Azzera();
-        return std::to_string(b.finestra.telaio.NotaRif);
-    });
+    const auto nota = [&] { return b.finestra.telaio.NotaRif; };
+    b.ContaRisposte([&] { b.finestra.tasti.Tasto(static_cast<std::int16_t>(nota() - 36)); },
+                    [&] { return std::to_string(nota()); });
     Controlla(b.conti, {{"59", 1},
                         {"60", 1},
                         {"61", 2},
@@ -109,10 +125,10 @@ TEST(Estrazioni, OfKeysEachSpellingSoThatABlackKeyWithTwoComesTwiceAsOften) {
 
 TEST(Estrazioni, OfTonalitiesEachKeyThatIsAdmitted) {
     BancoEstrazioni b(PaginaInto::Tonalita);
-    b.Conta([&] {
-        return std::to_string(EstraiAmmesso(
-            b.chance, 24, [&](std::size_t i) { return b.finestra.tonalita.ToAmmessa.at(i); }));
-    });
+    b.Clicca(0.5, "cmdT");
+    PaginaTonalita& pagina = b.finestra.tonalita;
+    b.ContaRisposte([&] { pagina.T_Click(pagina.ToIndice); },
+                    [&] { return std::to_string(pagina.ToIndice); });
     Controlla(b.conti,
               {{"0", 1}, {"2", 1}, {"5", 1}, {"7", 1}, {"12", 1}, {"14", 1}, {"16", 1}, {"19", 1}});
 }
