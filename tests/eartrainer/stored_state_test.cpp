@@ -74,6 +74,11 @@ TEST(LeggiStatoInto, NoFieldOrOneIsNothing) {
     EXPECT_EQ(LeggiStatoInto("rubbish"), std::nullopt);
 }
 
+TEST(LeggiStatoInto, FieldsBehindTheSixthAreNothing) {
+    EXPECT_EQ(LeggiStatoInto("7;44;60;1;True;19;x;"),
+              (StatoMemorizzato{7, 44, 60, true, true, 19}));
+}
+
 TEST(LeggiStatoInto, WhatWasEditedByHandIsAFault) {
     for (const char* testo : {"24;36", "24;36;69;0;False", ";", ";;;;"})
         EXPECT_EQ(GuastoDi(testo), guastoIndice) << testo;
