@@ -19,12 +19,13 @@ frmComposer::frmComposer(const Ambiente& ambiente, VicineComposer vicine)
       riferimenti(ambiente, *this, stato.melodia),
       tasti(ambiente, *this, stato),
       regolo(ambiente, *this, stato),
-      inserimento(*this, stato.inserimento),
-      modifica(ambiente, *this, stato),
+      inserimento(ambiente, *this, stato, AttornoAllInserimento()),
+      modifica(ambiente, *this, stato, AttornoAllaModifica()),
       a_(ambiente),
       vicine_(std::move(vicine)) {
     DisponiComposer(*this);
     CollegaMenu();
+    modifica.cmdReset.Click = [this] { cmdReset_Click(); };
 }
 
 VicinePlay frmComposer::AttornoAlPlay() {
@@ -44,6 +45,37 @@ VicinePlay frmComposer::AttornoAlPlay() {
             [this] {
                 if (vicine_.finePlayDaPicker) vicine_.finePlayDaPicker();
             }};
+}
+
+VicineInserimento frmComposer::AttornoAllInserimento() {
+    return {tasti.lb,
+            [this](int tasto, bool acceso) { tasti.MostraTasto(tasto, acceso); },
+            [this](int tasto) { tasti.tastoCorrente = static_cast<std::int16_t>(tasto); },
+            [this] { VoceCambiata(); },
+            [this] { modifica.cmdPaste.Enabled = true; },
+            [this] { play.cmdPlay.SetFocus(); }};
+}
+
+VicineModifica frmComposer::AttornoAllaModifica() {
+    return {[this] { VoceCambiata(); },
+            [this] { voci.TogliNota(); },
+            [this]() -> Casella& { return voci.perVoce[stato.melodia.IndiceAttiva()].prima; },
+            [this]() -> Casella& { return voci.perVoce[stato.melodia.IndiceAttiva()].ultima; },
+            [this] { voci.MostraSopranoIntero(); },
+            [this] { riferimenti.lstBookMark.Clear(); },
+            [this] { pulsi.Spegni(); },
+            [this] { play.chekLoop.Value = false; },
+            [this] { inserimento.AzzeraAttributi(); },
+            [this] { inserimento.NascondiAccento(); },
+            [this] { inserimento.cmdInsNota.SetFocus(); },
+            [this](const bool& soloNota) {
+                play.SuonaMelodia(stato.passo.IndiceNotaPP, stato.passo.IndiceNotaPP, soloNota);
+            }};
+}
+
+void frmComposer::VoceCambiata() {
+    voci.AggiornaVoce();
+    voci.MostraNoteVoce();
 }
 
 void frmComposer::BloccaModifiche(bool bloccate) {

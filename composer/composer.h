@@ -53,6 +53,9 @@ public:
 
 private:
     VicinePlay AttornoAlPlay();
+    VicineInserimento AttornoAllInserimento();
+    VicineModifica AttornoAllaModifica();
+    void VoceCambiata();
     void BloccaModifiche(bool bloccate);
     void CollegaMenu();
     void CaricaTesti();

@@ -54,6 +54,10 @@ void PannelloPulsi::lblTs_Click() {
     }
 }
 
+void PannelloPulsi::Spegni() {
+    PonMetronomo(false, coloreSpento, lettereSpente);
+}
+
 void PannelloPulsi::PonMetronomo(bool attivo, Colore fondo, Colore lettere) {
     battuta.metroAttivo = attivo;
     lblTs.Caption = attivo ? "On" : "Off";

@@ -33,6 +33,7 @@ public:
 
     /// Chooses the defaults, at the window's load.
     void Carica();
+    void Spegni();
 
     void lblTs_Click();
     void Pulsazioni_Click();

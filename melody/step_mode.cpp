@@ -51,12 +51,30 @@ struct Riscrittura {
 
 }  // namespace
 
+std::int16_t IndiceDaCasella(std::string_view testo) {
+    return Piu(NumeroNota(testo), -1);
+}
+
+TrattoPasso TrattoDaCaselle(std::string_view prima, std::string_view ultima) {
+    const std::int16_t fine = IndiceDaCasella(ultima);
+    return {IndiceDaCasella(prima), fine, fine};
+}
+
+std::int16_t PrimaDelTratto(const TrattoPasso& tratto) {
+    return Piu(tratto.da, -1);
+}
+
 std::int16_t PassoAvanti(std::int16_t indice, const TrattoPasso& tratto) {
     return indice == tratto.a ? tratto.da : Piu(indice, 1);
 }
 
 std::int16_t PassoIndietro(std::int16_t indice, const TrattoPasso& tratto) {
     return indice <= tratto.da || indice < 0 ? tratto.fine : Piu(indice, -1);
+}
+
+std::string AvvisoPasso(std::int16_t indice, const TrattoPasso& tratto) {
+    return "From= " + std::to_string(tratto.da) + "\r\nTo= " + std::to_string(tratto.a) +
+           "\r\nIndiceNotaPP= " + std::to_string(indice) + "\r\nAbnormal condition !!!";
 }
 
 EsitoModifica ModificaNota(VoceMelodia& voce, long i, const NotaVoluta& voluta) {
@@ -78,6 +96,12 @@ DopoCancellata CancellataSotto(std::int16_t indice, std::int16_t primaNota) {
     }
     if (dopo.indice < 0) dopo = {0, 0, true, false};
     return dopo;
+}
+
+FineCancellata FineDopoCancellata(std::int16_t ultimaNota, std::int16_t numeroNote) {
+    if (ultimaNota >= numeroNote) return {Piu(numeroNote, -1), numeroNote};
+    if (ultimaNota == 0) return {0, std::int16_t{1}};
+    return {ultimaNota, std::nullopt};
 }
 
 }  // namespace corvana

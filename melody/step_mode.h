@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "melody/melody.h"
 
@@ -18,9 +19,20 @@ struct TrattoPasso {
     std::int16_t fine = 0;
 };
 
+/// The index that a range box shows, which counts from 1. Throws `Guasto` 13 or 6 when 16 bits
+/// can't hold it.
+std::int16_t IndiceDaCasella(std::string_view testo);
+/// The range between what two boxes show.
+TrattoPasso TrattoDaCaselle(std::string_view prima, std::string_view ultima);
+
+/// Where the step stands before the first one of a walk.
+std::int16_t PrimaDelTratto(const TrattoPasso& tratto);
 /// The index after a step. Throws `Guasto` 6 when it leaves 16 bits.
 std::int16_t PassoAvanti(std::int16_t indice, const TrattoPasso& tratto);
 std::int16_t PassoIndietro(std::int16_t indice, const TrattoPasso& tratto);
+
+/// What is said of a step that leaves the voice, since the range's box holds more than it has.
+std::string AvvisoPasso(std::int16_t indice, const TrattoPasso& tratto);
 
 /// What the tools want a note to be.
 struct NotaVoluta {
@@ -49,5 +61,12 @@ struct DopoCancellata {
     bool carica = true;          ///< the tools take the note under the step
 };
 DopoCancellata CancellataSotto(std::int16_t indice, std::int16_t primaNota);
+
+/// Where the range ends in a voice that has only `numeroNote` notes left.
+struct FineCancellata {
+    std::int16_t ultimaNota = 0;
+    std::optional<std::int16_t> casella;  ///< what its box shows, when that is written anew
+};
+FineCancellata FineDopoCancellata(std::int16_t ultimaNota, std::int16_t numeroNote);
 
 }  // namespace corvana

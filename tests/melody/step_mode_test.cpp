@@ -59,6 +59,35 @@ TEST(PassoPasso, BeyondTheLastIndexThatSixteenBitsHoldIsAnOverflow) {
     EXPECT_EQ(PassoAvanti(32766, {0, 5, 5}), 32767);
 }
 
+TEST(PassoPasso, TheRangeIsWhatItsBoxesShowCountedFromOne) {
+    const TrattoPasso tratto = TrattoDaCaselle("3", "7");
+    EXPECT_EQ(tratto.da, 2);
+    EXPECT_EQ(tratto.a, 6);
+    EXPECT_EQ(tratto.fine, 6);
+    EXPECT_EQ(IndiceDaCasella(" 1 "), 0);
+    EXPECT_EQ(IndiceDaCasella("0"), -1);
+}
+
+TEST(PassoPasso, ABoxThatHoldsNoNumberOrOneTooLargeIsAFault) {
+    for (const char* testo : {"", "x", "1;"})
+        EXPECT_EQ(NumeroDelGuasto([&] { IndiceDaCasella(testo); }), 13) << testo;
+    EXPECT_EQ(NumeroDelGuasto([] { IndiceDaCasella("32768"); }), 6);
+    EXPECT_EQ(NumeroDelGuasto([] { IndiceDaCasella("-32768"); }), 6);
+    EXPECT_EQ(IndiceDaCasella("32767"), 32766);
+}
+
+TEST(PassoPasso, BeginsBeforeItsRangeWhicheverWayItThenGoes) {
+    const TrattoPasso tratto{4, 8, 8};
+    EXPECT_EQ(PrimaDelTratto(tratto), 3);
+    EXPECT_EQ(PassoAvanti(PrimaDelTratto(tratto), tratto), 4);
+    EXPECT_EQ(PassoIndietro(PrimaDelTratto(tratto), tratto), 8);
+}
+
+TEST(PassoPasso, AStepOutOfTheVoiceIsReportedInFourLines) {
+    EXPECT_EQ(AvvisoPasso(5, {2, 9, 9}),
+              "From= 2\r\nTo= 9\r\nIndiceNotaPP= 5\r\nAbnormal condition !!!");
+}
+
 TEST(ModificaNota, WithNothingChangedChangesNothing) {
     const Cambiata c = Cambia(TreNote(), 1, {62, 0.5, true, "s", '.'});
     EXPECT_EQ(c.testi, TestiDellaVoce(TreNote()));
@@ -151,6 +180,25 @@ TEST(CancellataSotto, TheStepGoesToTheNoteBeforeAndTheRangeFollowsItDown) {
         EXPECT_EQ(dopo.primaNota, caso.nuovaPrima);
         EXPECT_EQ(dopo.primaCambiata, caso.cambiata) << caso.indice << ' ' << caso.prima;
         EXPECT_EQ(dopo.carica, caso.carica);
+    }
+}
+
+TEST(FineDopoCancellata, TheRangesEndComesDownWithTheVoicesEndAndItsBoxIsWritten) {
+    struct Caso {
+        std::int16_t ultima, note, nuova;
+        std::optional<std::int16_t> casella;
+    };
+    for (const Caso& caso : {Caso{4, 4, 3, 4},
+                             {9, 4, 3, 4},
+                             {3, 4, 3, std::nullopt},
+                             {1, 4, 1, std::nullopt},
+                             {0, 4, 0, 1},
+                             {0, 1, 0, 1},
+                             {1, 1, 0, 1},
+                             {-1, 4, -1, std::nullopt}}) {
+        const FineCancellata fine = FineDopoCancellata(caso.ultima, caso.note);
+        EXPECT_EQ(fine.ultimaNota, caso.nuova) << caso.ultima << ' ' << caso.note;
+        EXPECT_EQ(fine.casella, caso.casella) << caso.ultima << ' ' << caso.note;
     }
 }
 
