@@ -48,7 +48,7 @@ void PannelloModifica::InserisciDietro() {
                    TestoNumero(valore, a_.globali.SeparatoreDecimale), cmbAttributi.Text()});
     ++passo_.IndiceNotaPP;
     vicine_.aggiornaVoce();
-    MostraNumero();
+    MostraNumero(passo_.IndiceNotaPP);
     vicine_.suonaNota(true);
     stato_.lblNt.Caption = std::to_string(voce.numeroNote);
 }
@@ -57,13 +57,17 @@ void PannelloModifica::cmdCancNota_Click() {
     stato_.lblModificato.Visible = true;
     VoceMelodia& voce = stato_.melodia.Attiva();
     if (vicine_.ultimaNota().Text().empty()) return;
-    --voce.numeroNote;
-    if (voce.numeroNote == 0) return SvuotaVoce(voce);
-    stato_.lblNt.Caption = std::to_string(voce.numeroNote);
-    const FineCancellata fine = FineDopoCancellata(voce.ultimaNota, voce.numeroNote);
-    voce.ultimaNota = fine.ultimaNota;
-    if (fine.casella) vicine_.ultimaNota().Text = std::to_string(*fine.casella);
-    TogliSotto(voce);
+    if (voce.numeroNote == 1) return SvuotaVoce(voce);
+    const DopoCancellata dopo = CancellataSotto(passo_.IndiceNotaPP, voce.primaNota);
+    // First of all, since a token that the tools can't take is a fault, which must leave the voice.
+    if (dopo.carica) CaricaNota(dopo.indice);
+    // The range's end follows the voice's, as behind every change.
+    stato_.lblNt.Caption = std::to_string(voce.numeroNote - 1);
+    --passo_.IndiceNotaPP;
+    vicine_.togliNota();
+    passo_.IndiceNotaPP = dopo.indice;
+    voce.primaNota = dopo.primaNota;
+    if (dopo.primaCambiata) vicine_.primaNota().Text = std::to_string(voce.primaNota + 1);
     if (ConSoprano()) vicine_.svuotaRiferimenti();
 }
 
@@ -73,21 +77,6 @@ void PannelloModifica::SvuotaVoce(VoceMelodia& voce) {
     passo_.IndiceNotaPP = 0;
     stato_.lblNe.Caption = "";
     stato_.lblNt.Caption = "";
-}
-
-/// The tools take the note before, which the step goes to, unless there is none.
-void PannelloModifica::TogliSotto(VoceMelodia& voce) {
-    const DopoCancellata dopo = CancellataSotto(passo_.IndiceNotaPP, voce.primaNota);
-    --passo_.IndiceNotaPP;
-    if (dopo.carica) {
-        MostraNota(NumeroNota(Elemento(voce.noteVoce, dopo.indice)));
-        CaricaAttrezzi();
-        MostraNumero();
-    }
-    vicine_.togliNota();
-    passo_.IndiceNotaPP = dopo.indice;
-    voce.primaNota = dopo.primaNota;
-    if (dopo.primaCambiata) vicine_.primaNota().Text = std::to_string(voce.primaNota + 1);
 }
 
 void PannelloModifica::cmdCanc_Click() {

@@ -48,10 +48,13 @@ void PannelloModifica::Collega() {
     cmdCanc.Click = [this] { cmdCanc_Click(); };
 }
 
+std::string PannelloModifica::ParolaDi(const VoceMelodia& voce, std::int16_t indice) const {
+    return std::string(
+        ParolaDurata(Elemento(voce.durateVoce, indice), a_.globali.SeparatoreDecimale));
+}
+
 std::string PannelloModifica::TestoDurata() const {
-    const VoceMelodia& voce = stato_.melodia.Attiva();
-    return std::string(ParolaDurata(Elemento(voce.durateVoce, stato_.passo.IndiceNotaPP),
-                                    a_.globali.SeparatoreDecimale));
+    return ParolaDi(stato_.melodia.Attiva(), passo_.IndiceNotaPP);
 }
 
 double PannelloModifica::ValoreCombo() const {
@@ -66,15 +69,18 @@ void PannelloModifica::MostraNota(std::int16_t nota) {
     lblActualNote.Caption = NomeNota(nota, a_.globali.NomiAnglo);
 }
 
-/// The tools take attribute and duration of the note under the step.
-void PannelloModifica::CaricaAttrezzi() {
-    cmbAttributi.PonTesto(Elemento(stato_.melodia.Attiva().attributiVoce, passo_.IndiceNotaPP));
+/// The tools take a note of the active voice, and its number is shown.
+void PannelloModifica::CaricaNota(std::int16_t indice) {
+    const VoceMelodia& voce = stato_.melodia.Attiva();
+    MostraNota(NumeroNota(Elemento(voce.noteVoce, indice)));
+    cmbAttributi.PonTesto(Elemento(voce.attributiVoce, indice));
     // A duration that the list has no word for can't be written back by it.
-    cmbDurata.PonTesto(TestoDurata());
+    cmbDurata.PonTesto(ParolaDi(voce, indice));
+    MostraNumero(indice);
 }
 
-void PannelloModifica::MostraNumero() {
-    stato_.lblNe.Caption = std::to_string(passo_.IndiceNotaPP + 1);
+void PannelloModifica::MostraNumero(std::int16_t indice) {
+    stato_.lblNe.Caption = std::to_string(indice + 1);
 }
 
 }  // namespace corvana

@@ -69,10 +69,10 @@ private:
     bool CambiaNota();
     void InserisciDietro();
     void SvuotaVoce(VoceMelodia& voce);
-    void TogliSotto(VoceMelodia& voce);
-    void CaricaAttrezzi();
+    void CaricaNota(std::int16_t indice);
     void MostraNota(std::int16_t nota);
-    void MostraNumero();
+    void MostraNumero(std::int16_t indice);
+    std::string ParolaDi(const VoceMelodia& voce, std::int16_t indice) const;
     bool Pausa() const { return cmbAttributi.Text() == "p"; }
     bool ConSoprano() const { return stato_.melodia.IndiceAttiva() == soprano; }
 

@@ -14,10 +14,8 @@ void PannelloModifica::lblStep_Click(int Index) {
         NumeroNota(Elemento(stato_.melodia.Attiva().noteVoce, passo_.IndiceNotaPP));
     stato_.inserimento.notaAttiva = nota;
     stato_.lblActNote.Caption = NomeNota(nota, a_.globali.NomiAnglo);
-    MostraNota(nota);
-    CaricaAttrezzi();
+    CaricaNota(passo_.IndiceNotaPP);
     vicine_.spegniLoop();
-    MostraNumero();
     vicine_.suonaNota(passo_.modoPasso);
 }
 

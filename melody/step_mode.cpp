@@ -98,10 +98,4 @@ DopoCancellata CancellataSotto(std::int16_t indice, std::int16_t primaNota) {
     return dopo;
 }
 
-FineCancellata FineDopoCancellata(std::int16_t ultimaNota, std::int16_t numeroNote) {
-    if (ultimaNota >= numeroNote) return {Piu(numeroNote, -1), numeroNote};
-    if (ultimaNota == 0) return {0, std::int16_t{1}};
-    return {ultimaNota, std::nullopt};
-}
-
 }  // namespace corvana

@@ -62,11 +62,4 @@ struct DopoCancellata {
 };
 DopoCancellata CancellataSotto(std::int16_t indice, std::int16_t primaNota);
 
-/// Where the range ends in a voice that has only `numeroNote` notes left.
-struct FineCancellata {
-    std::int16_t ultimaNota = 0;
-    std::optional<std::int16_t> casella;  ///< what its box shows, when that is written anew
-};
-FineCancellata FineDopoCancellata(std::int16_t ultimaNota, std::int16_t numeroNote);
-
 }  // namespace corvana

@@ -8,7 +8,7 @@ namespace corvana::prova {
 TEST(TastiDiInserimento, APressSoundsItsNoteForTheValueAndMakesItTheActiveOne) {
     BancoAMano b;
     EXPECT_EQ(b.Sentite([&] { b.PremiTasto(64); }),
-              (Suonate{{0, 1, 64, 90}, {1002, 1, 64, 0}, {1002, 1, 64, 0}}));
+              (NoteSentite{{0, 1, 64, 90}, {1002, 1, 64, 0}, {1002, 1, 64, 0}}));
     EXPECT_EQ(b.inserimento.notaAttiva, 64);
     EXPECT_EQ(b.finestra.stato.lblActNote.Caption(), "Mi");
     EXPECT_EQ(b.finestra.tasti.tastoCorrente, 28);
@@ -34,7 +34,7 @@ TEST(TastiDiInserimento, TheKeyIsLitWhileItsNoteSoundsAndNoEventComesMeanwhile) 
 TEST(TastiDiInserimento, WithTheTieLitAPressSoundsButTheActiveNoteStays) {
     BancoAMano b;
     b.Attributo(2);
-    EXPECT_EQ(b.Sentite([&] { b.PremiTasto(64); }).front(), (Suonata{0, 1, 64, 90}));
+    EXPECT_EQ(b.Sentite([&] { b.PremiTasto(64); }).front(), (NotaSentita{0, 1, 64, 90}));
     EXPECT_EQ(b.inserimento.notaAttiva, 60);
     EXPECT_EQ(b.finestra.stato.lblActNote.Caption(), "Do");
 }
@@ -44,7 +44,7 @@ TEST(TastiDiInserimento, ADoubleClickInsertsInSilenceWithATick) {
     b.PremiTasto(67);
     b.specchio.fuochi.clear();
     EXPECT_EQ(b.Sentite([&] { b.Subito(Fatto::DblClick, "lb31"); }),
-              (Suonate{{0, 10, 81, 60}, {0, 10, 81, 0}}));
+              (NoteSentite{{0, 10, 81, 60}, {0, 10, 81, 0}}));
     EXPECT_EQ(b.Testi(), (TestiVoce{"67;", "1;", "n;"}));
     EXPECT_EQ(b.specchio.fuochi, Fuochi{"cmdPlay"});
     EXPECT_TRUE(b.Modificata());
@@ -70,7 +70,7 @@ TEST(TastiDiInserimento, TheSilenceThatWasMeantForANoteBeyondTheKeysIsTheNextOne
     b.DoppioClick(60);
     EXPECT_TRUE(b.melodia.voci[soprano].Vuota());
     b.inserimento.notaAttiva = 60;
-    EXPECT_EQ(b.Sentite([&] { b.Nota(); }), Suonate{});
+    EXPECT_EQ(b.Sentite([&] { b.Nota(); }), NoteSentite{});
     EXPECT_EQ(b.Testi()[0], "60;");
 }
 
@@ -101,14 +101,14 @@ TEST(SuonaAnteprima, LastsAndSoundsByTheAttributeThatIsLit) {
         b.Tocca("ckConsAtt", 1);
         b.Attributo(caso.attributo);
         EXPECT_EQ(b.Sentite([&] { b.Nota(); }),
-                  (Suonate{{0, 1, 60, caso.velocita}, {caso.ms + 2, 1, 60, 0}}));
+                  (NoteSentite{{0, 1, 60, caso.velocita}, {caso.ms + 2, 1, 60, 0}}));
     }
 }
 
 TEST(SuonaAnteprima, AnAttributeThatHasGoneOutIsHeardNoMore) {
     BancoAMano b;
     b.Attributo(1);
-    EXPECT_EQ(b.Sentite([&] { b.Nota(); }), (Suonate{{0, 1, 60, 90}, {1002, 1, 60, 0}}));
+    EXPECT_EQ(b.Sentite([&] { b.Nota(); }), (NoteSentite{{0, 1, 60, 90}, {1002, 1, 60, 0}}));
     EXPECT_EQ(b.Testi()[2], "s;");
 }
 
@@ -146,7 +146,7 @@ TEST(SuonaAnteprima, AWholeAtTheSlowestTempoHoldsTheThreadForTwelveSecondsAndCli
 TEST(SuonaAnteprima, IsOnChannel1WhicheverVoiceIsActive) {
     BancoAMano b;
     b.Tocca("VoceAttiva3");
-    EXPECT_EQ(b.Sentite([&] { b.Nota(); }).front(), (Suonata{0, 1, 60, 90}));
+    EXPECT_EQ(b.Sentite([&] { b.Nota(); }).front(), (NotaSentita{0, 1, 60, 90}));
 }
 
 }  // namespace corvana::prova

@@ -139,7 +139,7 @@ TEST(Inserimento, TheHighestNoteIs95AndBeyondTheKeysNothingHappens) {
     EXPECT_EQ(b.Testi()[0], "36;95;");
     b.finestra.stato.lblModificato.Visible = false;
     for (const int nota : {35, 96, 0}) {
-        EXPECT_EQ(b.Sentite([&] { b.NotaDi(nota); }), Suonate{});
+        EXPECT_EQ(b.Sentite([&] { b.NotaDi(nota); }), NoteSentite{});
         EXPECT_EQ(b.Testi()[0], "36;95;") << nota;
     }
     EXPECT_FALSE(b.Modificata());
@@ -165,7 +165,7 @@ TEST(Inserimento, ARestIsShownAsTheActiveNoteWhichStaysAndTicksOnce) {
     BancoAMano b;
     b.inserimento.notaAttiva = 0;
     b.specchio.fuochi.clear();
-    EXPECT_EQ(b.Sentite([&] { b.Pausa(); }), (Suonate{{0, 10, 81, 60}, {0, 10, 81, 0}}));
+    EXPECT_EQ(b.Sentite([&] { b.Pausa(); }), (NoteSentite{{0, 10, 81, 60}, {0, 10, 81, 0}}));
     EXPECT_EQ(b.Testi(), (TestiVoce{"00;", "1;", "p;"}));
     EXPECT_EQ(b.finestra.stato.lblActNote.Caption(), "P");
     EXPECT_EQ(b.inserimento.notaAttiva, 0);

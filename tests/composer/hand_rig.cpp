@@ -5,7 +5,7 @@
 
 namespace corvana::prova {
 
-std::ostream& operator<<(std::ostream& dove, const Suonata& s) {
+std::ostream& operator<<(std::ostream& dove, const NotaSentita& s) {
     return dove << "{" << s.ms << ", " << s.canale << ", " << s.nota << ", " << s.velocita << "}";
 }
 
@@ -64,20 +64,20 @@ int BancoAMano::AttributoAcceso() const {
     return acceso;
 }
 
-Suonate BancoAMano::Sentite(const std::function<void()>& gesto) {
+NoteSentite BancoAMano::Sentite(const std::function<void()>& gesto) {
     const std::size_t prima = uscita.messaggi.size();
     const double inizio = pompa.Adesso();
     gesto();
-    Suonate suonate;
+    NoteSentite sentite;
     for (std::size_t i = prima; i < uscita.messaggi.size(); ++i) {
         const auto& [istante, messaggio] = uscita.messaggi[i];
         if ((messaggio & 0xF0U) != 0x90U) continue;
-        suonate.push_back({static_cast<int>(std::lround((istante - inizio) * 1000)),
+        sentite.push_back({static_cast<int>(std::lround((istante - inizio) * 1000)),
                            static_cast<int>(messaggio & 0x0FU) + 1,
                            static_cast<int>(messaggio >> 8 & 0xFFU),
                            static_cast<int>(messaggio >> 16 & 0xFFU)});
     }
-    return suonate;
+    return sentite;
 }
 
 }  // namespace corvana::prova

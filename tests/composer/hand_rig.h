@@ -7,15 +7,15 @@
 namespace corvana::prova {
 
 /// A message of a note, with the instant at which it was sent, in milliseconds from the gesture.
-struct Suonata {
+struct NotaSentita {
     int ms = 0;
     int canale = 0;
     int nota = 0;
     int velocita = 0;
-    bool operator==(const Suonata&) const = default;
+    bool operator==(const NotaSentita&) const = default;
 };
-std::ostream& operator<<(std::ostream& dove, const Suonata& suonata);
-using Suonate = std::vector<Suonata>;
+std::ostream& operator<<(std::ostream& dove, const NotaSentita& sentita);
+using NoteSentite = std::vector<NotaSentita>;
 
 using Fuochi = std::vector<std::string>;  ///< controls that were given the focus
 
@@ -50,7 +50,7 @@ struct BancoAMano : BancoComposer {
     bool AccentoInVista() const { return finestra.inserimento.lblAt.Visible(); }
     bool AccentoAcceso() const { return finestra.inserimento.lblAt.BackStyle() == fondoOpaco; }
     /// What the gesture sent to the notes.
-    Suonate Sentite(const std::function<void()>& gesto);
+    NoteSentite Sentite(const std::function<void()>& gesto);
 };
 
 }  // namespace corvana::prova

@@ -30,7 +30,7 @@ struct BancoCancella : BancoAMano {
 TEST(CancellaAMano, TakesTheNoteOutWithoutASoundAndLoadsTheOneBefore) {
     BancoCancella b;
     b.Passi(3);
-    EXPECT_EQ(b.Sentite([&] { b.Cancella(); }), Suonate{});
+    EXPECT_EQ(b.Sentite([&] { b.Cancella(); }), NoteSentite{});
     EXPECT_EQ(b.Testi(), (TestiVoce{"60;62;65;", "1;0.5;4;", "n;s;a;"}));
     EXPECT_TRUE(b.Modificata());
     EXPECT_EQ(b.finestra.stato.lblNe.Caption(), "2");
@@ -133,6 +133,22 @@ TEST(CancellaAMano, AnAttributeThatTheToolsDontKnowIsAFaultThatLeavesTheNotes) {
     ASSERT_EQ(b.riquadri.messaggi.size(), 1U);
     EXPECT_EQ(b.riquadri.messaggi[0].substr(0, 3), "380");
     EXPECT_EQ(b.Testi()[0], "60;62;64;");
+    EXPECT_EQ(b.melodia.voci[soprano].numeroNote, 3);
+    EXPECT_EQ(b.passo.IndiceNotaPP, 1);
+    EXPECT_EQ(b.Scatola("lblNini"), "2");
+    EXPECT_EQ(b.Riferimenti(), 2U);
+}
+
+TEST(CancellaAMano, WhereNoNoteIsBeforeTheStepItIsAFaultThatLeavesTheVoice) {
+    BancoCancella b;
+    b.Passi(4);
+    b.Tocca("VoceAttiva1");
+    b.passo.IndiceNotaPP = 5;
+    b.Cancella();
+    EXPECT_EQ(b.riquadri.messaggi, std::vector<std::string>{"9\r\nSubscript out of range"});
+    EXPECT_EQ(b.Testi(contralto)[0], "48;50;52;");
+    EXPECT_EQ(b.melodia.voci[contralto].numeroNote, 3);
+    EXPECT_EQ(b.passo.IndiceNotaPP, 5);
 }
 
 TEST(TagliaAMano, DropsTheLastNoteAndRaisesTheFlag) {

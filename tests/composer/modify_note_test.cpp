@@ -25,7 +25,7 @@ struct BancoSulPasso : BancoAMano {
 
 TEST(ModificaAMano, WithNothingChangedTheFlagGoesUpAndNothingSounds) {
     BancoSulPasso b;
-    EXPECT_EQ(b.Sentite([&] { b.Modifica(); }), Suonate{});
+    EXPECT_EQ(b.Sentite([&] { b.Modifica(); }), NoteSentite{});
     EXPECT_TRUE(b.Modificata());
     EXPECT_EQ(b.Testi(), (TestiVoce{"60;62;64;", "1;0.5;2;", "n;s;n;"}));
 }
@@ -34,7 +34,8 @@ TEST(ModificaAMano, AKeyPressedSinceTheStepIsTheNewPitchWhichSoundsAlone) {
     BancoSulPasso b;
     b.Voce(contralto, "48;", "4");
     b.PremiTasto(67);
-    EXPECT_EQ(b.Sentite([&] { b.Modifica(); }), (Suonate{{0, 1, 67, 96}, {31 * tickMs, 1, 67, 0}}));
+    EXPECT_EQ(b.Sentite([&] { b.Modifica(); }),
+              (NoteSentite{{0, 1, 67, 96}, {31 * tickMs, 1, 67, 0}}));
     EXPECT_EQ(b.Testi(), (TestiVoce{"67;62;64;", "1;0.5;2;", "n;s;n;"}));
     EXPECT_EQ(b.Nome(), "Sol");
     EXPECT_EQ(b.finestra.voci.LblNoteString.Caption(), "Sol;Re;Mi;");
@@ -112,7 +113,7 @@ TEST(ModificaAMano, InAVoiceThatIsEmptyOnlyFlagAndAccentAreTouched) {
     BancoSulPasso b;
     b.Attributo(3);
     b.Tocca("VoceAttiva2");
-    EXPECT_EQ(b.Sentite([&] { b.Modifica(); }), Suonate{});
+    EXPECT_EQ(b.Sentite([&] { b.Modifica(); }), NoteSentite{});
     EXPECT_TRUE(b.melodia.voci[2].Vuota());
     EXPECT_TRUE(b.Modificata());
     EXPECT_FALSE(b.AccentoInVista());
@@ -150,7 +151,7 @@ TEST(InserisciDietroAMano, PutsTheActiveNoteBehindTheStepWhichMovesOntoIt) {
     b.ScegliIn("cmbAttributi", "a");
     b.ScegliIn("cmbPer", "3");
     EXPECT_EQ(b.Sentite([&] { b.Inserisci(); }),
-              (Suonate{{0, 1, 67, 125}, {47 * tickMs, 1, 67, 0}}));
+              (NoteSentite{{0, 1, 67, 125}, {47 * tickMs, 1, 67, 0}}));
     EXPECT_EQ(b.Testi(), (TestiVoce{"60;67;62;64;", "1;1.5;0.5;2;", "n;a;s;n;"}));
     EXPECT_EQ(b.passo.IndiceNotaPP, 1);
     EXPECT_EQ(b.finestra.stato.lblNe.Caption(), "2");

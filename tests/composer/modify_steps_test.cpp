@@ -59,7 +59,7 @@ TEST(PassoAMano, EachSoundsItsNoteAlone) {
     BancoACinque b;
     b.Voce(contralto, "48;", "4");
     // The release is the end procedure's, which comes a tick before the note's own.
-    EXPECT_EQ(b.Sentite([&] { b.Passo(1); }), (Suonate{{0, 1, 60, 96}, {31 * 31, 1, 60, 0}}));
+    EXPECT_EQ(b.Sentite([&] { b.Passo(1); }), (NoteSentite{{0, 1, 60, 96}, {31 * 31, 1, 60, 0}}));
     EXPECT_EQ(b.finestra.stato.lblPnn.Caption(), "Do");
 }
 
@@ -103,7 +103,7 @@ TEST(PassoAMano, ARangeBeyondTheVoiceIsReportedWhereTheStepLeavesIt) {
     BancoACinque b;
     b.Scatole("4", "9");
     EXPECT_EQ(b.Passi(1, 2), (Numeri{"4", "5"}));
-    EXPECT_EQ(b.Sentite([&] { b.Passo(1); }), Suonate{});
+    EXPECT_EQ(b.Sentite([&] { b.Passo(1); }), NoteSentite{});
     EXPECT_EQ(
         b.riquadri.messaggi,
         std::vector<std::string>{"From= 3\r\nTo= 8\r\nIndiceNotaPP= 5\r\nAbnormal condition !!!"});

@@ -183,23 +183,4 @@ TEST(CancellataSotto, TheStepGoesToTheNoteBeforeAndTheRangeFollowsItDown) {
     }
 }
 
-TEST(FineDopoCancellata, TheRangesEndComesDownWithTheVoicesEndAndItsBoxIsWritten) {
-    struct Caso {
-        std::int16_t ultima, note, nuova;
-        std::optional<std::int16_t> casella;
-    };
-    for (const Caso& caso : {Caso{4, 4, 3, 4},
-                             {9, 4, 3, 4},
-                             {3, 4, 3, std::nullopt},
-                             {1, 4, 1, std::nullopt},
-                             {0, 4, 0, 1},
-                             {0, 1, 0, 1},
-                             {1, 1, 0, 1},
-                             {-1, 4, -1, std::nullopt}}) {
-        const FineCancellata fine = FineDopoCancellata(caso.ultima, caso.note);
-        EXPECT_EQ(fine.ultimaNota, caso.nuova) << caso.ultima << ' ' << caso.note;
-        EXPECT_EQ(fine.casella, caso.casella) << caso.ultima << ' ' << caso.note;
-    }
-}
-
 }  // namespace corvana::prova
