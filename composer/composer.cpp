@@ -6,71 +6,38 @@
 
 namespace corvana {
 
+namespace {
+
+constexpr double passataTasti = 0.02;  // seconds
+
+}  // namespace
+
 frmComposer::frmComposer(const Ambiente& ambiente, VicineComposer vicine)
     : Form("frmComposer"),
+      a_(ambiente),
+      vicine_(std::move(vicine)),
       voci(ambiente, *this, stato, [this] { riferimenti.SegueSoprano(); }),
       mix(ambiente, *this, stato,
           {[this](bool abilita) { riferimenti.cmdAddBm.Enabled = abilita; },
-           [this](std::size_t voce) { return voci.perVoce[voce].ultima.Text(); }}),
+           [this](std::size_t voce) { return voci.perVoce[voce].ultima.Text(); }, FuocoPlay()}),
       play(ambiente, *this, stato, AttornoAlPlay()),
       archivio(
           ambiente, *this, stato,
           {[this] { return Byte(); }, [this](const std::string& nome) { CaricaMelodia(nome); }}),
       riferimenti(ambiente, *this, stato.melodia),
       tasti(ambiente, *this, stato),
-      regolo(ambiente, *this, stato),
+      regolo(
+          ambiente, *this, stato,
+          {[this](int tasto, bool acceso) { tasti.MostraTasto(tasto, acceso); }, FuocoInsNota()}),
       inserimento(ambiente, *this, stato, AttornoAllInserimento()),
       modifica(ambiente, *this, stato, AttornoAllaModifica()),
-      a_(ambiente),
-      vicine_(std::move(vicine)) {
+      tratti(ambiente, *this, stato, voci,
+             {[this](int voce) { mix.VoceAttiva_Click(voce); }, FuocoPlay()}),
+      trasposizione(ambiente, *this, stato, {[this] { voci.MostraNomiInteri(); }, FuocoPlay()}),
+      comandi(ambiente, stato, tasti, AttornoAiTasti()) {
     DisponiComposer(*this);
     CollegaMenu();
-    modifica.cmdReset.Click = [this] { cmdReset_Click(); };
-}
-
-VicinePlay frmComposer::AttornoAlPlay() {
-    return {pulsi.battuta,
-            [this] { return pulsi.Forza(); },
-            [this] { pulsi.ContaPulso(); },
-            [this](std::size_t voce) { return mix.perVoce[voce].volume.Value(); },
-            [this](int tasto, bool acceso) { tasti.MostraTasto(tasto, acceso); },
-            [this] { tasti.SpegniNoteVoci(); },
-            [this] { tasti.SpegniTutteLeNote(); },
-            [this](bool bloccate) { BloccaModifiche(bloccate); },
-            [this](bool abilita) { modifica.cmdCanc.Enabled = abilita; },
-            [this](bool abilita) { riferimenti.cmdAddBm.Enabled = abilita; },
-            [this](int voce) { mix.VoceAttiva_Click(voce); },
-            [this] { modifica.Chiudi(); },
-            [this] { return inserimento.cmdInsNota.BackColor(); },
-            [this] {
-                if (vicine_.finePlayDaPicker) vicine_.finePlayDaPicker();
-            }};
-}
-
-VicineInserimento frmComposer::AttornoAllInserimento() {
-    return {tasti.lb,
-            [this](int tasto, bool acceso) { tasti.MostraTasto(tasto, acceso); },
-            [this](int tasto) { tasti.tastoCorrente = static_cast<std::int16_t>(tasto); },
-            [this] { VoceCambiata(); },
-            [this] { modifica.cmdPaste.Enabled = true; },
-            [this] { play.cmdPlay.SetFocus(); }};
-}
-
-VicineModifica frmComposer::AttornoAllaModifica() {
-    return {[this] { VoceCambiata(); },
-            [this] { voci.TogliNota(); },
-            [this]() -> Casella& { return voci.perVoce[stato.melodia.IndiceAttiva()].prima; },
-            [this]() -> Casella& { return voci.perVoce[stato.melodia.IndiceAttiva()].ultima; },
-            [this] { voci.MostraSopranoIntero(); },
-            [this] { riferimenti.lstBookMark.Clear(); },
-            [this] { pulsi.Spegni(); },
-            [this] { play.chekLoop.Value = false; },
-            [this] { inserimento.AzzeraAttributi(); },
-            [this] { inserimento.NascondiAccento(); },
-            [this] { inserimento.cmdInsNota.SetFocus(); },
-            [this](const bool& soloNota) {
-                play.SuonaMelodia(stato.passo.IndiceNotaPP, stato.passo.IndiceNotaPP, soloNota);
-            }};
+    CollegaFinestra();
 }
 
 void frmComposer::VoceCambiata() {
@@ -79,18 +46,10 @@ void frmComposer::VoceCambiata() {
 }
 
 void frmComposer::BloccaModifiche(bool bloccate) {
-    menu.file.Enabled = !bloccate;
+    menu.AbilitaFile(!bloccate);
     modifica.cmdPaste.Enabled = !bloccate;
     inserimento.Abilita(!bloccate);
     voci.Blocca(bloccate);
-}
-
-void frmComposer::CollegaMenu() {
-    menu.mnuApri.Click = [this] { archivio.mnuApri_Click(); };
-    menu.mnuSalva.Click = menu.mnuSalvaCont.Click = [this] { archivio.mnuSalva_Click(); };
-    menu.mnuSaveAs.Click = menu.mnuSaveAsCont.Click = [this] { archivio.mnuSaveAs_Click(); };
-    menu.mnuSalvaA.Click = menu.mnucSalvaA.Click = [this] { archivio.mnuSalvaA_Click(); };
-    menu.mnuPlayRitardo.Click = [this] { play.mnuPlayRitardo_Click(); };
 }
 
 void frmComposer::Form_Load() {
@@ -104,7 +63,9 @@ void frmComposer::Form_Load() {
     tasti.Carica();
     voci.Carica();
     mix.Carica();
+    trasposizione.Carica();
     pulsi.Carica();
+    CaricaAspetto();
 }
 
 /// Entries that read as others do.
@@ -114,6 +75,30 @@ void frmComposer::CaricaTesti() {
     menu.mnuPianoCont.Caption = menu.mnuPiano.Caption();
     menu.mnuOrganoCont.Caption = menu.mnuOrgano.Caption();
     archivio.cmdDelete.Caption = riferimenti.cmdDelBm.Caption();
+}
+
+void frmComposer::CaricaAspetto() {
+    Gradiente(pictCi, 255, 143, 106, 255, 255, 0, "ds", "d2");
+    barra.Dipingi();
+    coloreCm_ = cmdCm.BackColor();
+    if (vicine_.figuraStrumenti) barra.ToolButton.at(1).stile = vicine_.figuraStrumenti();
+    if (vicine_.figuraPromemoria) barra.ToolButton.at(5).stile = vicine_.figuraPromemoria();
+}
+
+void frmComposer::Form_Activate() {
+    menu.SpuntaNomi(a_.globali.NomiAnglo);
+    comandi.fineTastiera = false;
+    inserimento.cmdInsNota.SetFocus();
+    tasti.baseTastiera = baseDiPartenzaTasti;
+}
+
+void frmComposer::CicloResidente() {
+    a_.pompa.PompaEventi();
+    while (!comandi.fineTastiera) {
+        comandi.Esamina();
+        // Keys tell of themselves by events, but for the one that counts for as long as it is held.
+        a_.pompa.AttendiEvento(comandi.Insiste() ? a_.pompa.Adesso() + passataTasti : perSempre);
+    }
 }
 
 void frmComposer::Form_Unload(bool& Cancel) {
@@ -126,9 +111,13 @@ void frmComposer::Form_Unload(bool& Cancel) {
         Cancel = true;
         return;
     }
+    comandi.fineTastiera = true;
     archivio.Ricorda();
+    // Whatever is held or was left on: nobody could stop it any more.
+    a_.suono.Reset();
     a_.suono.CambiaStrumento(a_.globali.StrumentoGlobale, 0);
     a_.globali.ComposerAperto = false;
+    hover_.Lascia();
 }
 
 }  // namespace corvana

@@ -8,13 +8,18 @@
 #include "composer/composer_menu.h"
 #include "composer/entry_panel.h"
 #include "composer/file_panel.h"
+#include "composer/key_commands.h"
 #include "composer/key_panel.h"
 #include "composer/mix_panel.h"
 #include "composer/modify_panel.h"
 #include "composer/play_panel.h"
 #include "composer/pulses_panel.h"
+#include "composer/range_panel.h"
 #include "composer/ruler.h"
+#include "composer/transposition_panel.h"
 #include "composer/voice_panel.h"
+#include "core/hover.h"
+#include "core/toolbar_panel.h"
 #include "melody/mel_reader.h"
 
 namespace corvana {
@@ -25,12 +30,22 @@ struct VicineComposer {
     std::function<std::string()> mnuPiano, mnuOrgano;
     /// A play that was started from the instrument picker has ended; may be empty.
     std::function<void()> finePlayDaPicker;
+    /// Shows the instrument picker and returns when it has closed.
+    std::function<void()> frmStrum = {};
+    /// Pictures of the main window's buttons for the instruments and for the reference chart.
+    std::function<std::string()> figuraStrumenti = {}, figuraPromemoria = {};
 };
 
 class frmComposer final : public Form {
 public:
     frmComposer(const Ambiente& ambiente, VicineComposer vicine);
 
+private:
+    Ambiente a_;
+    VicineComposer vicine_;
+    HoverFinestra hover_;
+
+public:
     StatoComposer stato{*this};
     MenuComposer menu{*this};
     PannelloVoci voci;
@@ -43,10 +58,25 @@ public:
     PannelloRegolo regolo;
     PannelloInserimento inserimento;
     PannelloModifica modifica;
-    Etichetta cmdCm{*this, "cmdCm"};
+    PannelloTratti tratti;
+    PannelloTrasposizione trasposizione;
+    PannelloBarra barra{*this, hover_, ComandiDellaBarra()};
+    Etichetta pictCi{*this, "pictCi"};  ///< chooses the instrument
+    Etichetta cmdCm{*this, "cmdCm"};    ///< closes the window
+    ComandiDaTastiera comandi;
 
     void Form_Load() override;
+    void Form_Activate() override;
+    void CicloResidente() override;
     void Form_Unload(bool& Cancel) override;
+    void Form_KeyDown(const Evento& tasto) override;
+    void Form_KeyUp(const Evento& tasto) override;
+
+    void mnuSs_Click();
+    void mnuNotLat_Click();
+    void mnuNotAnglo_Click();
+    void mnuChiudi_Click();
+    void Form_MouseDown(int Button);
 
     /// Empties the melody and stops what plays.
     void cmdReset_Click();
@@ -56,16 +86,22 @@ private:
     VicineInserimento AttornoAllInserimento();
     VicineModifica AttornoAllaModifica();
     void VoceCambiata();
+    VicineComandi AttornoAiTasti();
+    PannelloBarra::Comandi ComandiDellaBarra();
+    std::function<void()> FuocoPlay();
+    std::function<void()> FuocoInsNota();
     void BloccaModifiche(bool bloccate);
     void CollegaMenu();
+    void CollegaFinestra();
     void CaricaTesti();
+    void CaricaAspetto();
+    void PonNomi(bool anglo);
 
     std::string Byte() const;
     void CaricaMelodia(const std::string& nome);
     void PrendiLettura(const LetturaMel& letta);
 
-    Ambiente a_;
-    VicineComposer vicine_;
+    Colore coloreCm_ = coloreDiSistema;  ///< of `cmdCm` at rest
 };
 
 }  // namespace corvana

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "composer/play_panel.h"
+#include "composer/range_arrows.h"
 
 namespace corvana {
 
@@ -14,6 +15,9 @@ constexpr std::array posti = {
     Posto{"frmComposer", 0, 0, 0, 0, "Composizione melodie e armonie"},
     Posto{"mnuPiano", 0, 0, 0, 0, "Pianoforte"},
     Posto{"mnuOrgano", 0, 0, 0, 0, "Organo"},
+    Posto{"mnuNotLat", 0, 0, 0, 0, "Do,Re,Mi"},
+    Posto{"mnuNotAnglo", 0, 0, 0, 0, "C,D,E"},
+    Posto{"mnuSs", 0, 0, 0, 0, "Scegli ..."},
     Posto{"mnuPlayRitardo", 0, 0, 0, 0, "Play (ritardo 5 Sec.)"},
     Posto{"Regolo", 75, 945, 360, 3120},
     Posto{"lblCursore", 60, 0, 75, 165},
@@ -42,6 +46,24 @@ constexpr std::array posti = {
     Posto{"cmdEseguiFile", 0, 0, 0, 0, "Play"},
     Posto{"cmdDelBm", 0, 0, 0, 0, "Elimina"},
     Posto{"lblTs", 0, 0, 0, 0, "Off", "Metronomo On/Off"},
+    Posto{"VoceAttiva0", 0, 0, 0, 0, "S"},
+    Posto{"VoceAttiva1", 0, 0, 0, 0, "C"},
+    Posto{"VoceAttiva2", 0, 0, 0, 0, "T"},
+    Posto{"VoceAttiva3", 0, 0, 0, 0, "B"},
+    Posto{"lblMuteC0", 0, 0, 0, 0, " ^ -- _ "},
+    Posto{"lblMuteC1", 0, 0, 0, 0, " ^ -- _ "},
+    Posto{"lblMuteC2", 0, 0, 0, 0, " ^ -- _ "},
+    Posto{"lblMuteC3", 0, 0, 0, 0, " ^ -- _ "},
+    Posto{"Label5", 0, 0, 0, 0, "Trasponi"},
+    Posto{"lblIDs0", 0, 0, 0, 0, "-"},
+    Posto{"lblIDs1", 0, 0, 0, 0, "+"},
+    Posto{"lblSemitoni", 0, 0, 0, 0, "0",
+          "Clicca per trasporre la melodia per i semitoni indicati"},
+    Posto{"Pulsazioni", 0, 0, 0, 0, {}, "Numero di pulsazioni"},
+    Posto{"DurataPulsazioni", 0, 0, 0, 0, {}, "Durata pulsazioni"},
+    Posto{"LblInizioPuls", 0, 0, 0, 0, "1", "Pulsazione d'inizio"},
+    Posto{"cmdCm", 0, 0, 0, 0, "×"},
+    Posto{"pictCi", 0, 0, 0, 0, "Scegli ..."},
     Posto{"lblVolS", 0, 0, 0, 0, "100"},
     Posto{"lblVolC", 0, 0, 0, 0, "100"},
     Posto{"lblVolT", 0, 0, 0, 0, "100"},
@@ -52,6 +74,8 @@ constexpr std::array posti = {
 
 void DisponiComposer(Form& finestra) {
     Disponi(finestra, posti.data(), posti.size());
+    for (int i = 0; i < numeroFrecce; ++i)
+        finestra.Trova("lblid" + std::to_string(i))->PonTesto(i % 2 ? ">" : "<");
 }
 
 }  // namespace corvana

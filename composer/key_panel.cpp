@@ -6,10 +6,12 @@
 namespace corvana {
 
 PannelloTasti::PannelloTasti(const Ambiente& ambiente, Form& finestra, StatoComposer& stato)
-    : tastiera(finestra, "tastiera"), a_(ambiente), stato_(stato) {}
+    : tastiera(finestra, "tastiera"), a_(ambiente), stato_(stato) {
+    stato_.lblActNote.DblClick = tastiera.Lbdoc.DblClick = [this] { CambiaBase(); };
+}
 
 void PannelloTasti::Carica() {
-    tastoCorrente = 70;
+    tastoCorrente = nessunTasto;
     tastiera.PonNomi(a_.globali.NomiAnglo);
 }
 
@@ -26,8 +28,23 @@ void PannelloTasti::MostraTastoPiano(std::int16_t nota, bool acceso) {
 }
 
 void PannelloTasti::EsaminaPiano() {
-    piano_.Esamina(a_.finestre.Tasti(), baseTastiera, a_.suono,
-                   [this](std::int16_t nota, bool acceso) { MostraTastoPiano(nota, acceso); });
+    piano_.Esamina(a_.finestre.Tasti(), baseTastiera, a_.suono, MostraPiano());
+}
+
+void PannelloTasti::PremiPiano(int codice) {
+    piano_.Premi(codice, baseTastiera, a_.suono, MostraPiano());
+}
+
+void PannelloTasti::LasciaPiano(int codice) {
+    piano_.Lascia(codice, baseTastiera, a_.suono, MostraPiano());
+}
+
+PianoDaTastiera::Mostra PannelloTasti::MostraPiano() {
+    return [this](std::int16_t nota, bool acceso) { MostraTastoPiano(nota, acceso); };
+}
+
+void PannelloTasti::CambiaBase() {
+    baseTastiera = BaseSeguente(baseTastiera);
 }
 
 void PannelloTasti::SpegniTutteLeNote() {

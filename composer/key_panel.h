@@ -3,11 +3,15 @@
 #pragma once
 
 #include "composer/composer_state.h"
+#include "composer/key_steps.h"
 #include "core/globals.h"
 #include "piano/computer_piano.h"
 #include "piano/screen_keyboard.h"
 
 namespace corvana {
+
+/// The note of the key Z as the window comes to the front.
+constexpr std::int16_t baseDiPartenzaTasti = 48;
 
 class PannelloTasti {
 public:
@@ -15,9 +19,9 @@ public:
     PannelloTasti(const Ambiente& ambiente, Form& finestra, StatoComposer& stato);
 
     TastieraSchermo tastiera;
-    std::deque<Etichetta>& lb = tastiera.lb;  ///< its keys
-    std::int16_t tastoCorrente = 70;          ///< last key of `lb` used, 70 for none
-    std::int16_t baseTastiera = 48;           ///< note of the key Z
+    std::deque<Etichetta>& lb = tastiera.lb;          ///< its keys
+    std::int16_t tastoCorrente = nessunTasto;         ///< last key of `lb` used
+    std::int16_t baseTastiera = baseDiPartenzaTasti;  ///< note of the key Z
 
     /// No key was used yet, at the window's load.
     void Carica();
@@ -28,6 +32,11 @@ public:
     void MostraTastoPiano(std::int16_t nota, bool acceso);
     /// One pass of the key poll over the piano's keys.
     void EsaminaPiano();
+    /// A key of the piano that comes as an event; any other does nothing.
+    void PremiPiano(int codice);
+    void LasciaPiano(int codice);
+    /// Raises the piano on the computer's keyboard by an octave, or brings it back to the lowest.
+    void CambiaBase();
 
     void SpegniTutteLeNote();
     /// Only what the voices of the last play stand on.
@@ -35,6 +44,8 @@ public:
     void SpegniTastiera();
 
 private:
+    PianoDaTastiera::Mostra MostraPiano();
+
     Ambiente a_;
     StatoComposer& stato_;
     PianoDaTastiera piano_;

@@ -10,6 +10,8 @@ constexpr Colore coloreAttiva = Rgb(0, 255, 0);
 constexpr Colore coloreAltra = Rgb(255, 0, 0);
 constexpr int volumePieno = 100;
 constexpr int volumeIniziale = 2;
+constexpr int volumeSommesso = 60;  // of the others, at the first press of a solo button
+constexpr std::int32_t pianoforteMix = 0, organoMix = 16;
 
 }  // namespace
 
@@ -20,15 +22,22 @@ PannelloMix::PannelloMix(const Ambiente& ambiente, Form& finestra, StatoComposer
       stato_(stato),
       melodia_(stato.melodia),
       vicine_(std::move(vicine)) {
-    for (std::size_t voce = 0; voce < numeroVoci; ++voce) {
-        perVoce[voce].volume.Min = volumeMuto;
-        perVoce[voce].volume.Max = 0;
-        perVoce[voce].volume.Value = volumeIniziale;
-        lblInstr[voce].BackColor = coloriVoci[voce];
-        VoceAttiva[voce].Click = [this, voce] { VoceAttiva_Click(static_cast<int>(voce)); };
-        perVoce[voce].volume.Change = [this, voce] { VolumeCambiato(perVoce[voce]); };
-    }
+    for (std::size_t voce = 0; voce < numeroVoci; ++voce)
+        Prepara(voce);
     ColoraVoci(soprano);
+}
+
+void PannelloMix::Prepara(std::size_t voce) {
+    const ControlliVolume& controlli = perVoce[voce];
+    controlli.volume.Min = volumeMuto;
+    controlli.volume.Max = 0;
+    controlli.volume.Value = volumeIniziale;
+    lblInstr[voce].BackColor = coloriVoci[voce];
+    VoceAttiva[voce].Click = [this, voce] { VoceAttiva_Click(static_cast<int>(voce)); };
+    lblMuteC[voce].Click = [this, voce] { lblMuteC_Click(static_cast<int>(voce)); };
+    controlli.volume.Change = [&controlli] { VolumeCambiato(controlli); };
+    controlli.percento.Click = [this, voce] { lblVol_Click(voce); };
+    controlli.percento.DblClick = [this] { ResetVolumi(); };
 }
 
 void PannelloMix::Carica() {
@@ -51,6 +60,49 @@ void PannelloMix::VoceAttiva_Click(int Index) {
 void PannelloMix::ColoraVoci(std::size_t scelta) {
     for (std::size_t voce = 0; voce < numeroVoci; ++voce)
         VoceAttiva[voce].BackColor = voce == scelta ? coloreAttiva : coloreAltra;
+}
+
+void PannelloMix::lblMuteC_Click(int Index) {
+    if (Index < 0 || Index >= static_cast<int>(numeroVoci)) return;
+    const auto voce = static_cast<std::size_t>(Index);
+    switch (statoSolo[voce]) {
+        case 0: PonVolumi(voce, volumeSommesso); break;
+        case 1: PonVolumi(voce, volumeMuto); break;
+        default: return ResetVolumi();
+    }
+    ++statoSolo[voce];
+}
+
+void PannelloMix::lblVol_Click(std::size_t voce) {
+    PonVolumi(voce, volumeMuto);
+}
+
+void PannelloMix::ResetVolumi() {
+    for (const ControlliVolume& voce : perVoce)
+        voce.volume.PonValore(0);
+    statoSolo = {};
+}
+
+/// That voice full, the others as told.
+void PannelloMix::PonVolumi(std::size_t voce, int altre) {
+    for (std::size_t i = 0; i < numeroVoci; ++i)
+        perVoce[i].volume.PonValore(i == voce ? 0 : altre);
+}
+
+void PannelloMix::mnuPiano_Click() {
+    PonStrumenti(pianoforteMix);
+}
+
+void PannelloMix::mnuOrgano_Click() {
+    PonStrumenti(organoMix);
+}
+
+void PannelloMix::PonStrumenti(std::int32_t programma) {
+    for (std::size_t voce = 0; voce < numeroVoci; ++voce) {
+        melodia_.voci[voce].strumento = programma;
+        MandaStrumento(voce);
+    }
+    vicine_.fuocoPlay();
 }
 
 void PannelloMix::SceltaStrum(std::int32_t programma) {

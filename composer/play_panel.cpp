@@ -28,6 +28,7 @@ PannelloPlay::PannelloPlay(const Ambiente& ambiente, Form& finestra, StatoCompos
     for (Figura& luce : Secondo)
         luce.Visible = false;
     cmdPlay.Click = [this] { cmdPlay_Click(); };
+    chekLoop.Click = [this] { cmdPlay.SetFocus(); };
     Slider1.Change = [this] { Slider1_Change(); };
     Slider1.Scroll = [this] { Slider1_Scroll(); };
 }

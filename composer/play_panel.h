@@ -48,6 +48,7 @@ public:
     Etichetta Velocità{finestra_, "Velocità"};
     Bottone cmdPlay{finestra_, "cmdPlay"};
     Spunta chekLoop{finestra_, "chekLoop"};
+    Etichetta chekLoopLb{finestra_, "chekLoopLb"};
     Figura lblRigaCur{finestra_, "lblRigaCur"}, Cursore{finestra_, "Cursore"};
     std::array<Figura, 5> Secondo{{{finestra_, "Secondo0"},
                                    {finestra_, "Secondo1"},

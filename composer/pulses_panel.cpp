@@ -21,6 +21,7 @@ constexpr Colore lettereSpente = Rgb(255, 255, 255);
 PannelloPulsi::PannelloPulsi(Form& finestra) : finestra_(finestra) {
     Prepara();
     lblTs.Click = [this] { lblTs_Click(); };
+    Label6.DblClick = [this] { Label6_DblClick(); };
     Pulsazioni.Click = [this] { Pulsazioni_Click(); };
     DurataPulsazioni.Click = [this] { DurataPulsazioni_Click(); };
     InizioPuls.Change = [this] { InizioPuls_Change(); };
@@ -64,6 +65,10 @@ void PannelloPulsi::PonMetronomo(bool attivo, Colore fondo, Colore lettere) {
     lblTs.BackColor = fondo;
     lblTs.ForeColor = lettere;
     frMetro.Visible = attivo;
+}
+
+void PannelloPulsi::Label6_DblClick() {
+    if (frMetro.Visible()) lblDebug.Visible = !lblDebug.Visible();
 }
 
 void PannelloPulsi::Pulsazioni_Click() {

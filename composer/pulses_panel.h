@@ -20,6 +20,7 @@ private:
     Form& finestra_;
 
 public:
+    Etichetta Label6{finestra_, "Label6"};  ///< its heading
     Etichetta lblTs{finestra_, "lblTs"};
     Cornice frMetro{finestra_, "frMetro"};
     Combo Pulsazioni{finestra_, "Pulsazioni", &frMetro};
@@ -36,6 +37,8 @@ public:
     void Spegni();
 
     void lblTs_Click();
+    /// Shows the counter of pulses in the panel, or hides it: nothing else tells of it.
+    void Label6_DblClick();
     void Pulsazioni_Click();
     void DurataPulsazioni_Click();
     void InizioPuls_Change();

@@ -27,8 +27,6 @@ PannelloVoci::PannelloVoci(const Ambiente& ambiente, Form& finestra, StatoCompos
 void PannelloVoci::Carica() {
     AzzeraMelodia();
     melodia_.voceAttiva = nomiVoci[soprano];
-    melodia_.semitoni = 0;
-    lblSemitoni.Caption = "0";
 }
 
 void PannelloVoci::AggiornaVoce() {
@@ -73,6 +71,12 @@ void PannelloVoci::MostraNoteVoce() {
     controlli.nomi.Caption = "";
     if (voce.Vuota()) return;
     controlli.nomi.Caption = NomiFino(voce, NumeroNota(controlli.ultima.Text()));
+}
+
+void PannelloVoci::MostraNomiInteri() {
+    for (std::size_t voce = 0; voce < numeroVoci; ++voce)
+        if (const VoceMelodia& v = melodia_.voci[voce]; !v.Vuota())
+            perVoce[voce].nomi.Caption = NomiFino(v, NoteIntere(v));
 }
 
 /// The names of the first `note` notes, as far as the display has room for the last of them.

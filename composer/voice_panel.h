@@ -28,7 +28,6 @@ public:
     Casella lblNiniC{finestra_, "lblNiniC"}, lblNfineC{finestra_, "lblNfineC"};
     Casella lblNiniT{finestra_, "lblNiniT"}, lblNfineT{finestra_, "lblNfineT"};
     Casella lblNiniB{finestra_, "lblNiniB"}, lblNfineB{finestra_, "lblNfineB"};
-    Etichetta lblSemitoni{finestra_, "lblSemitoni"};
 
     /// The controls that each voice has its own of.
     struct ControlliVoce {
@@ -49,6 +48,8 @@ public:
     void AggiornaVoce();
     /// Rebuilds the note names of the active voice.
     void MostraNoteVoce();
+    /// The names of all notes of the voices that have any, whatever their ranges.
+    void MostraNomiInteri();
     /// Takes the token behind `IndiceNotaPP` out of the active voice.
     void TogliNota();
     void AzzeraMelodia();

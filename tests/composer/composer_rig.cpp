@@ -6,6 +6,7 @@
 
 #include "core/text.h"
 #include "melody/ticks.h"
+#include "tests/support/open_window.h"
 
 namespace corvana::prova {
 
@@ -53,7 +54,7 @@ BancoComposer::BancoComposer(ArchivioFile& archivio, char separatore)
     PonTesti(globali.testi);
     file.cartelle.insert("/programma/Melodie/Demo");
     suono.ApriMidi(-1);
-    finestre.Mostra(finestra);
+    ApriSenzaCiclo(finestre, pompa, coda, finestra);
 }
 
 void BancoComposer::Voce(std::size_t voce, const std::string& note, const std::string& durate,

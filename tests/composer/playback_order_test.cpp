@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/composer/composer_rig.h"
+#include "tests/support/open_window.h"
 
 namespace corvana::prova {
 
@@ -18,7 +19,7 @@ struct BancoOrdine : Banco {
 
     BancoOrdine() {
         suonoTra.ApriMidi(-1);
-        finestre.Mostra(finestra);
+        ApriSenzaCiclo(finestre, pompa, coda, finestra);
         tra.messaggi.clear();
         specchio.registra = true;
     }

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/composer/composer_rig.h"
+#include "tests/support/open_window.h"
 
 namespace corvana::prova {
 
@@ -19,7 +20,7 @@ struct BancoApertura : Banco {
     StatoInserimento& inserimento = finestra.stato.inserimento;
 
     BancoApertura() { suono.ApriMidi(-1); }
-    void Apri() { finestre.Mostra(finestra); }
+    void Apri() { ApriSenzaCiclo(finestre, pompa, coda, finestra); }
     void ApriCon(const std::string& ultimaCartella) {
         impostazioni.ScriviValore("LastDir", ultimaCartella);
         Apri();
@@ -216,10 +217,10 @@ TEST(AvvioComposer, AllFourVoicesTakeTheInstrumentInUseWhichIsSentOnTheirChannel
 TEST(AvvioComposer, NoTranspositionWaits) {
     BancoApertura b;
     b.SporcaMelodia();
-    b.finestra.voci.lblSemitoni.Caption = "5";
+    b.finestra.trasposizione.lblSemitoni.Caption = "5";
     b.Apri();
     EXPECT_EQ(b.melodia.semitoni, 0);
-    EXPECT_EQ(b.finestra.voci.lblSemitoni.Caption(), "0");
+    EXPECT_EQ(b.finestra.trasposizione.lblSemitoni.Caption(), "0");
 }
 
 TEST(AvvioComposer, TheMetronomeIsOffAndSetToTwoQuarters) {

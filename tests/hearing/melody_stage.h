@@ -8,6 +8,7 @@
 
 #include "composer/composer.h"
 #include "tests/support/memory_files.h"
+#include "tests/support/open_window.h"
 #include "tests/support/scripted_boxes.h"
 
 namespace corvana::prova {
@@ -27,7 +28,7 @@ struct PalcoMelodia {
         globali.CartellaProgramma = "/programma";
         impostazioni.Prepara();
         suono.ApriMidi(dispositivoPredefinito);
-        finestre.Mostra(finestra);
+        ApriSenzaCiclo(finestre, pompa, coda, finestra);
     }
 
     /// Lists the folder (with a closing separator) and chooses the melody of that name; false when

@@ -18,14 +18,9 @@ namespace corvana::prova {
 namespace {
 
 /// What the melody window hasn't yet.
-const Luoghi daFare = {"mnuApriCont",  "ToolButton1",   "ToolButton3", "ToolButton4", "ToolButton5",
-                       "mnuCopyFromA", "mnucCopyFromA", "mnuChiudi",   "cmdHideBm",   "cmdChiudi",
-                       "mnuSs",        "mnuSsCont",     "pictCi",      "Label5",      "lblIDs0",
-                       "lblIDs1",      "chekLoopLb",    "lblid0",      "lblid1",      "lblid2",
-                       "lblid3",       "lblid4",        "lblid5",      "lblid6",      "lblid7",
-                       "lblid8",       "lblid9",        "lblid10",     "lblid11",     "lblid12",
-                       "lblid13",      "lblid14",       "lblid15",     "cmdRenameBm", "cmdPlayBm",
-                       "cmdModBm",     "cmdMbUd0",      "cmdMbUd1",    "cmdRename",   "cmdMkdir"};
+const Luoghi daFare = {"mnuCopyFromA", "mnucCopyFromA", "cmdHideBm", "cmdChiudi",
+                       "cmdRenameBm",  "cmdPlayBm",     "cmdModBm",  "cmdMbUd0",
+                       "cmdMbUd1",     "cmdRename",     "cmdMkdir"};
 
 void Aggiungi(Luoghi& luoghi, const Controllo& controllo, const ProprietaBase& proprieta,
               const std::string& testo) {

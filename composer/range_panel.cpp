@@ -1,0 +1,111 @@
+#include "composer/range_panel.h"
+
+#include "forms/fault.h"
+#include "melody/numbers.h"
+
+namespace corvana {
+
+namespace {
+
+constexpr double attesaFreccia = 0.1;  // seconds; a step falls at every other one
+
+/// The whole number that a box holds; none for any other text.
+std::optional<std::int64_t> InteroDi(const std::string& testo) {
+    try {
+        return ArrotondaAlPari(NumeroReale(testo));
+    } catch (const Guasto&) {
+        return std::nullopt;
+    }
+}
+
+}  // namespace
+
+PannelloTratti::PannelloTratti(const Ambiente& ambiente, Form& finestra, StatoComposer& stato,
+                               PannelloVoci& voci, VicineTratti vicine)
+    : a_(ambiente),
+      finestra_(finestra),
+      melodia_(stato.melodia),
+      voci_(voci),
+      vicine_(std::move(vicine)) {
+    for (int i = 0; i < numeroFrecce; ++i) {
+        Etichetta& freccia = lblid.emplace_back(finestra, "lblid" + std::to_string(i));
+        freccia.MouseDown = [this, i](const Evento&) { lblid_MouseDown(i); };
+        freccia.MouseUp = [this](const Evento&) { lblid_MouseUp(); };
+        // The second press of two quick ones.
+        freccia.DblClick = [this, i] { lblid_MouseDown(i); };
+    }
+    voci_.lblNini.LostFocus = [this] { lblNini_Validate(); };
+}
+
+void PannelloTratti::lblid_MouseDown(int Index) {
+    passoInCorso = true;
+    try {
+        TieniPremuta(Index);
+    } catch (...) {
+        passoInCorso = false;
+        throw;
+    }
+}
+
+void PannelloTratti::TieniPremuta(int Index) {
+    const std::uint32_t questa = finestra_.Identita();
+    bool dispari = false;
+    for (bool mossa = false; passoInCorso || !mossa;) {
+        a_.pompa.Attendi(attesaFreccia);
+        a_.pompa.PompaEventi();
+        if (finestra_.Identita() != questa) break;
+        dispari = !dispari;
+        if (dispari) continue;
+        if (passoInCorso || !mossa) Passo(Index);
+        mossa = true;
+    }
+    passoInCorso = false;
+}
+
+void PannelloTratti::lblid_MouseUp() {
+    passoInCorso = false;
+    vicine_.fuocoPlay();
+}
+
+void PannelloTratti::Passo(int Index) {
+    const auto freccia = FrecciaDi(Index);
+    if (!freccia || melodia_.voci[freccia->voce].Vuota()) return;
+    const EstremiTratto tratto = Estremi(freccia->voce);
+    if (!PuoMuovere(*freccia, tratto)) return;
+    Sposta(*freccia, tratto);
+    vicine_.scegliVoce(static_cast<int>(freccia->voce));
+    if (freccia->ultima) voci_.MostraNoteVoce();
+}
+
+EstremiTratto PannelloTratti::Estremi(std::size_t voce) const {
+    const VoceMelodia& v = melodia_.voci[voce];
+    if (voce == soprano) return {v.primaNota + 1L, v.ultimaNota + 1L, v.numeroNote};
+    return {NumeroLetto(voci_.perVoce[voce].prima.Text()),
+            NumeroLetto(voci_.perVoce[voce].ultima.Text()), v.numeroNote};
+}
+
+void PannelloTratti::Sposta(const Freccia& freccia, const EstremiTratto& tratto) {
+    VoceMelodia& v = melodia_.voci[freccia.voce];
+    const long dopo = (freccia.ultima ? tratto.ultima : tratto.prima) + freccia.passo;
+    const PannelloVoci::ControlliVoce& caselle = voci_.perVoce[freccia.voce];
+    (freccia.ultima ? caselle.ultima : caselle.prima).Text = std::to_string(dopo);
+    if (freccia.voce == soprano)
+        (freccia.ultima ? v.ultimaNota : v.primaNota) = static_cast<std::int16_t>(dopo - 1);
+}
+
+void PannelloTratti::lblNini_Validate() {
+    VoceMelodia& v = melodia_.voci[soprano];
+    Casella& casella = voci_.lblNini;
+    if (v.Vuota()) {
+        casella.Text = "";
+        return;
+    }
+    const auto valore = InteroDi(casella.Text());
+    if (valore && *valore >= 1 && *valore <= v.ultimaNota + 1)
+        v.primaNota = static_cast<std::int16_t>(*valore - 1);
+    else
+        casella.Text = std::to_string(v.primaNota + 1);
+    if (valore) vicine_.scegliVoce(static_cast<int>(soprano));
+}
+
+}  // namespace corvana
