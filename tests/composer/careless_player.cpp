@@ -70,7 +70,7 @@ void SuonatoreDistratto::Vivi() {
 void SuonatoreDistratto::Apri() {
     ++aperture;
     banco_ = std::make_unique<BancoComposer>();
-    inceppata_ = false;
+    inceppata_ = aPassi_ = false;
     BancoComposer& b = *banco_;
     b.finestra.stato.lblNome.Click = [&b] { b.finestra.cmdReset_Click(); };
     PonFile();
@@ -140,6 +140,8 @@ void SuonatoreDistratto::Agisci() {
     Evento e = banco_->Fatta(evento, controllo);
     if (Capita(30)) e.controllo = Tra(0, static_cast<int>(banco_->finestra.Controlli().size()) - 1);
     if (e.fatto == Fatto::Click && std::string(controllo) == "cmdEseguiFile") ++caricate;
+    const auto& controlli = banco_->finestra.Controlli();
+    aPassi_ = aPassi_ || controlli[std::size_t(e.controllo)]->Name.starts_with("lblStep");
     banco_->coda.Aggiungi(std::move(e));
 }
 
@@ -201,7 +203,7 @@ void SuonatoreDistratto::ControllaFermo() {
                        [](const Figura& luce) { return luce.Visible(); }),
           "a light was left on");
     Esigi(f.menu.file.Enabled() && f.inserimento.cmdInsNota.Enabled() &&
-              f.inserimento.cmdInsPausa.Enabled() && f.modifica.cmdCanc.Enabled() &&
+              f.inserimento.cmdInsPausa.Enabled() && (aPassi_ || f.modifica.cmdCanc.Enabled()) &&
               (f.riferimenti.cmdAddBm.Enabled() || f.stato.melodia.voceAttiva != "soprano"),
           "a command was left disabled");
     Esigi(

@@ -48,6 +48,7 @@ private:
     int rimasti_;
     std::unique_ptr<BancoComposer> banco_;
     bool inceppata_ = false;  ///< a message may have failed since the window was opened
+    bool aPassi_ = false;     ///< a step may have been taken, which leaves a button disabled
 };
 
 }  // namespace corvana::prova
