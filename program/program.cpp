@@ -1,5 +1,6 @@
 #include "program/program.h"
 
+#include "composer/composer.h"
 #include "core/startup.h"
 #include "eartrainer/into.h"
 #include "metronome/conf_metro.h"
@@ -28,6 +29,7 @@ Programma::Programma(const Ambiente& ambiente)
 Secondarie Programma::Apri() {
     Secondarie s;
     s.frmInto = [this] { MostraInto(); };
+    s.frmComposer = [this] { MostraComposer(); };
     s.frmMidiTest = [this] { MostraModale<frmMidiTest>(aiutoStrumenti); };
     s.frmOptions = [this] { MostraModale<frmOptions>(aiutoPromemoria); };
     s.frmStrum = [this] { MostraModale<frmStrum>(aiutoStrumenti); };
@@ -43,11 +45,34 @@ void Programma::MostraInto() {
         return [this, bottone] { return principale.barra.ToolButton.at(bottone).ToolTipText(); };
     };
     frmInto finestra(a_, {consiglio(0), consiglio(4), consiglio(6), [&] {
-                              frmStrum strumenti(a_, [&] { finestra.SaveLastIntoSup(); });
+                              frmStrum strumenti(a_, {[&] { finestra.SaveLastIntoSup(); }});
                               strumenti.HelpContextID = aiutoStrumenti;
                               a_.finestre.MostraModale(strumenti);
                           }});
     a_.finestre.MostraModale(finestra);
+}
+
+void Programma::MostraComposer() {
+    const auto figura = [this](std::size_t bottone) {
+        return [this, bottone] { return principale.barra.ToolButton.at(bottone).stile; };
+    };
+    frmComposer finestra(a_, {[this] { return principale.menu.mnuPiano.Caption(); },
+                              [this] { return principale.menu.mnuOrgano.Caption(); },
+                              {},
+                              [&] { MostraStrumenti(finestra); },
+                              figura(4),
+                              figura(3)});
+    a_.finestre.MostraModale(finestra);
+}
+
+void Programma::MostraStrumenti(frmComposer& composer) {
+    const Melodia& melodia = composer.stato.melodia;
+    frmStrum strumenti(a_, {{},
+                            [&](std::int32_t programma) { composer.mix.SceltaStrum(programma); },
+                            melodia.Attiva().strumento,
+                            static_cast<std::int16_t>(melodia.IndiceAttiva() + 1)});
+    strumenti.HelpContextID = aiutoStrumenti;
+    a_.finestre.MostraModale(strumenti);
 }
 
 void Programma::DaMainAllaFine(bool altraIstanza) {

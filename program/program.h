@@ -6,6 +6,8 @@
 
 namespace corvana {
 
+class frmComposer;
+
 class Programma {
 public:
     explicit Programma(const Ambiente& ambiente);
@@ -27,6 +29,8 @@ private:
     }
     Secondarie Apri();
     void MostraInto();
+    void MostraComposer();
+    void MostraStrumenti(frmComposer& composer);
 
     Ambiente a_;
 };

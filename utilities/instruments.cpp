@@ -29,8 +29,8 @@ constexpr std::array postiStrumenti = {
 
 }  // namespace
 
-frmStrum::frmStrum(const Ambiente& ambiente, std::function<void()> SaveLastIntoSup)
-    : Form("frmStrum"), a_(ambiente), SaveLastIntoSup_(std::move(SaveLastIntoSup)) {
+frmStrum::frmStrum(const Ambiente& ambiente, ChiamanteStrum chiamante)
+    : Form("frmStrum"), a_(ambiente), chiamante_(std::move(chiamante)) {
     Disponi(*this, postiStrumenti.data(), postiStrumenti.size());
     cmdEsci.ForeColor = blu;
     List1.Click = [this] { List1_Click(); };
@@ -51,10 +51,17 @@ void frmStrum::Form_Load() {
         righe.push_back(std::to_string(i) + " - " + NomeStrumento(i));
     List1.List = std::move(righe);
     Colloca();
-    const std::int32_t strumento =
-        a_.globali.IntoAperto ? a_.globali.into.StrumentoInto : a_.globali.StrumentoGlobale;
     // A stored state edited by hand may name an instrument that the list hasn't.
-    List1.Seleziona(std::clamp(strumento, 0, strumenti - 1));
+    List1.Seleziona(std::clamp(InVigore(), 0, strumenti - 1));
+}
+
+bool frmStrum::PerUnaVoce() const {
+    return a_.globali.ComposerAperto && chiamante_.SceltaStrum;
+}
+
+std::int32_t frmStrum::InVigore() const {
+    if (PerUnaVoce()) return chiamante_.strumentoVoce;
+    return a_.globali.IntoAperto ? a_.globali.into.StrumentoInto : a_.globali.StrumentoGlobale;
 }
 
 void frmStrum::Colloca() {
@@ -68,13 +75,15 @@ void frmStrum::Colloca() {
 
 void frmStrum::List1_Click() {
     const bool into = a_.globali.IntoAperto;
+    if (!into && PerUnaVoce()) return chiamante_.SceltaStrum(List1.ListIndex);
     (into ? a_.globali.into.StrumentoInto : a_.globali.StrumentoGlobale) = List1.ListIndex;
     a_.suono.CambiaStrumento(List1.ListIndex, 0);
-    if (into && a_.globali.PaginaInto.front() && SaveLastIntoSup_) SaveLastIntoSup_();
+    if (into && a_.globali.PaginaInto.front() && chiamante_.SaveLastIntoSup)
+        chiamante_.SaveLastIntoSup();
 }
 
 void frmStrum::cmdTest_Click() {
-    a_.suono.SuonaSigla(1);
+    a_.suono.SuonaSigla(PerUnaVoce() ? chiamante_.canaleVoce : std::int16_t{1});
 }
 
 void frmStrum::cmdEsci_Click() {

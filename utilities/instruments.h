@@ -10,10 +10,18 @@
 
 namespace corvana {
 
+/// What a choice changes beyond the main window's instrument. Empty functions stand for windows
+/// that aren't open.
+struct ChiamanteStrum {
+    std::function<void()> SaveLastIntoSup = {};          ///< stores the ear trainer's state
+    std::function<void(std::int32_t)> SceltaStrum = {};  ///< gives it to the composer's voice
+    std::int32_t strumentoVoce = 0;                      ///< what that voice has
+    std::int16_t canaleVoce = 1;                         ///< and the channel that it sounds on
+};
+
 class frmStrum final : public Form {
 public:
-    /// `SaveLastIntoSup` stores the ear trainer's state; may be empty when that isn't open.
-    explicit frmStrum(const Ambiente& ambiente, std::function<void()> SaveLastIntoSup = {});
+    explicit frmStrum(const Ambiente& ambiente, ChiamanteStrum chiamante = {});
 
     Etichetta lblTitolo{*this, "lblTitolo"};
     Lista List1{*this, "List1"};
@@ -32,9 +40,11 @@ public:
 
 private:
     void Colloca();
+    bool PerUnaVoce() const;
+    std::int32_t InVigore() const;
 
     Ambiente a_;
-    std::function<void()> SaveLastIntoSup_;
+    ChiamanteStrum chiamante_;
     HoverFinestra hover_;
 };
 

@@ -21,6 +21,22 @@ std::string DellOrecchio() {
     return righe;
 }
 
+/// What the composer says.
+std::string DelComposer() {
+    std::string righe;
+    for (int id = 254; id <= 374; ++id)
+        if (id <= 262 || id == 276 || id >= 356)
+            righe += std::to_string(id) + ";frmComposer;composer " + std::to_string(id) + '\n';
+    return righe;
+}
+
+/// A fault that the composer's user has made himself: a box without a number, a full voice.
+bool DettoDalComposer(const std::string& testo) {
+    for (const char* inizio : {"composer ", "5\r", "6\r", "9\r", "13\r", "380\r"})
+        if (testo.starts_with(inizio)) return true;
+    return false;
+}
+
 /// What a burst is made of; a name that comes twice is done twice as often. "" is a right answer.
 constexpr std::array<const char*, 20> abitudini = {"Start",
                                                    "Start",
@@ -57,8 +73,8 @@ void Vagabondo::Vivi() {
 void Vagabondo::Avvia() {
     banco_ = std::make_unique<BancoProgramma>(chance_);
     banco_->uscita.nomi = {"Porta"};
-    banco_->file.contenuti["/programma/langit.csv"] = italiano + DellOrecchio();
-    banco_->file.contenuti["/programma/langen.csv"] = inglese + DellOrecchio();
+    banco_->file.contenuti["/programma/langit.csv"] = italiano + DellOrecchio() + DelComposer();
+    banco_->file.contenuti["/programma/langen.csv"] = inglese + DellOrecchio() + DelComposer();
     if (Capita(100)) banco_->uscita.esitoOpen = 4;
     prima_.reset();
     banco_->Quando(0, [this] { Passo(); });
@@ -90,6 +106,7 @@ void Vagabondo::Passo() {
 
 void Vagabondo::Agisci() {
     --rimasti_;
+    banco_->riquadri.risposte = {Capita(500)};
     const Form* davanti = banco_->finestre.Davanti();
     if (!davanti) return;
     ++viste[davanti->Name];
@@ -195,7 +212,9 @@ void Vagabondo::Controlla() {
 
 void Vagabondo::ControllaRiquadri() {
     for (const std::string& testo : banco_->riquadri.messaggi)
-        Esigi(testo.starts_with("Operation:") || testo.starts_with("into "), "a box: " + testo);
+        Esigi(testo.starts_with("Operation:") || testo.starts_with("into ") ||
+                  DettoDalComposer(testo),
+              "a box: " + testo);
     banco_->riquadri.messaggi.clear();
 }
 
