@@ -109,4 +109,30 @@ TEST(MetronomoMelodia, ItsSettingsDontMarkTheMelody) {
     EXPECT_FALSE(b.f.stato.lblModificato.Visible());
 }
 
+TEST(MetronomoMelodia, ADoubleClickOnItsHeadingShowsAndHidesTheCounterWhileThePanelIsThere) {
+    BancoMetronomo b;
+    b.Subito(Fatto::DblClick, "Label6");
+    EXPECT_FALSE(b.f.pulsi.lblDebug.Visible());
+    b.f.pulsi.lblTs_Click();
+    b.Subito(Fatto::DblClick, "Label6");
+    EXPECT_TRUE(b.f.pulsi.lblDebug.Visible());
+    b.Subito(Fatto::DblClick, "Label6");
+    EXPECT_FALSE(b.f.pulsi.lblDebug.Visible());
+}
+
+TEST(MetronomoMelodia, NinePulsesFromTheBarsTopEndBeginOnTheNinthLetter) {
+    BancoMetronomo b;
+    b.Voce(soprano, "60;", "4");
+    b.f.pulsi.lblTs_Click();
+    b.ScegliPulsi(9);
+    b.Subito(Fatto::Change, "InizioPuls", b.f.pulsi.InizioPuls.Min());
+    EXPECT_EQ(b.f.pulsi.battuta.pulsoIniziale, 8);
+    b.Suona();
+    // The ninth letter is a weak pulse, the first a strong one.
+    std::vector<int> pulsi;
+    for (const Mandato& m : b.Messaggi(10))
+        if (m.velocita) pulsi.push_back(m.nota);
+    EXPECT_EQ(pulsi, (std::vector<int>{36, 81, 36, 36}));
+}
+
 }  // namespace corvana::prova

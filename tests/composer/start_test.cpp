@@ -236,4 +236,25 @@ TEST(AvvioComposer, TheMetronomeIsOffAndSetToTwoQuarters) {
     EscePulsiIniziali(f);
 }
 
+TEST(AvvioComposer, TheGradientsArePaintedAndTheToolsTakeTheMainWindowsPictures) {
+    Banco b;
+    frmComposer finestra{b.Tutto(),
+                         {[] { return ""; },
+                          [] { return ""; },
+                          {},
+                          {},
+                          [] { return "icona:strumenti"; },
+                          [] { return "icona:promemoria"; }}};
+    b.suono.ApriMidi(-1);
+    ApriSenzaCiclo(b.finestre, b.pompa, b.coda, finestra);
+    const Sfumatura& tasto = finestra.pictCi.Sfondo();
+    EXPECT_EQ(tasto.inizio, Rgb(255, 143, 106));
+    EXPECT_EQ(tasto.fine, Rgb(255, 255, 0));
+    const Sfumatura& striscia = finestra.barra.ShToolbar.Sfondo();
+    EXPECT_EQ(striscia.inizio, Rgb(154, 0, 223));
+    EXPECT_EQ(striscia.fine, Rgb(255, 213, 255));
+    EXPECT_EQ(finestra.barra.ToolButton[1].stile, "icona:strumenti");
+    EXPECT_EQ(finestra.barra.ToolButton[5].stile, "icona:promemoria");
+}
+
 }  // namespace corvana::prova
