@@ -96,6 +96,8 @@ void frmComposer::CicloResidente() {
     a_.pompa.PompaEventi();
     while (!comandi.fineTastiera) {
         comandi.Esamina();
+        // What a key did may have closed the window, and nothing more would wake it then.
+        if (comandi.fineTastiera) return;
         // Keys tell of themselves by events, but for the one that counts for as long as it is held.
         a_.pompa.AttendiEvento(comandi.Insiste() ? a_.pompa.Adesso() + passataTasti : perSempre);
     }

@@ -161,14 +161,17 @@ TEST(CicloTasti, TheClosingOfTheWindowEndsTheLoop) {
 }
 
 TEST(CicloTasti, ClosedDuringADelayedStartByF4ItEndsWithoutAPlay) {
-    BancoCiclo b;
-    b.Voce(soprano, "60;", "1");
-    b.Premi(1, f4);
-    b.Fa(3, Fatto::Chiudi, "");
-    b.Fine(100);
-    EXPECT_FALSE(b.SvolgiCopione([&] { b.finestra.CicloResidente(); }));
-    EXPECT_LT(b.orologio.Adesso(), 7);
-    EXPECT_TRUE(b.Battute().empty());
+    for (const bool lasciato : {false, true}) {
+        BancoCiclo b;
+        b.Voce(soprano, "60;", "1");
+        b.Premi(1, f4);
+        if (lasciato) b.Lascia(2, f4);
+        b.Fa(3, Fatto::Chiudi, "");
+        b.Fine(100);
+        EXPECT_FALSE(b.SvolgiCopione([&] { b.finestra.CicloResidente(); })) << lasciato;
+        EXPECT_LT(b.orologio.Adesso(), 7);
+        EXPECT_TRUE(b.Battute().empty());
+    }
 }
 
 TEST(AttivazioneComposer, TicksTheNotationInUseAndGoesBackToTheStart) {
