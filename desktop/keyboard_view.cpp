@@ -110,6 +110,11 @@ bool VistaTastiera::PremiTasto(const QKeyEvent& tasto) {
     const bool invio = EInvio(tasto.key());
     if (tasto.key() != Qt::Key_Space && !invio) return false;
     if (tasto.isAutoRepeat()) return true;
+    if (invio && tasto.modifiers().testFlag(Qt::ShiftModifier)) {
+        for (const Vista* figlia : Figlie())
+            if (figlia->Stato().Ha("docentrale")) figlia->Manda(Fatto::DblClick);
+        return true;
+    }
     Giu();
     if (invio) Su(true);
     return true;

@@ -1,8 +1,8 @@
 // The five-octave keyboard: a picture of the style "tastiera" and its children, the keys ("tasto"),
 // their marks ("barretta") and the mark of middle C ("docentrale"). The mouse hits a key wherever
 // it is seen, a black one before the white one beneath it. All keys share one stop of the Tab key:
-// the arrows choose one, Page Up and Page Down go by octaves, the space bar holds it down.
-// GUI thread.
+// the arrows choose one, Page Up and Page Down go by octaves, the space bar holds it down. Shift
+// and Enter are a double click on the mark of middle C. GUI thread.
 #pragma once
 
 #include "desktop/painted_view.h"

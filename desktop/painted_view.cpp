@@ -7,6 +7,7 @@
 #include "desktop/face_reader.h"
 #include "desktop/grid_steps.h"
 #include "desktop/key_map.h"
+#include "desktop/style_words.h"
 #include "eartrainer/answer_colours.h"
 
 namespace corvana {
@@ -68,7 +69,8 @@ bool VistaDipinta::Cliccabile() const {
 }
 
 bool VistaDipinta::Azionabile() const {
-    const bool ascolta = Stato().Ascolta(ascoltaPressione) || Stato().Ascolta(ascoltaDoppio);
+    const bool ascolta = Stato().Ascolta(ascoltaPressione) ||
+                         (Stato().Ascolta(ascoltaDoppio) && FormaDi(Stato().stile).premibile);
     return Cliccabile() || (ascolta && Origine().tipo != Genere::Casella &&
                             Origine().tipo != Genere::Finestra && !Stato().Ha("dietro"));
 }

@@ -54,7 +54,8 @@ public:
     /// It does something when it is clicked. One that lies behind another has what is clicked
     /// before it.
     virtual bool Cliccabile() const;
-    /// The same, or something happens when a button goes down on it, or at a double click.
+    /// The same, or something happens when a button goes down on it, or at a double click on what
+    /// looks like a button; any other double click is a gesture for who knows it.
     virtual bool Azionabile() const;
     /// The pointer's shape tells that there is something to do.
     virtual bool Invita() const { return Cliccabile() || Stato().Ascolta(ascoltaPressione); }

@@ -32,6 +32,7 @@ const ParolaStile parole[] = {
     {"riquadro", {}, FormaFondo{5, true, false, &tinta::carta}},
     {"ammissione", {}, FormaFondo{4, true, true, nullptr}},
     {"tondo", {}, FormaFondo{5, false, false, nullptr}},
+    {"fitta", Lettere{13, semi}},
     {"titolo", Lettere{15, semi}},
     {"cifra", Lettere{21, semi}},
     {"piccolo", Lettere{11, QFont::Normal}},

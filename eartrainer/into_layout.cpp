@@ -117,6 +117,7 @@ constexpr std::array postiInto = {
 constexpr Rettangolo postoTastieraInto{153, 800, 12311, 1426};
 
 constexpr Colore fondoPasso = Rgb(255, 255, 192), fondoModo = Rgb(255, 236, 200);
+constexpr Colore fondoOk = Rgb(0, 191, 11), fondoKo = Rgb(255, 80, 80);
 constexpr Colore fondoRisposte = Rgb(224, 240, 255);
 constexpr Colore fondoMaggiori = Rgb(202, 247, 247), fondoMinori = Rgb(218, 255, 218);
 
@@ -172,6 +173,8 @@ void DisponiCelle(PaginaTonalita& pagina) {
         const int qui = sinistra + static_cast<int>(i % tonalitaMaggiori) * colonna;
         PoniCoppia(pagina.T[i], pagina.lblT[i], {qui, Maggiore(i) ? 660 : 2010, larga, 660}, -240,
                    "tonalita");
+        // Two names stand in some of them.
+        pagina.T[i].stile += " fitta";
         pagina.T[i].BackColor = Maggiore(i) ? fondoMaggiori : fondoMinori;
     }
 }
@@ -183,6 +186,8 @@ void DisponiInto(frmInto& f) {
     Disponi(f, postiInto.data(), postiInto.size());
     f.telaio.tastiera.PonPosto(postoTastieraInto);
     f.telaio.lblStep.BackColor = fondoPasso;
+    f.telaio.punti.lblOk.BackColor = fondoOk;
+    f.telaio.punti.lblKo.BackColor = fondoKo;
     f.intonazione.Label6.BackColor = fondoModo;
     for (Bottone* start : {&f.intonazione.IntoStart, &f.intervalli.CmdIntStart,
                            &f.accordi.ComdRacStart, &f.tasti.cmdRicTasto, &f.tonalita.cmdT})

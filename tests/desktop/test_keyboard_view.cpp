@@ -202,6 +202,13 @@ TEST(TastieraSulloSchermo, ADoubleClickOnMiddleCsMarkIsItsOwn) {
     EXPECT_EQ(segno.toolTip(), "Do Centrale");
 }
 
+TEST(TastieraSulloSchermo, ShiftAndEnterAreADoubleClickOnMiddleCsMark) {
+    PalcoTastiera palco;
+    Trova(palco.scrivania, "img2").setFocus(Qt::TabFocusReason);
+    Batti(palco.scrivania, Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(palco.Diario(), (Righe{"Lbdoc doppio"}));
+}
+
 TEST(TastieraSulloSchermo, AllKeysAreOneStopOfTheTabKey) {
     PalcoTastiera palco;
     const Cosa tastiera = Trova(palco.scrivania, "img2"),

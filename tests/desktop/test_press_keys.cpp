@@ -16,6 +16,7 @@ void SoloPressione(FormDiProva& form) {
 void SoloDoppio(FormDiProva& form) {
     form.toccabile.Click = nullptr;
     form.toccabile.MouseDown = form.toccabile.MouseUp = nullptr;
+    form.toccabile.stile = "pulsante";
 }
 
 /// What reached it of a key that went down and up.
@@ -66,6 +67,14 @@ TEST(TastoCheAziona, OneThatHearsDoubleClicksAloneGetsThem) {
     EXPECT_TRUE(Trova(palco.scrivania, "toccabile").Fermata());
     EXPECT_EQ(Battuto(palco, Qt::Key_Return), Righe{"toccabile doppio"});
     EXPECT_EQ(Battuto(palco, Qt::Key_Space), Righe{"toccabile doppio"});
+}
+
+TEST(TastoCheAziona, OneThatLooksLikeNoButtonIsNoStopForADoubleClickAlone) {
+    Palco palco([](FormDiProva& form) {
+        SoloDoppio(form);
+        form.toccabile.stile = "carta";
+    });
+    EXPECT_FALSE(Trova(palco.scrivania, "toccabile").Fermata());
 }
 
 TEST(TastoCheAziona, ShiftAndEnterAreADoubleClickWhereThereAreClicksToo) {

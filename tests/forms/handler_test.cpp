@@ -40,16 +40,18 @@ TEST(Gestore, TheFaceIsToldWhenAnybodyBeginsOrCeasesToListen) {
     figura.MouseMove = [](const Evento&) {};
     figura.Click = nullptr;
     figura.Click = nullptr;
+    figura.DblClick = [] {};
     EXPECT_EQ(b.specchio.cambi, (Cambi{{"figura", &Valori::Ascolti, 1},
                                        {"figura", &Valori::Ascolti, 3},
                                        {"figura", &Valori::Ascolti, 7},
-                                       {"figura", &Valori::Ascolti, 6}}));
+                                       {"figura", &Valori::Ascolti, 6},
+                                       {"figura", &Valori::Ascolti, 14}}));
 }
 
 TEST(Gestore, OfWhatTheFaceNeedntKnowItIsntTold) {
     BancoFinestra b;
     b.specchio.registra = true;
-    b.finestra.figura.DblClick = b.finestra.figura.Change = b.finestra.figura.Scroll = [] {};
+    b.finestra.figura.Change = b.finestra.figura.Scroll = [] {};
     b.finestra.figura.MouseUp = [](const Evento&) {};
     EXPECT_TRUE(b.specchio.cambi.empty());
 }
