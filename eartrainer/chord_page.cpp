@@ -12,7 +12,6 @@ namespace {
 
 /// Silence between two chords, in seconds.
 constexpr double dopoAccordo = 0.3;
-constexpr std::int16_t fermaSuonaNota = -1;
 
 }  // namespace
 
@@ -50,7 +49,7 @@ void PaginaAccordi::Entra() {
     ComdRacStart.Visible = false;
     cmdRes.Visible = false;
     t_.cmdEsci.Visible = true;
-    t_.a.suono.SuonaNota(fermaSuonaNota);
+    t_.a.suono.SuonaNota(fermaNota);
     t_.TogliEstensione(stato.IntoBasso, stato.IntoAlto);
     t_.IntInCorso = false;
     t_.SpegniCoppia();

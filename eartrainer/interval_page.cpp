@@ -8,7 +8,6 @@ namespace {
 
 constexpr Colore coloreConsonante = Rgb(192, 255, 255), coloreDissonante = Rgb(224, 224, 224);
 constexpr std::array<std::size_t, 3> ammesseAllIngresso = {3, 4, 7};
-constexpr std::int16_t fermaUltima = -1;
 
 }  // namespace
 
@@ -69,7 +68,7 @@ void PaginaIntervalli::Entra() {
     for (std::size_t n = 0; n < Il.size(); ++n)
         Escludi(n, std::find(ammesseAllIngresso.begin(), ammesseAllIngresso.end(), n) ==
                        ammesseAllIngresso.end());
-    if (t_.a.suono.UltimaNota >= 0) t_.a.suono.SuonaNota(fermaUltima);
+    if (t_.a.suono.UltimaNota >= 0) t_.a.suono.SuonaNota(fermaNota);
 }
 
 void PaginaIntervalli::Escludi(std::size_t n, bool escluso) {

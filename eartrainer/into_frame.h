@@ -16,6 +16,8 @@ namespace corvana {
 /// The one channel of the ear trainer, and how hard it strikes where nothing else is said.
 constexpr std::int16_t canaleInto = 1;
 constexpr std::int16_t velocitaInto = 90;
+/// What `SuonaNota` takes to end its note.
+constexpr std::int16_t fermaNota = -1;
 
 class TelaioInto {
 public:

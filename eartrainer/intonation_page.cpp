@@ -13,7 +13,6 @@ constexpr Colore tastiNeriPallidi = Rgb(213, 241, 237);
 constexpr double durataRiferimento = 1.2;
 constexpr double dopoRiferimento = 0.1;
 
-constexpr std::int16_t fermaNota = -1;
 constexpr std::int16_t prossimaDomanda = -2;
 
 }  // namespace
