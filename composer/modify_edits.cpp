@@ -26,8 +26,6 @@ bool PannelloModifica::CambiaNota() {
          cmbAttributi.Text(), a_.globali.SeparatoreDecimale});
     if (esito.mostrata) MostraNota(*esito.mostrata);
     if (esito.terzinaUsata) vicine_.azzeraAttributi();
-    if (esito.cambiato && !ConSoprano())
-        voce.primaNota = IndiceDaCasella(vicine_.primaNota().Text());
     return esito.cambiato;
 }
 

@@ -20,6 +20,10 @@ std::int16_t Piu(std::int16_t indice, int passo) {
     return static_cast<std::int16_t>(nuovo);
 }
 
+std::int16_t IndiceDaCasella(std::string_view testo) {
+    return Piu(NumeroNota(testo), -1);
+}
+
 /// The texts of a voice on their way to a new note `i`.
 struct Riscrittura {
     long i;
@@ -50,10 +54,6 @@ struct Riscrittura {
 };
 
 }  // namespace
-
-std::int16_t IndiceDaCasella(std::string_view testo) {
-    return Piu(NumeroNota(testo), -1);
-}
 
 TrattoPasso TrattoDaCaselle(std::string_view prima, std::string_view ultima) {
     const std::int16_t fine = IndiceDaCasella(ultima);

@@ -19,10 +19,8 @@ struct TrattoPasso {
     std::int16_t fine = 0;
 };
 
-/// The index that a range box shows, which counts from 1. Throws `Guasto` 13 or 6 when 16 bits
+/// The range between what two boxes show, which count from 1. Throws `Guasto` 13 or 6 when 16 bits
 /// can't hold it.
-std::int16_t IndiceDaCasella(std::string_view testo);
-/// The range between what two boxes show.
 TrattoPasso TrattoDaCaselle(std::string_view prima, std::string_view ultima);
 
 /// Where the step stands before the first one of a walk.

@@ -190,9 +190,12 @@ TEST(TagliaAMano, MakesTheWholeSopranoItsRangeAndTheFirstBookmarkFollow) {
 
 TEST(TagliaAMano, OfALowerVoiceItLeavesTheRangesStart) {
     BancoCancella b;
+    b.Tratto(2, 3);
     b.Tocca("VoceAttiva1");
     b.finestra.voci.lblNiniC.Text = "2";
     b.Tocca("cmdCanc");
+    EXPECT_EQ(b.Scatola("lblNini"), "2");
+    EXPECT_EQ(b.Scatola("lblNfine"), "3");
     EXPECT_EQ(b.Testi(contralto)[0], "48;50;");
     EXPECT_EQ(b.Scatola("lblNiniC"), "2");
     EXPECT_EQ(b.Scatola("lblNfineC"), "2");

@@ -120,18 +120,15 @@ TEST(ModificaAMano, InAVoiceThatIsEmptyOnlyFlagAndAccentAreTouched) {
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
-TEST(ModificaAMano, OfALowerVoiceAChangeTakesItsRangesStartFromTheBoxAgain) {
+TEST(ModificaAMano, OfALowerVoiceWhatWasChangedSoundsOnItsChannel) {
     BancoSulPasso b;
     b.Voce(contralto, "48;50;52;", "1");
     b.Tocca("VoceAttiva1");
-    b.finestra.voci.lblNiniC.Text = "2";
-    b.Passo(1);
-    b.Modifica();
-    EXPECT_EQ(b.melodia.voci[contralto].primaNota, 0);
+    b.Passo(0);
     b.PremiTasto(55);
-    b.NelTick(2, [&] { EXPECT_EQ(b.melodia.voci[contralto].primaNota, 1); });
-    b.Modifica();
-    EXPECT_EQ(b.Testi(contralto)[0], "48;55;52;");
+    EXPECT_EQ(b.Sentite([&] { b.Modifica(); }).front(), (NotaSentita{0, 2, 55, 96}));
+    EXPECT_EQ(b.Testi(contralto)[0], "48;50;55;");
+    EXPECT_EQ(b.Testi()[0], "60;62;64;");
 }
 
 TEST(ModificaAMano, WithTheLoopTickedWhatWasChangedStillSoundsOnce) {
@@ -160,6 +157,18 @@ TEST(InserisciDietroAMano, PutsTheActiveNoteBehindTheStepWhichMovesOntoIt) {
     EXPECT_TRUE(b.Modificata());
     b.Passo(1);
     EXPECT_EQ(b.inserimento.notaAttiva, 62);
+}
+
+TEST(InserisciDietroAMano, InALowerVoiceTheNotesOfThatVoiceAreCounted) {
+    BancoSulPasso b;
+    b.Voce(contralto, "48;50;", "1");
+    b.Tocca("VoceAttiva1");
+    b.Passo(1);
+    EXPECT_EQ(b.finestra.stato.lblNt.Caption(), "2");
+    b.Inserisci();
+    EXPECT_EQ(b.finestra.stato.lblNt.Caption(), "3");
+    b.Tocca("cmdCancNota");
+    EXPECT_EQ(b.finestra.stato.lblNt.Caption(), "2");
 }
 
 TEST(InserisciDietroAMano, ARestGoesInByTheAttributeAlone) {

@@ -112,6 +112,14 @@ TEST(PassoAMano, ARangeBeyondTheVoiceIsReportedWhereTheStepLeavesIt) {
     EXPECT_TRUE(b.finestra.modifica.frmModifica.Visible());
 }
 
+TEST(PassoAMano, OfTheSopranoTheDropIsLockedAlsoWhereTheFirstStepLeavesTheVoice) {
+    BancoACinque b;
+    b.Scatole("6", "9");
+    b.Passo(1);
+    EXPECT_EQ(b.riquadri.messaggi.size(), 1U);
+    EXPECT_FALSE(b.finestra.modifica.cmdCanc.Enabled());
+}
+
 TEST(PassoAMano, OfALowerVoiceBeyondItsEndTheDropStaysPossible) {
     BancoACinque b;
     b.Voce(contralto, "48;", "1");

@@ -64,16 +64,16 @@ TEST(PassoPasso, TheRangeIsWhatItsBoxesShowCountedFromOne) {
     EXPECT_EQ(tratto.da, 2);
     EXPECT_EQ(tratto.a, 6);
     EXPECT_EQ(tratto.fine, 6);
-    EXPECT_EQ(IndiceDaCasella(" 1 "), 0);
-    EXPECT_EQ(IndiceDaCasella("0"), -1);
+    EXPECT_EQ(TrattoDaCaselle(" 1 ", "0").da, 0);
+    EXPECT_EQ(TrattoDaCaselle("1", "0").a, -1);
 }
 
 TEST(PassoPasso, ABoxThatHoldsNoNumberOrOneTooLargeIsAFault) {
     for (const char* testo : {"", "x", "1;"})
-        EXPECT_EQ(NumeroDelGuasto([&] { IndiceDaCasella(testo); }), 13) << testo;
-    EXPECT_EQ(NumeroDelGuasto([] { IndiceDaCasella("32768"); }), 6);
-    EXPECT_EQ(NumeroDelGuasto([] { IndiceDaCasella("-32768"); }), 6);
-    EXPECT_EQ(IndiceDaCasella("32767"), 32766);
+        EXPECT_EQ(NumeroDelGuasto([&] { TrattoDaCaselle(testo, "1"); }), 13) << testo;
+    EXPECT_EQ(NumeroDelGuasto([] { TrattoDaCaselle("1", "32768"); }), 6);
+    EXPECT_EQ(NumeroDelGuasto([] { TrattoDaCaselle("-32768", "1"); }), 6);
+    EXPECT_EQ(TrattoDaCaselle("1", "32767").a, 32766);
 }
 
 TEST(PassoPasso, BeginsBeforeItsRangeWhicheverWayItThenGoes) {
