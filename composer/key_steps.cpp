@@ -39,7 +39,7 @@ std::uint8_t BottoneAttributoSeguente(std::uint8_t attributo) {
         case attributoStaccato: return attributoAppoggiato;
         case attributoAppoggiato: return attributoAccento;
         case attributoAccento: return attributoLegatura;
-        case attributoLegatura: return attributoTerzina;
+        case attributoLegatura:
         // Pressed again it goes out.
         case attributoTerzina: return attributoTerzina;
         default: return attributoPunto;

@@ -53,14 +53,19 @@ TEST(FrecceTenute, AWindowThatOpensOverItEndsTheHold) {
     b.Esegui(10);
 }
 
-TEST(FrecceTenute, TheClosingOfTheWindowEndsTheHold) {
-    BancoFrecce b;
-    b.PonTratto(soprano, 1, 10);
-    b.Mouse(1, Fatto::MouseDown, "lblid1");
-    b.Fa(1.25, Fatto::Chiudi, "");
-    b.Ferma(1.5, 9, {"2", "10"});
-    b.Esegui(10);
-    EXPECT_EQ(b.finestre.Davanti(), nullptr);
+TEST(FrecceTenute, TheClosingOfTheWindowEndsTheHoldAndNothingMovesBehindIt) {
+    for (const auto& [quando, prima] :
+         std::vector<std::pair<double, const char*>>{{1.05, "1"}, {1.15, "1"}, {1.25, "2"}}) {
+        BancoFrecce b;
+        b.PonTratto(soprano, 1, 10);
+        b.Mouse(1, Fatto::MouseDown, "lblid1");
+        b.Fa(quando, Fatto::Chiudi, "");
+        b.Esegui(10);
+        EXPECT_LT(b.orologio.Adesso(), 2) << "the window's loop has ended";
+        EXPECT_FALSE(b.Premuta());
+        EXPECT_EQ(b.Caselle(soprano), (Estremi{prima, "10"})) << quando;
+        EXPECT_EQ(b.finestre.Davanti(), nullptr);
+    }
 }
 
 TEST(FrecceTenute, TheEndOfTheProgramEndsTheHold) {

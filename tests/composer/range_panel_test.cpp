@@ -177,7 +177,7 @@ TEST(Frecce, TheReleaseGivesTheFocusToPlay) {
     b.specchio.fuochi.clear();
     b.Tieni(1, 1.5, 4);
     b.Esegui(3);
-    EXPECT_EQ(b.specchio.fuochi.back(), "cmdPlay");
+    EXPECT_EQ(b.specchio.fuochi, std::vector<std::string>{"cmdPlay"});
 }
 
 }  // namespace corvana::prova
