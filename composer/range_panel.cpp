@@ -31,8 +31,10 @@ PannelloTratti::PannelloTratti(const Ambiente& ambiente, Form& finestra, StatoCo
         Etichetta& freccia = lblid.emplace_back(finestra, "lblid" + std::to_string(i));
         freccia.MouseDown = [this, i](const Evento&) { lblid_MouseDown(i); };
         freccia.MouseUp = [this](const Evento&) { lblid_MouseUp(); };
-        // The second press of two quick ones.
-        freccia.DblClick = [this, i] { lblid_MouseDown(i); };
+        // The second press of two quick ones is a step and no hold: the keyboard double clicks too,
+        // and no release follows. A label without a click it would double click at every press.
+        freccia.DblClick = [this, i] { Passo(i); };
+        freccia.Click = [] {};
     }
     voci_.lblNini.LostFocus = [this] { lblNini_Validate(); };
 }

@@ -115,6 +115,25 @@ TEST(FrecceTenute, AnotherArrowAtTheSameInstantAsTheReleaseIsAHoldOfItsOwn) {
     b.Esegui(10);
 }
 
+TEST(FrecceTenute, ADoubleClickThatNoReleaseFollowsIsOneStepAndNoHold) {
+    BancoFrecce b;
+    b.PonTratto(soprano, 1, 10);
+    b.Fa(1, Fatto::DblClick, "lblid1");
+    b.Ferma(1.1, 9, {"2", "10"});
+    b.Esegui(10);
+}
+
+TEST(FrecceTenute, PressedWithTheKeyboardItIsOneStep) {
+    BancoFrecce b;
+    b.PonTratto(soprano, 1, 10);
+    for (const Etichetta& freccia : b.finestra.tratti.lblid)
+        EXPECT_TRUE(freccia.Ascolti() & ascoltaClick) << freccia.Name << " would be double clicked";
+    b.Insieme(1,
+              {{Fatto::MouseDown, "lblid1"}, {Fatto::MouseUp, "lblid1"}, {Fatto::Click, "lblid1"}});
+    b.Ferma(1.5, 9, {"2", "10"});
+    b.Esegui(10);
+}
+
 TEST(FrecceTenute, DuringAPlayTheHoldEndsAndThePlayGoesOn) {
     BancoFrecce b;
     b.Clicca(1, "cmdPlay");
