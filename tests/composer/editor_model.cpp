@@ -1,8 +1,9 @@
 #include "tests/composer/editor_model.h"
 
 #include <array>
-#include <cstdio>
 #include <cstdlib>
+
+#include "tests/composer/plain_numbers.h"
 
 namespace corvana::prova {
 
@@ -13,16 +14,6 @@ constexpr std::array figure = {4.0, 2.0, 1.0, 0.5, 0.25, 0.125, 0.0625};
 constexpr std::array paroleDurata = {"4",    "6",    "2",     "3",     "1",      "1.5",   "0.5",
                                      "0.75", "0.25", "0.375", "0.125", "0.1875", "0.0625"};
 constexpr int altraParola = 13;
-
-std::string Scritto(double numero) {
-    std::array<char, 40> testo{};
-    std::snprintf(testo.data(), testo.size(), "%.15g", numero);
-    return testo.data();
-}
-
-double Letto(const std::string& token) {
-    return std::strtod(token.c_str(), nullptr);
-}
 
 }  // namespace
 
@@ -45,7 +36,7 @@ double ModelloEditor::Valore() const {
 /// A tie takes the last note off and its value on.
 double ModelloEditor::ConLegatura(double valore) {
     if (attributo != 2 || Voce().note.empty()) return valore;
-    valore += Letto(Voce().note.back().durata);
+    valore += LettoColPunto(Voce().note.back().durata);
     Voce().note.pop_back();
     return valore;
 }
@@ -67,7 +58,7 @@ void ModelloEditor::DoppioClick(int tasto) {
 }
 
 void ModelloEditor::Accoda(const std::string& n, double valore, const std::string& a) {
-    Voce().note.push_back({n, Scritto(valore), a});
+    Voce().note.push_back({n, ScrittoColPunto(valore), a});
     Aggiorna();
 }
 
@@ -155,7 +146,7 @@ void ModelloEditor::Passo(int verso) {
 
 double ModelloEditor::ValoreScelto() const {
     const bool scelta = parola >= 0 && parola < altraParola;
-    return (scelta ? Letto(paroleDurata.at(static_cast<std::size_t>(parola))) : 1) * volte;
+    return (scelta ? LettoColPunto(paroleDurata.at(static_cast<std::size_t>(parola))) : 1) * volte;
 }
 
 void ModelloEditor::Modifica() {
@@ -166,10 +157,11 @@ void ModelloEditor::Modifica() {
     if (!voce.spezzate.empty()) {
         const NotaEditor prima = voce.spezzate[static_cast<std::size_t>(passo)];
         NotaEditor nuova = prima;
-        if (Letto(prima.nota) != nota) nuova.nota = std::to_string(nota);
-        const bool altroValore = Letto(prima.durata) != ValoreScelto();
+        if (LettoColPunto(prima.nota) != nota) nuova.nota = std::to_string(nota);
+        const bool altroValore = LettoColPunto(prima.durata) != ValoreScelto();
         if (altroValore)
-            nuova.durata = Scritto(attributo == 3 ? ValoreScelto() * 2 / 3 : ValoreScelto());
+            nuova.durata =
+                ScrittoColPunto(attributo == 3 ? ValoreScelto() * 2 / 3 : ValoreScelto());
         nuova.attributo = attributoScelto;
         if (nuova.attributo != prima.attributo)
             nuova.nota = attributoScelto == "p" ? "00" : std::to_string(nota);
@@ -189,7 +181,8 @@ void ModelloEditor::InserisciDietro() {
         attributo == 3 ? figure.at(static_cast<std::size_t>(figura)) * 2 / 3 : ValoreScelto();
     const std::string token = attributoScelto == "p" ? "00" : std::to_string(nota);
     voce.note = voce.spezzate;
-    voce.note.insert(voce.note.begin() + passo + 1, {token, Scritto(valore), attributoScelto});
+    voce.note.insert(voce.note.begin() + passo + 1,
+                     {token, ScrittoColPunto(valore), attributoScelto});
     ++passo;
     Aggiorna();
 }

@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "core/text.h"
+#include "tests/composer/plain_numbers.h"
 
 namespace corvana::prova {
 
@@ -84,7 +85,7 @@ struct Scrivano {
         return nessuna;
     }
     void Scrivi(std::size_t i) {
-        const double durata = std::strtod(durate[i].c_str(), nullptr);
+        const double durata = LettoColPunto(durate[i]);
         const int attributo = AttributoDi(i);
         if (const int f = FiguraDi(durata * 1.5); f != nessuna) return DiTerzina(i, f);
         if (const int f = FiguraDi(durata); f != nessuna) return Semplice(i, f, attributo);
