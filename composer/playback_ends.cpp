@@ -19,6 +19,7 @@ void Esecuzione::SpegniResti() {
 
 void Esecuzione::Comincia() {
     s_.inEsecuzione = true;
+    aPassi_ = s_.passo.modoPasso;
     comandi_.MostraInPlay();
     vicine_.bloccaModifiche(true);
     vicine_.abilitaCanc(false);
@@ -96,7 +97,9 @@ void Esecuzione::LasciaIComandi() {
     vicine_.bloccaModifiche(false);
     if (melodia_.IndiceAttiva() == soprano) vicine_.abilitaAddBm(true);
     if (s_.passo.modoPasso) {
-        vicine_.spegniNoteVoci();
+        // A step that followed the Stop at once ended on this stack before the play that it
+        // stopped.
+        aPassi_ ? vicine_.spegniNoteVoci() : vicine_.spegniTutteLeNote();
     } else {
         s_.lblNe.Caption = "";
         s_.lblPnn.Caption = "";

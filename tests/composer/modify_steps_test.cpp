@@ -167,6 +167,18 @@ TEST(PassoAMano, WhileAMelodyPlaysItDoesNothing) {
     EXPECT_EQ(b.Messaggi(1).size(), 8U);
 }
 
+TEST(PassoAMano, WhatAStoppedPlayLeftSoundingIsSilencedThoughAStepFollowsAtOnce) {
+    BancoACinque b;
+    // The second note runs on into the third, which leaves it to the play's end.
+    b.Voce(soprano, "60;62;64;65;", "2;0.25;4;1;", "n;?;n;n;");
+    b.CliccaNelTick(90, "cmdPlay");
+    b.CliccaNelTick(90, "lblStep1");
+    b.Suona();
+    EXPECT_TRUE(b.passo.modoPasso);
+    EXPECT_EQ(b.finestra.stato.lblNe.Caption(), "1");
+    EXPECT_TRUE(b.uscita.NoteAccese().empty());
+}
+
 TEST(PassoAMano, EndsByItsButtonWhichLetsNotesBeDroppedAgain) {
     BancoACinque b;
     b.Passo(1);
