@@ -80,6 +80,7 @@ void Esecuzione::PreparaPasso() {
 /// The ticks of one round. False when the one note that was asked for is over.
 bool Esecuzione::Percorri() {
     while (tick_ < limiteTick_ && s_.inEsecuzione) {
+        aPassi_ = aPassi_ && s_.passo.modoPasso;
         comandi_.Cursore.Left = static_cast<int>(ArrotondaAlPari(
             static_cast<double>(tick_) / static_cast<double>(limiteTick_) * corsaCursore +
             sinistraRigaCur));

@@ -55,7 +55,7 @@ private:
     const VicinePlay& vicine_;
     const DaSuonare tratto_;
 
-    bool aPassi_ = false;  ///< it began in the step mode
+    bool aPassi_ = false;  ///< it was in the step mode all the time
     int msPerTick_ = 0;
     Tick limiteTick_ = 0;
     Tick tickPulso_ = 0;
