@@ -4,6 +4,7 @@
 #include <array>
 
 #include "composer/play_panel.h"
+#include "tests/composer/careless_editing.h"
 
 namespace corvana::prova {
 
@@ -71,6 +72,7 @@ void SuonatoreDistratto::Apri() {
     ++aperture;
     banco_ = std::make_unique<BancoComposer>();
     inceppata_ = aPassi_ = false;
+    redige_ = Capita(500);
     BancoComposer& b = *banco_;
     b.finestra.stato.lblNome.Click = [&b] { b.finestra.cmdReset_Click(); };
     PonFile();
@@ -90,7 +92,9 @@ void SuonatoreDistratto::Apri() {
 void SuonatoreDistratto::PonFile() {
     for (int i = 0; i < quantiFile; ++i) {
         std::string byte = MelodiaACaso();
-        if (i == 0) byte.resize(static_cast<std::size_t>(Tra(0, static_cast<int>(byte.size()))));
+        // A file that was cut off and then edited can hold numbers that no message can.
+        if (i == 0 && !redige_)
+            byte.resize(static_cast<std::size_t>(Tra(0, static_cast<int>(byte.size()))));
         banco_->PonFile("melody" + std::to_string(i), byte);
     }
     banco_->file.supportoRimovibile = Capita(500) ? "/medium/" : "";
@@ -113,7 +117,7 @@ std::string SuonatoreDistratto::VoceACaso(bool strana) {
 }
 
 std::string SuonatoreDistratto::MelodiaACaso() {
-    const bool strana = Capita(400);
+    const bool strana = !redige_ && Capita(400);
     std::string byte = VoceACaso(strana) + " " + std::to_string(Tra(20, 250)) + " \r\n";
     byte += Capita(500) ? " 16 \r\n" : "0;" + std::to_string(Tra(1, 9)) + ";8;1\r\n";
     for (const char* voce : {"contralto", "tenore", "basso"})
@@ -139,7 +143,7 @@ void SuonatoreDistratto::Agisci() {
     const auto [controllo, evento] = Gesto();
     Evento e = banco_->Fatta(evento, controllo);
     if (Capita(30)) e.controllo = Tra(0, static_cast<int>(banco_->finestra.Controlli().size()) - 1);
-    if (e.fatto == Fatto::Click && std::string(controllo) == "cmdEseguiFile") ++caricate;
+    if (e.fatto == Fatto::Click && controllo == "cmdEseguiFile") ++caricate;
     const auto& controlli = banco_->finestra.Controlli();
     aPassi_ = aPassi_ || controlli[std::size_t(e.controllo)]->Name.starts_with("lblStep");
     banco_->coda.Aggiungi(std::move(e));
@@ -153,7 +157,9 @@ void SuonatoreDistratto::Inceppa() {
     banco_->globali.PickerAperto = Capita(100);
 }
 
-std::pair<const char*, Evento> SuonatoreDistratto::Gesto() {
+std::pair<std::string, Evento> SuonatoreDistratto::Gesto() {
+    if (redige_ && Capita(600))
+        return GestoDiRedazione([this](int basso, int alto) { return Tra(basso, alto); });
     int dado = Tra(0, 99);
     const auto* scelta = abitudini.begin();
     while (dado >= scelta->suCento && scelta + 1 != abitudini.end())

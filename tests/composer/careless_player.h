@@ -1,6 +1,6 @@
-// A user of the melody window who plays, stops, loads, saves, empties and turns knobs without
-// waiting for anything, for virtual hours, and opens the window again when it closes. All that he
-// does comes from one seed.
+// A user of the melody window who enters, edits, plays, stops, loads, saves, empties and turns
+// knobs without waiting for anything, for virtual hours, and opens the window again when it closes.
+// All that he does comes from one seed.
 #pragma once
 
 #include <memory>
@@ -37,7 +37,7 @@ private:
     void Passo();
     void Agisci();
     void Inceppa();
-    std::pair<const char*, Evento> Gesto();
+    std::pair<std::string, Evento> Gesto();
 
     /// Notes the first thing that is wrong and ends the script.
     void Esigi(bool vero, const std::string& cosa);
@@ -48,6 +48,7 @@ private:
     int rimasti_;
     std::unique_ptr<BancoComposer> banco_;
     bool inceppata_ = false;  ///< a message may have failed since the window was opened
+    bool redige_ = false;     ///< enters and edits too, melodies that an editor can make
     bool aPassi_ = false;     ///< a step may have been taken, which leaves a button disabled
 };
 
