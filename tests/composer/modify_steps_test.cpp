@@ -179,21 +179,6 @@ TEST(PassoAMano, WhatAStoppedPlayLeftSoundingIsSilencedThoughAStepFollowsAtOnce)
     EXPECT_TRUE(b.uscita.NoteAccese().empty());
 }
 
-TEST(PassoAMano, TheSameOfAStepThatAVoiceChosenMeanwhileMadeAWholePlayThatLoops) {
-    BancoACinque b;
-    b.Voce(soprano, "60;62;64;65;", "2;0.25;4;1;", "n;?;n;n;");
-    const double inizio = b.pompa.Adesso();
-    b.Clicca(inizio + 0.1, "chekLoop", 1);
-    b.Clicca(inizio + 0.1, "VoceAttiva0");
-    // In the second round.
-    constexpr double secondoGiro = 232 * 0.031 + 0.502;
-    b.Clicca(inizio + secondoGiro + 90 * 0.031, "cmdPlay");
-    b.Clicca(inizio + secondoGiro + 90 * 0.031, "lblStep1");
-    b.Passo(1);
-    EXPECT_TRUE(b.passo.modoPasso);
-    EXPECT_TRUE(b.uscita.NoteAccese().empty());
-}
-
 TEST(PassoAMano, EndsByItsButtonWhichLetsNotesBeDroppedAgain) {
     BancoACinque b;
     b.Passo(1);
