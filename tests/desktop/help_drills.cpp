@@ -18,24 +18,27 @@ void Ferma(Fotografo& f, const char* bottone) {
     Deve(Aspetta([&] { return f.Testo(bottone) == "Start"; }));
 }
 
-/// In the drill of that entry of the main menu, whose button is `bottone`.
-void Esercizio(Fotografo& f, const char* voce, const char* nome, const char* bottone,
-               const std::function<void()>& gioca) {
-    f.ScattaSopra(
-        nome, "frmInto",
-        [&] {
-            f.Scegli(voce);
-            f.Attendi("frmInto");
-            Deve(Aspetta([&] { return f.Di("cmdEsci").isVisible(); }));
-            gioca();
-        },
-        [&] { Ferma(f, bottone); });
+struct Prova {
+    const char* voce;     ///< entry of the main menu
+    const char* pagina;   ///< the frame of its page
+    const char* bottone;  ///< starts and stops it
+    const char* nome;     ///< the picture's
+};
+
+void Esercizio(Fotografo& f, const Prova& prova, const std::function<void()>& gioca) {
+    const auto apri = [&] {
+        f.Scegli(prova.voce);
+        f.Attendi("frmInto");
+        Deve(Aspetta([&] { return f.Di(prova.pagina).isVisible(); }));
+        gioca();
+    };
+    f.ScattaSopra(prova.nome, "frmInto", apri, [&] { Ferma(f, prova.bottone); });
 }
 
 /// With the answer shown.
 void Altezza(Fotografo& f) {
-    f.Premi("lblIntoSh");
     Comincia(f, "IntoStart");
+    f.Premi("lblIntoSh");
     Deve(Aspetta([&] { return !f.Stato("lblIntoNN").Caption.empty(); }));
 }
 
@@ -49,18 +52,20 @@ void Accordi(Fotografo& f) {
 }  // namespace
 
 void EserciziOrecchio(Fotografo& f) {
-    Esercizio(f, "Intonazione", "pitch", "IntoStart", [&] { Altezza(f); });
-    Esercizio(f, "mnuRint", "intervals", "CmdIntStart", [&] {
+    Esercizio(f, {"Intonazione", "frmInto2", "IntoStart", "pitch"}, [&] { Altezza(f); });
+    Esercizio(f, {"mnuRint", "FrmIntervalli", "CmdIntStart", "intervals"}, [&] {
         Comincia(f, "CmdIntStart");
         f.Premi("lblIntSh");
         Deve(Aspetta([&] { return !f.Stato("lblNs").Caption.empty(); }));
     });
-    Esercizio(f, "mnuRac", "chords", "ComdRacStart", [&] { Accordi(f); });
-    Esercizio(f, "mnuRicTasto", "piano-keys", "cmdRicTasto", [&] { Comincia(f, "cmdRicTasto"); });
-    Esercizio(f, "mnuRicTo", "tonalities", "cmdT", [&] {
+    // In this order none of them is hidden by the page of one that was shown before.
+    Esercizio(f, {"mnuRicTo", "frmTo", "cmdT", "tonalities"}, [&] {
         f.Premi("cmdT");
         Deve(Aspetta([&] { return f.Testo("cmdT") == "Stop"; }));
     });
+    Esercizio(f, {"mnuRicTasto", "frmRicTasto", "cmdRicTasto", "piano-keys"},
+              [&] { Comincia(f, "cmdRicTasto"); });
+    Esercizio(f, {"mnuRac", "frmRacc", "ComdRacStart", "chords"}, [&] { Accordi(f); });
 }
 
 }  // namespace corvana::prova
