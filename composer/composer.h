@@ -4,6 +4,7 @@
 // outlive it. Logic thread.
 #pragma once
 
+#include "composer/backgrounds.h"
 #include "composer/bookmark_panel.h"
 #include "composer/composer_menu.h"
 #include "composer/entry_panel.h"
@@ -46,6 +47,7 @@ private:
     HoverFinestra hover_;
 
 public:
+    SfondiComposer sfondi{*this};
     StatoComposer stato{*this};
     MenuComposer menu{*this};
     PannelloVoci voci;

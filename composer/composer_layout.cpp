@@ -1,81 +1,105 @@
+// The window as a whole: its menus, its upper edge, the ruler, the play, and the keyboard.
 #include "composer/composer_layout.h"
 
 #include <array>
 
-#include "composer/play_panel.h"
-#include "composer/range_arrows.h"
+#include "composer/composer.h"
+#include "composer/composer_places.h"
 
 namespace corvana {
 
 namespace {
 
-/// The places that movements are measured from, in twips, and the texts before a language is
-/// applied.
-constexpr std::array posti = {
-    Posto{"frmComposer", 0, 0, 0, 0, "Composizione melodie e armonie"},
+constexpr std::array postiMenu = {
+    Posto{"file", 0, 0, 0, 0, "&File"},
+    Posto{"mnuApri", 0, 0, 0, 0, "Apri..."},
+    Posto{"mnuSalva", 0, 0, 0, 0, "Salva"},
+    Posto{"mnuSaveAs", 0, 0, 0, 0, "Salva con nome..."},
+    Posto{"mnuSalvaA", 0, 0, 0, 0, "Salva su supporto rimovibile..."},
+    Posto{"mnuChiudi", 0, 0, 0, 0, "Chiudi"},
+    Posto{"strumento", 0, 0, 0, 0, "&Strumento"},
     Posto{"mnuPiano", 0, 0, 0, 0, "Pianoforte"},
     Posto{"mnuOrgano", 0, 0, 0, 0, "Organo"},
+    Posto{"mnuSs", 0, 0, 0, 0, "Scegli ..."},
+    Posto{"mnuOp", 0, 0, 0, 0, "&Opzioni"},
     Posto{"mnuNotLat", 0, 0, 0, 0, "Do,Re,Mi"},
     Posto{"mnuNotAnglo", 0, 0, 0, 0, "C,D,E"},
-    Posto{"mnuSs", 0, 0, 0, 0, "Scegli ..."},
     Posto{"mnuPlayRitardo", 0, 0, 0, 0, "Play (ritardo 5 Sec.)"},
-    Posto{"Regolo", 75, 945, 360, 3120},
-    Posto{"lblCursore", 60, 0, 75, 165},
-    Posto{"lblAccidente", 135, 0, 165, 165, "#"},
-    Posto{"lblRigaCur", sinistraRigaCur, 0, corsaCursore, 0},
-    Posto{"Cursore", sinistraRigaCur, 0, 0, 0},
-    Posto{"PausaPer", 0, 0, 0, 0, "1"},
-    Posto{"Label4", 0, 0, 0, 0, "x"},
-    Posto{"lblAt", 0, 0, 0, 0, " >"},
-    Posto{"ckConsAttLb", 0, 0, 0, 0, "Mantieni l'attributo"},
-    Posto{"cmdInsNota", 0, 0, 0, 0, "Nota"},
-    Posto{"cmdInsPausa", 0, 0, 0, 0, "Pausa"},
-    Posto{"cmdAttrNota1", 0, 0, 0, 0, {}, "Staccato"},
-    Posto{"cmdAttrNota4", 0, 0, 0, 0, {}, "Appoggiato"},
-    Posto{"cmdAttrNota5", 0, 0, 0, 0, {}, "Accentato"},
-    Posto{"cmdCanc", 0, 0, 0, 0, "Canc."},
-    Posto{"cmdReset", 0, 0, 0, 0, {}, "Cancella l'intera sequenza"},
-    Posto{"cmdPaste", 0, 0, 0, 0, "Incolla", "Incolla alla fine da nota inizio a nota fine"},
-    Posto{"frmModifica", 0, 0, 0, 0, {}, "Strumenti per modificare la nota suonata"},
-    Posto{"lblActualNote", 0, 0, 0, 0, "Nota attiva"},
-    Posto{"cmdModifica0", 0, 0, 0, 0, {}, "Modifica"},
-    Posto{"cmdInsertNote", 0, 0, 0, 0, {}, "Inserisci nota"},
-    Posto{"cmdCancNota", 0, 0, 0, 0, {}, "Cancella nota"},
-    Posto{"cmdNpp", 0, 0, 0, 0, {}, "Chiudi PassoPasso/Modifica"},
-    Posto{"cmdPlay", 0, 0, 0, 0, "Play"},
-    Posto{"cmdEseguiFile", 0, 0, 0, 0, "Play"},
-    Posto{"cmdDelBm", 0, 0, 0, 0, "Elimina"},
-    Posto{"lblTs", 0, 0, 0, 0, "Off", "Metronomo On/Off"},
-    Posto{"VoceAttiva0", 0, 0, 0, 0, "S"},
-    Posto{"VoceAttiva1", 0, 0, 0, 0, "C"},
-    Posto{"VoceAttiva2", 0, 0, 0, 0, "T"},
-    Posto{"VoceAttiva3", 0, 0, 0, 0, "B"},
-    Posto{"lblMuteC0", 0, 0, 0, 0, " ^ -- _ "},
-    Posto{"lblMuteC1", 0, 0, 0, 0, " ^ -- _ "},
-    Posto{"lblMuteC2", 0, 0, 0, 0, " ^ -- _ "},
-    Posto{"lblMuteC3", 0, 0, 0, 0, " ^ -- _ "},
-    Posto{"Label5", 0, 0, 0, 0, "Trasponi"},
-    Posto{"lblIDs0", 0, 0, 0, 0, "-"},
-    Posto{"lblIDs1", 0, 0, 0, 0, "+"},
-    Posto{"lblSemitoni", 0, 0, 0, 0, "0",
-          "Clicca per trasporre la melodia per i semitoni indicati"},
-    Posto{"Pulsazioni", 0, 0, 0, 0, {}, "Numero di pulsazioni"},
-    Posto{"DurataPulsazioni", 0, 0, 0, 0, {}, "Durata pulsazioni"},
-    Posto{"LblInizioPuls", 0, 0, 0, 0, "1", "Pulsazione d'inizio"},
-    Posto{"cmdCm", 0, 0, 0, 0, "×"},
-    Posto{"pictCi", 0, 0, 0, 0, "Scegli ..."},
-    Posto{"lblVolS", 0, 0, 0, 0, "100"},
-    Posto{"lblVolC", 0, 0, 0, 0, "100"},
-    Posto{"lblVolT", 0, 0, 0, 0, "100"},
-    Posto{"lblVolB", 0, 0, 0, 0, "100"},
+    Posto{"mnuApriCont", 0, 0, 0, 0, "Apri..."},
+    Posto{"mnuSalvaCont", 0, 0, 0, 0, "Salva"},
+    Posto{"mnuSaveAsCont", 0, 0, 0, 0, "Salva con nome..."},
+    Posto{"mnucSalvaA", 0, 0, 0, 0, "Salva su supporto rimovibile..."},
+    Posto{"mnuPianoCont", 0, 0, 0, 0, "Pianoforte"},
+    Posto{"mnuOrganoCont", 0, 0, 0, 0, "Organo"},
+    Posto{"mnuSsCont", 0, 0, 0, 0, "Scegli ..."},
 };
+
+constexpr std::array postiFinestra = {
+    Posto{"frmComposer", 0, 0, 17700, 9480, "Composizione melodie e armonie", {}, "ornamento"},
+    Posto{"ShToolbar", 180, 150, 120, 540, {}, {}, "tondo nome:mnuApri"},
+    Posto{"frToolBar", 390, 120, 3150, 600},
+    Posto{"ToolButton1", 0, 60, 480, 480, {}, {}, "icona:ritardo"},
+    Posto{"ToolButton2", 525, 60, 480, 480, {}, {}, "icona:strumenti"},
+    Posto{"ToolButton3", 1050, 60, 480, 480, {}, {}, "icona:apri"},
+    Posto{"ToolButton4", 1575, 60, 480, 480, {}, {}, "icona:salva"},
+    Posto{"ToolButton5", 2100, 60, 480, 480, {}, {}, "icona:salvacome"},
+    Posto{"ToolButton6", 2625, 60, 480, 480, {}, {}, "icona:aiuto"},
+    Posto{"lblNome", 3780, 120, 7050, 600, {}, {}, "carta titolo centro mezzo"},
+    Posto{"lblModificato", 10950, 180, 480, 480, "*", {}, "icona:modificata"},
+    Posto{"pictCi", 13500, 120, 3090, 600, "Scegli ...", {}, "scelta forte"},
+    Posto{"cmdCm", 16980, 150, 540, 540, "×", {}, "chiudi"},
+};
+
+constexpr std::array postiPlay = {
+    Posto{"Shape0", 540, 810, 16050, 870, {}, {}, "pannello"},
+    Posto{"cmdPlay", 660, 900, 1380, 690, "Play", {}, "principale"},
+    Posto{"lblNe", 2190, 900, 825, 300, {}, {}, "tondo centro mezzo forte"},
+    Posto{"lblNt", 3135, 900, 825, 300, {}, {}, "tondo centro mezzo"},
+    Posto{"Secondo0", 2190, 1230, 180, 180, {}, {}, "secondo"},
+    Posto{"Secondo1", 2588, 1230, 180, 180, {}, {}, "secondo"},
+    Posto{"Secondo2", 2985, 1230, 180, 180, {}, {}, "secondo"},
+    Posto{"Secondo3", 3382, 1230, 180, 180, {}, {}, "secondo"},
+    Posto{"Secondo4", 3780, 1230, 180, 180, {}, {}, "secondo"},
+    Posto{"lblRigaCur", sinistraRigaCur, 1440, corsaCursore, 150, {}, {}, "corsa"},
+    Posto{"Cursore", sinistraRigaCur, 1410, 120, 210, {}, {}, "cursore"},
+    Posto{"lblPnn", 4200, 900, 1080, 690, {}, {}, "riquadro nome centro mezzo"},
+    Posto{"chekLoop", 5370, 1080, 300, 330, {}, {}, "nome:chekLoopLb"},
+    Posto{"chekLoopLb", 5730, 1080, 1260, 330, "Ripeti", {}, "mezzo"},
+    Posto{"cmdAddBm", 7200, 975, 1080, 540, "M.R."},
+    Posto{"cmdPaste", 8400, 975, 1440, 540, "Incolla",
+          "Incolla alla fine da nota inizio a nota fine"},
+    Posto{"Label5", 10500, 975, 1950, 540, "Trasponi", {}, "destra mezzo"},
+    Posto{"lblIDs0", 12600, 975, 540, 540, "-", {}, "pulsante titolo"},
+    Posto{"lblSemitoni", 13200, 975, 900, 540, "0",
+          "Clicca per trasporre la melodia per i semitoni indicati", "pulsante titolo"},
+    Posto{"lblIDs1", 14160, 975, 540, 540, "+", {}, "pulsante titolo"},
+    Posto{"segnoTempo", 16770, 810, 360, 870, {}, {}, "figura:2 nuda"},
+    Posto{"Velocità", 17100, 810, 600, 870, {}, {}, "titolo mezzo"},
+    Posto{"Slider1", 16830, 1800, 600, 3780, {}, {}, "consiglio:Velocità"},
+};
+
+/// The places that movements are measured from.
+constexpr std::array postiRegolo = {
+    Posto{"Regolo", 75, 945, 360, 3120, {}, {}, "tondo"},
+    Posto{"lblCursore", 60, 0, 75, 165},
+    Posto{"lblAccidente", 135, 0, 165, 165, "#", {}, "piccolo forte centro mezzo"},
+};
+
+constexpr Rettangolo postoTasti{540, 7920, 12360, 1432};
+constexpr Colore coloreSecondi = Rgb(242, 184, 75);
 
 }  // namespace
 
-void DisponiComposer(Form& finestra) {
-    Disponi(finestra, posti.data(), posti.size());
-    for (int i = 0; i < numeroFrecce; ++i)
-        finestra.Trova("lblid" + std::to_string(i))->PonTesto(i % 2 ? ">" : "<");
+void DisponiComposer(frmComposer& f) {
+    Disponi(f, postiMenu.data(), postiMenu.size());
+    Disponi(f, postiFinestra.data(), postiFinestra.size());
+    Disponi(f, postiPlay.data(), postiPlay.size());
+    Disponi(f, postiRegolo.data(), postiRegolo.size());
+    DisponiVoci(f);
+    DisponiSchede(f);
+    f.tasti.tastiera.PonPosto(postoTasti);
+    for (Figura& luce : f.play.Secondo)
+        luce.BackColor = coloreSecondi;
 }
 
 }  // namespace corvana

@@ -1,6 +1,7 @@
 #include "desktop/face_painter.h"
 
 #include "desktop/gradient_painter.h"
+#include "desktop/icon_painter.h"
 #include "desktop/style_words.h"
 #include "desktop/theme.h"
 
@@ -9,6 +10,7 @@ namespace corvana {
 namespace {
 
 constexpr double raggioPulsante = 7;
+constexpr double ariaIcona = 5;  ///< designed pixels around the picture on a button
 constexpr double rientroRiquadro = 8;  ///< beside the text, in designed pixels
 
 QColor Sotto(QColor colore, const Tocco& tocco) {
@@ -81,6 +83,8 @@ void DipingiBottone(QPainter& p, const QRectF& area, const Aspetto& a, double sc
     Aspetto centrato = a;
     centrato.stile << QStringLiteral("centro") << QStringLiteral("mezzo");
     DipingiTesto(p, faccia, centrato, scala, tocco.abilitato);
+    const double aria = ariaIcona * scala;
+    if (EIcona(a.stile)) DipingiIcona(p, faccia.adjusted(aria, aria, -aria, -aria), a.stile, tocco);
 }
 
 void DipingiTesto(QPainter& p, const QRectF& area, const Aspetto& a, double scala, bool abilitato) {

@@ -8,6 +8,7 @@
 #include "desktop/chart_view.h"
 #include "desktop/choice_view.h"
 #include "desktop/combo_view.h"
+#include "desktop/figure_view.h"
 #include "desktop/keyboard_view.h"
 #include "desktop/light_view.h"
 #include "desktop/list_view.h"
@@ -73,6 +74,9 @@ constexpr RigaFaccia facce[] = {
     {Genere::Figura, "ammissione", Dipinta<VistaAmmissione>},
     {Genere::Figura, "detto", Dipinta<VistaDetto>},
     {Genere::Figura, "tastino", Dipinta<VistaTastino>},
+    {Genere::Figura, "figura:", Dipinta<VistaFigura>},
+    {Genere::Figura, "voce", Dipinta<VistaVoceAttiva>},
+    {Genere::Figura, "corsa", Dipinta<VistaCorsa>},
     {Genere::Figura, "icona:", Dipinta<VistaIcona>},
     {Genere::Figura, "", Dipinta<VistaSemplice>},
 };

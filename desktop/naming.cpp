@@ -6,7 +6,7 @@ namespace corvana {
 
 namespace {
 
-const QLatin1String prefisso("nome:");
+const QLatin1String prefisso("nome:"), prefissoConsiglio("consiglio:");
 
 const Vista* Cerca(const std::vector<std::unique_ptr<Vista>>& viste, const QString& nome) {
     const auto e = std::find_if(viste.begin(), viste.end(),
@@ -18,11 +18,12 @@ const Vista* Cerca(const std::vector<std::unique_ptr<Vista>>& viste, const QStri
 
 Nominatore::Nominatore(const std::vector<std::unique_ptr<Vista>>& viste) {
     for (const auto& vista : viste) {
-        std::vector<const Vista*> etichette;
+        std::vector<Etichetta> etichette;
         for (const QString& parola : vista->Stato().stile)
-            if (parola.startsWith(prefisso))
-                if (const Vista* etichetta = Cerca(viste, parola.mid(prefisso.size())))
-                    etichette.push_back(etichetta);
+            for (const QLatin1String& inizio : {prefisso, prefissoConsiglio})
+                if (parola.startsWith(inizio))
+                    if (const Vista* etichetta = Cerca(viste, parola.mid(inizio.size())))
+                        etichette.push_back({etichetta, inizio == prefissoConsiglio});
         if (!etichette.empty()) nominate_.push_back({vista.get(), std::move(etichette)});
     }
     Rinnova();
@@ -31,8 +32,11 @@ Nominatore::Nominatore(const std::vector<std::unique_ptr<Vista>>& viste) {
 void Nominatore::Rinnova() const {
     for (const Nominata& nominata : nominate_) {
         QStringList nomi;
-        for (const Vista* etichetta : nominata.etichette)
-            nomi.append(SenzaAccesso(InQt(etichetta->Stato().Caption)).simplified());
+        for (const Etichetta& etichetta : nominata.etichette) {
+            const Aspetto& detta = etichetta.vista->Stato();
+            nomi.append(etichetta.consiglio ? InQt(detta.ToolTipText)
+                                            : SenzaAccesso(InQt(detta.Caption)).simplified());
+        }
         const QString nome = nomi.join(QLatin1Char(' '));
         if (nominata.vista->NomeDetto() != nome) nominata.vista->PonNomeDetto(nome);
     }

@@ -1,6 +1,6 @@
 // Gives names to controls that say nothing themselves: style words "nome:" and a label's name. What
-// such labels say, one after the other, is what a screen reader says for the control. GUI thread;
-// the views must outlive it.
+// such labels say, one after the other, is what a screen reader says for the control; of one that
+// is named by "consiglio:" it is the tool tip. GUI thread; the views must outlive it.
 #pragma once
 
 #include <memory>
@@ -18,9 +18,13 @@ public:
     void Rinnova() const;
 
 private:
+    struct Etichetta {
+        const Vista* vista;
+        bool consiglio;
+    };
     struct Nominata {
         Vista* vista;
-        std::vector<const Vista*> etichette;
+        std::vector<Etichetta> etichette;
     };
     std::vector<Nominata> nominate_;
 };

@@ -70,6 +70,7 @@ void VistaColonne::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) 
 }
 
 void VistaIcona::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
+    if (Stato().Ha("pulsante")) return DipingiBottone(p, area, Stato(), Scala(), tocco);
     DipingiFondo(p, area, Stato(), Scala(), tocco);
     DipingiIcona(p, area, Stato().stile, tocco);
     if (tocco.fuoco) DipingiAnello(p, area, Scala());

@@ -31,6 +31,8 @@ const ParolaStile parole[] = {
     {"barra", {}, FormaFondo{6, true, false, nullptr}},
     {"riquadro", {}, FormaFondo{5, true, false, &tinta::carta}},
     {"ammissione", {}, FormaFondo{4, true, true, nullptr}},
+    {"riga", {}, FormaFondo{8, true, false, nullptr}},
+    {"cursore", {}, FormaFondo{4, false, false, &tinta::accento}},
     {"tondo", {}, FormaFondo{5, false, false, nullptr}},
     {"fitta", Lettere{13, semi}},
     {"titolo", Lettere{15, semi}},
@@ -59,9 +61,11 @@ const ParolaStile parole[] = {
     {"tasti"},
     {"ornamento"},
     {"scheda"},
+    {"nuda"},
     // Another control covers it; others name it.
     {"dietro"},
     {"nome:"},
+    {"consiglio:"},
     // The arrow keys go from one to the next.
     {"griglia:"},
 };

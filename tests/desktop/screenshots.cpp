@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdlib>
 
+#include "tests/desktop/composer_screenshots.h"
 #include "tests/desktop/keyboard_stage.h"
 #include "tests/desktop/program_stage.h"
 
@@ -242,6 +243,7 @@ int main(int argc, char** argv) {
         FotografaBattito(servizio);
         FotografaSecondarie(servizio);
         FotografaOrecchio(servizio);
+        FotografaComposer(scrivania, [&](const QString& nome) { servizio.Scatta(nome); });
         FotografaPromemoria(servizio);
     }
     scrivania.Termina();

@@ -1,0 +1,80 @@
+// The cards beneath the voices, and the palette beside the keyboard.
+#include <array>
+
+#include "composer/composer.h"
+#include "composer/composer_places.h"
+
+namespace corvana {
+
+namespace {
+
+constexpr std::array postiSchede = {
+    Posto{"Shape5", 540, 5730, 3600, 2040, {}, {}, "pannello"},
+    Posto{"Label6", 750, 5910, 660, 660, {}, {}, "icona:metronomo"},
+    Posto{"lblTs", 690, 6720, 810, 510, "Off", "Metronomo On/Off", "pulsante forte"},
+    Posto{"frMetro", 1620, 5820, 2430, 1860},
+    Posto{"Pulsazioni", 120, 120, 930, 480, {}, "Numero di pulsazioni"},
+    Posto{"DurataPulsazioni", 120, 720, 930, 480, {}, "Durata pulsazioni"},
+    Posto{"InizioPuls", 1230, 60, 390, 1200, {}, {}, "consiglio:LblInizioPuls"},
+    Posto{"LblInizioPuls", 1680, 420, 660, 480, "1", "Pulsazione d'inizio", "cifra mezzo"},
+    Posto{"VolumeMetro", 120, 1380, 1560, 390, {}, {}, "consiglio:lblTs"},
+    Posto{"lblDebug", 1740, 1380, 630, 390, {}, {}, "piccolo centro mezzo"},
+    Posto{"Shape6", 4260, 5730, 5460, 2040, {}, {}, "pannello"},
+    Posto{"lblStep0", 4380, 6330, 660, 840, {}, {}, "pulsante icona:indietro"},
+    Posto{"lblStep1", 5100, 6330, 660, 840, {}, {}, "pulsante icona:avanti"},
+    Posto{"frmModifica", 5850, 5820, 3810, 1860, {}, "Strumenti per modificare la nota suonata"},
+    Posto{"lblActualNote", 60, 150, 1290, 660, "Nota attiva", {}, "riquadro titolo centro mezzo"},
+    Posto{"cmbDurata", 1440, 180, 1350, 600},
+    Posto{"cmbPer", 2880, 180, 870, 600},
+    Posto{"cmbAttributi", 60, 1050, 900, 600},
+    Posto{"cmdModifica0", 1050, 1035, 630, 630, {}, "Modifica", "icona:modifica"},
+    Posto{"cmdInsertNote", 1740, 1035, 630, 630, {}, "Inserisci nota", "icona:inserisci"},
+    Posto{"cmdCancNota", 2430, 1035, 630, 630, {}, "Cancella nota", "icona:cancella"},
+    Posto{"cmdNpp", 3120, 1035, 630, 630, {}, "Chiudi PassoPasso/Modifica", "icona:fatto"},
+    Posto{"frBookMark", 9840, 5730, 3060, 2040, {}, {}, "pannello"},
+    Posto{"lstBookMark", 90, 90, 2880, 1320},
+    Posto{"cmdDelBm", 90, 1470, 1380, 480, "Elimina"},
+};
+
+constexpr std::array postiAttrezzi = {
+    Posto{"Shape7", 13020, 5730, 4500, 3600, {}, {}, "pannello"},
+    Posto{"cmdSimbNote0", 13125, 5850, 585, 720, {}, {}, "figura:0"},
+    Posto{"cmdSimbNote1", 13740, 5850, 585, 720, {}, {}, "figura:1"},
+    Posto{"cmdSimbNote2", 14355, 5850, 585, 720, {}, {}, "figura:2"},
+    Posto{"cmdSimbNote3", 14970, 5850, 585, 720, {}, {}, "figura:3"},
+    Posto{"cmdSimbNote4", 15585, 5850, 585, 720, {}, {}, "figura:4"},
+    Posto{"cmdSimbNote5", 16200, 5850, 585, 720, {}, {}, "figura:5"},
+    Posto{"cmdSimbNote6", 16815, 5850, 585, 720, {}, {}, "figura:6"},
+    Posto{"cmdAttrNota0", 13125, 6630, 585, 720, {}, {}, "figura:punto"},
+    Posto{"cmdAttrNota1", 13740, 6630, 585, 720, {}, "Staccato", "figura:staccato"},
+    Posto{"cmdAttrNota2", 14355, 6630, 585, 720, {}, {}, "figura:legatura"},
+    Posto{"cmdAttrNota3", 14970, 6630, 585, 720, {}, {}, "figura:terzina"},
+    Posto{"cmdAttrNota4", 15585, 6630, 585, 720, {}, "Appoggiato", "figura:appoggiato"},
+    Posto{"cmdAttrNota5", 16200, 6630, 585, 720, {}, "Accentato", "figura:accento"},
+    Posto{"lblAt", 16815, 6630, 585, 720, " >", {}, "figura:maggiore"},
+    Posto{"ckConsAtt", 13170, 7440, 300, 330, {}, {}, "nome:ckConsAttLb"},
+    Posto{"ckConsAttLb", 13530, 7440, 3840, 330, "Mantieni l'attributo", {}, "mezzo"},
+    Posto{"lblActNote", 13140, 7860, 1140, 660, {}, {}, "riquadro nome centro mezzo"},
+    Posto{"cmdInsNota", 14370, 7860, 1620, 660, "Nota", {}, "principale"},
+    Posto{"cmdInsPausa", 16080, 7860, 1320, 660, "Pausa", {}, "principale"},
+    Posto{"Label4", 13140, 8640, 540, 540, "x", {}, "pulsante titolo consiglio:PausaPer"},
+    Posto{"PausaPer", 13740, 8640, 750, 540, "1", {}, "centro"},
+    Posto{"cmdCanc", 14700, 8640, 1440, 540, "Canc."},
+    Posto{"cmdReset", 16800, 8640, 600, 540, {}, "Cancella l'intera sequenza", "icona:cestino"},
+    Posto{"Fr2", 13020, 5730, 4500, 3600, {}, {}, "pannello"},
+    Posto{"lblPercorso", 120, 90, 4260, 510, {}, {}, "piccolo mezzo"},
+    Posto{"List1", 120, 660, 4260, 2190},
+    Posto{"cmdEseguiFile", 120, 2970, 1800, 510, "Play", {}, "principale"},
+    Posto{"cmdDelete", 2040, 2970, 1800, 510},
+};
+
+}  // namespace
+
+void DisponiSchede(frmComposer& f) {
+    Disponi(f, postiSchede.data(), postiSchede.size());
+    Disponi(f, postiAttrezzi.data(), postiAttrezzi.size());
+    // It lights as the other signs do; while it is out its ground isn't painted.
+    f.inserimento.lblAt.BackColor = f.inserimento.ColoreAcceso;
+}
+
+}  // namespace corvana

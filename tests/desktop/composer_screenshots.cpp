@@ -1,0 +1,101 @@
+#include "tests/desktop/composer_screenshots.h"
+
+#include <QAction>
+#include <QListWidget>
+#include <utility>
+
+namespace corvana::prova {
+
+namespace {
+
+class Seduta {
+public:
+    Seduta(Scrivania& scrivania, const std::function<void(const QString&)>& scatta)
+        : scrivania_(scrivania), scatta_(scatta) {}
+
+    void Scatta(const char* nome) {
+        scatta_(QStringLiteral("frmComposer-") + QString::fromLatin1(nome));
+    }
+    void Premi(const QString& nome) {
+        Clicca(scrivania_, nome);
+        Respira();
+    }
+    void Scegli(const char* voce) {
+        TrovaVoce(scrivania_, QString::fromLatin1(voce)).trigger();
+        Respira();
+    }
+    const Aspetto& Stato(const QString& nome) { return StatoDi(scrivania_, nome); }
+    Cosa Di(const char* nome) { return Trova(scrivania_, QString::fromLatin1(nome)); }
+    /// Lets the logic answer and what it says come to the screen.
+    void Respira() {
+        int passate = 0;
+        Aspetta([&] { return ++passate > 5; });
+    }
+    int Accesi() {
+        int accesi = 0;
+        for (int tasto = 0; tasto < 60; ++tasto)
+            accesi += Stato(QStringLiteral("lb%1").arg(tasto)).BackStyle == fondoOpaco ? 1 : 0;
+        return accesi;
+    }
+
+private:
+    Scrivania& scrivania_;
+    const std::function<void(const QString&)>& scatta_;
+};
+
+void ScriviQualcosa(Seduta& s) {
+    for (const char* figura : {"cmdSimbNote2", "cmdSimbNote4", "cmdSimbNote3", "cmdSimbNote5"}) {
+        s.Premi(QString::fromLatin1(figura));
+        s.Premi(QStringLiteral("cmdInsPausa"));
+        s.Premi(QStringLiteral("cmdInsNota"));
+    }
+    s.Premi(QStringLiteral("ckConsAtt"));
+    s.Premi(QStringLiteral("cmdAttrNota3"));
+    s.Premi(QStringLiteral("Label4"));
+}
+
+void ApriMelodia(Seduta& s, const QString& inizio) {
+    s.Scegli("mnuApri");
+    Aspetta([&] { return s.Di("Fr2").isVisible(); });
+    auto& lista = s.Di("List1").Come<QListWidget>();
+    Aspetta([&] { return lista.count() > 1; });
+    const auto righe = lista.findItems(inizio, Qt::MatchStartsWith);
+    if (!righe.isEmpty()) lista.setCurrentItem(righe.front());
+    s.Respira();
+    s.Scatta("files");
+    s.Premi(QStringLiteral("cmdEseguiFile"));
+}
+
+void Ferma(Seduta& s) {
+    s.Premi(QStringLiteral("cmdPlay"));
+    Aspetta([&] { return s.Stato(QStringLiteral("cmdPlay")).Caption == "Play"; });
+}
+
+}  // namespace
+
+void FotografaComposer(Scrivania& scrivania, const std::function<void(const QString&)>& scatta) {
+    Seduta s(scrivania, scatta);
+    s.Scegli("mnuComposer");
+    AspettaFinestra(scrivania, QStringLiteral("frmComposer"));
+    s.Scatta("empty");
+    ScriviQualcosa(s);
+    s.Scatta("entering");
+    s.Premi(QStringLiteral("cmdAttrNota3"));
+    s.Premi(QStringLiteral("cmdReset"));
+    ApriMelodia(s, QStringLiteral("Salmo"));
+    Aspetta([&] { return s.Accesi() > 3 && s.Stato(QStringLiteral("lblNe")).Caption == "3"; });
+    s.Scatta("playing");
+    Ferma(s);
+    s.Scatta("loaded");
+    s.Premi(QStringLiteral("VoceAttiva1"));
+    s.Premi(QStringLiteral("lblTs"));
+    s.Premi(QStringLiteral("lblStep1"));
+    Aspetta([&] { return s.Di("frmModifica").isVisible(); });
+    Aspetta([&] { return s.Stato(QStringLiteral("cmdPlay")).Caption == "Play"; });
+    s.Premi(QStringLiteral("lblTs"));
+    s.Scatta("stepping");
+    scrivania.Davanti()->Finestra().close();
+    AspettaFinestra(scrivania, QStringLiteral("CorvanaMainF"));
+}
+
+}  // namespace corvana::prova
