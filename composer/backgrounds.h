@@ -20,11 +20,13 @@ struct SfondiComposer {
           Shape5(finestra, "Shape5"),
           Shape6(finestra, "Shape6"),
           Shape7(finestra, "Shape7"),
+          Shape8(finestra, "Shape8"),
           segnoTempo(finestra, "segnoTempo") {}
 
     Figura Shape0;                          ///< of the play
     Figura Shape1, Shape2, Shape3, Shape4;  ///< of the voices
     Figura Shape5, Shape6, Shape7;          ///< of pulses, steps and step entry
+    Figura Shape8;                          ///< what is seen while the cards are closed
     Figura segnoTempo;                      ///< what the tempo counts
 
     const std::array<Figura*, numeroVoci> righe{&Shape1, &Shape2, &Shape3, &Shape4};

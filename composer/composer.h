@@ -50,21 +50,22 @@ public:
     SfondiComposer sfondi{*this};
     StatoComposer stato{*this};
     MenuComposer menu{*this};
-    PannelloVoci voci;
-    PannelloMix mix;
-    PannelloPulsi pulsi{*this};
-    PannelloPlay play;
-    PannelloFile archivio;
-    PannelloRiferimenti riferimenti;
-    PannelloTasti tasti;
-    PannelloRegolo regolo;
-    PannelloInserimento inserimento;
-    PannelloModifica modifica;
-    PannelloTratti tratti;
-    PannelloTrasposizione trasposizione;
+    // The Tab key goes through their controls in this order; what comes later lies over the others.
     PannelloBarra barra{*this, hover_, ComandiDellaBarra()};
     Etichetta pictCi{*this, "pictCi"};  ///< chooses the instrument
-    Etichetta cmdCm{*this, "cmdCm"};    ///< closes the window
+    PannelloPulsi pulsi{*this};
+    PannelloPlay play;
+    PannelloTrasposizione trasposizione;
+    PannelloMix mix;
+    PannelloVoci voci;
+    PannelloTratti tratti;
+    PannelloTasti tasti;
+    PannelloInserimento inserimento;
+    PannelloModifica modifica;
+    PannelloRegolo regolo;
+    PannelloRiferimenti riferimenti;
+    PannelloFile archivio;
+    Etichetta cmdCm{*this, "cmdCm"};  ///< closes the window
     ComandiDaTastiera comandi;
 
     void Form_Load() override;

@@ -47,6 +47,7 @@ PannelloFile::PannelloFile(const Ambiente& ambiente, Form& finestra, StatoCompos
       vicine_(std::move(vicine)) {
     Fr2.Visible = false;
     cmdEseguiFile.Click = [this] { cmdEseguiFile_Click(); };
+    cmdChiudi.Click = [this] { cmdChiudi_Click(); };
 }
 
 void PannelloFile::Carica() {
@@ -63,6 +64,11 @@ void PannelloFile::mnuApri_Click() {
     if (Fr2.Visible() && !List1.List->empty()) return;
     Fr2.Visible = true;
     ListaFD();
+}
+
+void PannelloFile::cmdChiudi_Click() {
+    Fr2.Visible = false;
+    vicine_.fuocoPlay();
 }
 
 void PannelloFile::ListaFD() {

@@ -14,6 +14,7 @@ namespace corvana {
 struct VicineFile {
     std::function<std::string()> byte;  ///< the melody as its file; throws `Guasto`
     std::function<void(const std::string& nome)> carica;  ///< loads a melody and plays it
+    std::function<void()> fuocoPlay;
 };
 
 class PannelloFile {
@@ -30,6 +31,7 @@ public:
     Etichetta lblPercorso{finestra_, "lblPercorso", &Fr2};
     Bottone cmdEseguiFile{finestra_, "cmdEseguiFile", &Fr2};
     Bottone cmdDelete{finestra_, "cmdDelete", &Fr2};
+    Bottone cmdChiudi{finestra_, "cmdChiudi", &Fr2};
 
     /// The current folder is that of the last time, at the window's load.
     void Carica();
@@ -37,6 +39,7 @@ public:
     void Ricorda();
 
     void mnuApri_Click();
+    void cmdChiudi_Click();
     void ListaFD();
     /// Opens the chosen row: a folder is entered, a melody loaded and played.
     void cmdEseguiFile_Click();

@@ -61,7 +61,7 @@ void DipingiGuida(QPainter& p, const QStyleOptionSlider& o, const QPointF& polli
     if (Piana(o))
         guida.setRight(pollice.x());
     else
-        guida.setBottom(pollice.y());
+        guida.setTop(pollice.y());
     p.setBrush(TintaDi(o));
     p.drawRoundedRect(guida, mezza, mezza);
 }

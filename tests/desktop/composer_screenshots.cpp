@@ -44,10 +44,13 @@ private:
 };
 
 void ScriviQualcosa(Seduta& s) {
-    for (const char* figura : {"cmdSimbNote2", "cmdSimbNote4", "cmdSimbNote3", "cmdSimbNote5"}) {
+    for (const char* figura : {"cmdSimbNote4", "cmdSimbNote3", "cmdSimbNote5"}) {
         s.Premi(QString::fromLatin1(figura));
         s.Premi(QStringLiteral("cmdInsPausa"));
+        const std::string prima = s.Stato(QStringLiteral("lblNt")).Caption;
         s.Premi(QStringLiteral("cmdInsNota"));
+        Aspetta([&] { return s.Stato(QStringLiteral("lblNt")).Caption != prima; });
+        Aspetta([&] { return s.Accesi() == 0; });
     }
     s.Premi(QStringLiteral("ckConsAtt"));
     s.Premi(QStringLiteral("cmdAttrNota3"));
@@ -86,6 +89,7 @@ void FotografaComposer(Scrivania& scrivania, const std::function<void(const QStr
     Aspetta([&] { return s.Accesi() > 3 && s.Stato(QStringLiteral("lblNe")).Caption == "3"; });
     s.Scatta("playing");
     Ferma(s);
+    s.Premi(QStringLiteral("cmdChiudi"));
     s.Scatta("loaded");
     s.Premi(QStringLiteral("VoceAttiva1"));
     s.Premi(QStringLiteral("lblTs"));
