@@ -75,6 +75,7 @@ void frmComposer::CaricaTesti() {
     menu.mnuPianoCont.Caption = menu.mnuPiano.Caption();
     menu.mnuOrganoCont.Caption = menu.mnuOrgano.Caption();
     archivio.cmdDelete.Caption = riferimenti.cmdDelBm.Caption();
+    barra.ToolButton.at(1).ToolTipText = pictCi.ToolTipText();
 }
 
 void frmComposer::CaricaAspetto() {

@@ -36,17 +36,17 @@ constexpr std::array postiMenu = {
 
 constexpr std::array postiFinestra = {
     Posto{"frmComposer", 0, 0, 17700, 9480, "Composizione melodie e armonie"},
-    Posto{"ShToolbar", 180, 150, 120, 540, {}, {}, "tondo nome:mnuApri"},
+    Posto{"ShToolbar", 180, 150, 120, 540, {}, {}, "tondo nome:file"},
     Posto{"frToolBar", 390, 120, 3150, 600},
     Posto{"ToolButton1", 0, 60, 480, 480, {}, {}, "icona:ritardo"},
-    Posto{"ToolButton2", 525, 60, 480, 480, {}, {}, "icona:strumenti"},
+    Posto{"ToolButton2", 525, 60, 480, 480, {}, "Scegli ...", "icona:strumenti"},
     Posto{"ToolButton3", 1050, 60, 480, 480, {}, {}, "icona:apri"},
     Posto{"ToolButton4", 1575, 60, 480, 480, {}, {}, "icona:salva"},
     Posto{"ToolButton5", 2100, 60, 480, 480, {}, {}, "icona:salvacome"},
-    Posto{"ToolButton6", 2625, 60, 480, 480, {}, {}, "icona:aiuto"},
+    Posto{"ToolButton6", 2625, 60, 480, 480, {}, "Help", "icona:aiuto"},
     Posto{"lblNome", 3780, 120, 7050, 600, {}, {}, "carta titolo centro mezzo"},
     Posto{"lblModificato", 10950, 180, 480, 480, "*", {}, "icona:modificata"},
-    Posto{"pictCi", 13500, 120, 3090, 600, "Scegli ...", {}, "scelta forte"},
+    Posto{"pictCi", 13500, 120, 3090, 600, "Scegli ...", "Scegli ...", "scelta forte"},
     Posto{"cmdCm", 16980, 150, 540, 540, "×", {}, "chiudi"},
 };
 
@@ -55,11 +55,11 @@ constexpr std::array postiPlay = {
     Posto{"cmdPlay", 660, 900, 1380, 690, "Play", {}, "principale"},
     Posto{"lblNe", 2190, 900, 825, 300, {}, {}, "riquadro centro mezzo forte"},
     Posto{"lblNt", 3135, 900, 825, 300, {}, {}, "riquadro centro mezzo"},
-    Posto{"Secondo0", 2190, 1230, 180, 180, {}, {}, "secondo"},
-    Posto{"Secondo1", 2588, 1230, 180, 180, {}, {}, "secondo"},
-    Posto{"Secondo2", 2985, 1230, 180, 180, {}, {}, "secondo"},
-    Posto{"Secondo3", 3382, 1230, 180, 180, {}, {}, "secondo"},
-    Posto{"Secondo4", 3780, 1230, 180, 180, {}, {}, "secondo"},
+    Posto{"Secondo0", 2190, 1230, 180, 180, {}, {}, "tondo"},
+    Posto{"Secondo1", 2588, 1230, 180, 180, {}, {}, "tondo"},
+    Posto{"Secondo2", 2985, 1230, 180, 180, {}, {}, "tondo"},
+    Posto{"Secondo3", 3382, 1230, 180, 180, {}, {}, "tondo"},
+    Posto{"Secondo4", 3780, 1230, 180, 180, {}, {}, "tondo"},
     Posto{"lblRigaCur", sinistraRigaCur, 1440, corsaCursore, 150, {}, {}, "corsa"},
     Posto{"Cursore", sinistraRigaCur, 1410, 120, 210, {}, {}, "cursore"},
     Posto{"lblPnn", 4200, 900, 1080, 690, {}, {}, "riquadro nome centro mezzo"},
@@ -73,7 +73,7 @@ constexpr std::array postiPlay = {
     Posto{"lblSemitoni", 15390, 975, 540, 540, "0",
           "Clicca per trasporre la melodia per i semitoni indicati", "pulsante titolo"},
     Posto{"lblIDs1", 15990, 975, 480, 540, "+", {}, "pulsante titolo"},
-    Posto{"segnoTempo", 16770, 810, 360, 870, {}, {}, "figura:2 nuda"},
+    Posto{"segnoTempo", 16710, 810, 360, 870, {}, {}, "figura:2 nuda"},
     Posto{"Velocità", 17100, 810, 600, 870, {}, {}, "titolo mezzo"},
     Posto{"Slider1", 16830, 1800, 600, 3780, {}, {}, "consiglio:Velocità"},
 };
@@ -82,7 +82,7 @@ constexpr std::array postiPlay = {
 constexpr std::array postiRegolo = {
     Posto{"Regolo", 75, 945, 360, 3120, {}, {}, "tondo"},
     Posto{"lblCursore", 60, 0, 75, 165},
-    Posto{"lblAccidente", 135, 0, 165, 165, "#", {}, "piccolo forte centro mezzo"},
+    Posto{"lblAccidente", 135, 0, 165, 165, "#", {}, "figura:diesis nuda"},
 };
 
 constexpr Rettangolo postoTasti{540, 7920, 12360, 1432};

@@ -89,6 +89,7 @@ QPainterPath Attributo(const QString& nome) {
     if (nome == QLatin1String("legatura")) return Legatura();
     if (nome == QLatin1String("terzina")) return Terzina();
     if (nome == QLatin1String("maggiore")) return SegnoMaggiore(0, 0);
+    if (nome == QLatin1String("diesis")) return SegniDellaTavola().alterazione(true);
     return {};
 }
 
@@ -160,8 +161,8 @@ void DipingiFigura(QPainter& p, const QRectF& area, const Aspetto& a, double sca
         DipingiAccesa(p, area, InQt(a.BackColor, tinta::accento), scala, tocco);
     else if (!nuda)
         DipingiSpenta(p, area, scala, tocco);
-    const double lato = 4 * scala;
-    DipingiTraccia(p, area.adjusted(lato, lato, -lato, -12 * scala), NomeFigura(a.stile), scala,
+    const double lato = nuda ? 0 : 4 * scala, piede = nuda ? 0 : 12 * scala;
+    DipingiTraccia(p, area.adjusted(lato, lato, -lato, -piede), NomeFigura(a.stile), scala,
                    tocco.abilitato);
     if (tocco.fuoco) DipingiAnello(p, area, scala);
 }

@@ -10,8 +10,8 @@ namespace corvana {
 
 /// The sign that the style word "figura:" names: a number is a figure, 0 for a whole note to 6 for
 /// a sixty-fourth; "punto", "staccato", "legatura", "terzina", "appoggiato" and "accento" are the
-/// attributes, "maggiore" is the accent alone. In spaces of a staff, y growing downwards; 0, 0 is
-/// where the left end of the head's middle lies. Empty for any other name.
+/// attributes, "maggiore" is the accent alone, "diesis" a sharp. In spaces of a staff, y growing
+/// downwards; 0, 0 is where the left end of the head's middle lies. Empty for any other name.
 QPainterPath TracciaFigura(const QString& nome);
 
 /// The button with its sign. With the style word "nuda" the sign alone.

@@ -45,6 +45,14 @@ TEST(ListaFD, AFileAPointBPointMelAppearsAsAPointB) {
     EXPECT_EQ(b.RigheDi("/m/"), (Righe{"» ..", "a.b"}));
 }
 
+TEST(Fr2, IsClosedByItsButton) {
+    BancoPannello b;
+    b.finestra.archivio.mnuApri_Click();
+    EXPECT_TRUE(b.finestra.archivio.Fr2.Visible());
+    b.finestra.archivio.cmdChiudi_Click();
+    EXPECT_FALSE(b.finestra.archivio.Fr2.Visible());
+}
+
 TEST(ListaFD, ARootFolderHasNoParentAndTheListStartsWithTheFirstFolder) {
     BancoPannello b;
     b.file.cartelle = {"/home", "/Etc"};

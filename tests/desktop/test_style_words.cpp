@@ -35,7 +35,7 @@ TEST(ParoleStile, AllOfEveryWindowAreKnown) {
     ControllaParole(frmMidiTest(b.Tutto()));
     EXPECT_GT(ControllaParole(frmOptions(b.Tutto())), 150);
     ControllaParole(frmStrum(b.Tutto()));
-    ControllaParole(frmComposer(b.Tutto(), {}));
+    EXPECT_GT(ControllaParole(frmComposer(b.Tutto(), {})), 250);
     EXPECT_GT(ControllaParole(frmInto(b.Tutto(), {})), 250);
     EXPECT_EQ(ControllaParole(FormTastiera()), 122);
 }
@@ -43,7 +43,7 @@ TEST(ParoleStile, AllOfEveryWindowAreKnown) {
 TEST(ParoleStile, AMisspeltOneIsNot) {
     for (const char* parola : {"pulsant", "Pulsante", "icona", "nom:lblA", "", "luci"})
         EXPECT_FALSE(ParolaNota(QLatin1String(parola))) << parola;
-    for (const char* parola : {"icona:aiuto", "nome:lblA", "nome", "luce", "spiegazione"})
+    for (const char* parola : {"icona:aiuto", "figura:2", "consiglio:lblA", "nome:lblA", "nome", "luce", "spiegazione"})
         EXPECT_TRUE(ParolaNota(QLatin1String(parola))) << parola;
 }
 

@@ -5,7 +5,10 @@
 #include <fstream>
 #include <iterator>
 
+#include "composer/composer.h"
+#include "composer/composer_rows.h"
 #include "core/language.h"
+#include "core/notation.h"
 #include "desktop/aspect.h"
 #include "desktop/theme.h"
 #include "eartrainer/into.h"
@@ -71,9 +74,10 @@ void ControllaRighe(const Lista& lista) {
 void ControllaFinestra(const Form& finestra) {
     for (const Controllo* c : finestra.Controlli()) {
         if (const auto* scritta = dynamic_cast<const ConCaption*>(c); scritta && c->Width > 0) {
-            // The names of keys are said, not written.
+            // The names of keys are said, not written, and so are those of signs.
             const QStringList parole = Parole(c->stile);
-            if (!parole.contains(QLatin1String("colonne")) &&
+            const bool segno = parole.filter(QLatin1String("figura:")).size() > 0;
+            if (!segno && !parole.contains(QLatin1String("colonne")) &&
                 !parole.contains(QLatin1String("tasto")))
                 ControllaTesto(*c, scritta->Caption);
         } else if (const auto* casella = dynamic_cast<const Casella*>(c)) {
@@ -170,6 +174,26 @@ TEST_P(TestiNeiControlli, FitInTheEarTrainerWhateverItSays) {
             detta->ToolTipText = consiglio;
             ControllaDetto(*detta);
         }
+}
+
+TEST_P(TestiNeiControlli, FitInTheMelodyWindowWithTheLongestNamesAndNumbers) {
+    BancoTesti b(GetParam());
+    frmComposer f{b.Tutto(), {}};
+    UpdateString(b.Tutto(), f, BersagliComposer());
+    for (Etichetta* numero : {&f.stato.lblNe, &f.stato.lblNt, &f.pulsi.lblDebug})
+        numero->Caption = "10000";
+    f.play.Velocità.Caption = "250";
+    f.trasposizione.lblSemitoni.Caption = "-12";
+    f.stato.lblNome.Caption = "O Tannenbaum, wie grün sind deine Blätter";
+    for (Etichetta* nome : {&f.stato.lblPnn, &f.stato.lblActNote, &f.modifica.lblActualNote})
+        nome->Caption = "Sol#";
+    for (const auto& voce : f.voci.perVoce)
+        voce.nomi.Caption = "Sol#;Sol#;Sol#;Sol#;Sol#;Sol#;Sol#;Sol#;";
+    for (std::int32_t programma = 0; programma < 128; ++programma) {
+        f.mix.lblInstr[0].Caption = std::to_string(programma) + "-" + NomeStrumento(programma);
+        ControllaTesto(f.mix.lblInstr[0], f.mix.lblInstr[0].Caption);
+    }
+    ControllaFinestra(f);
 }
 
 TEST_P(TestiNeiControlli, FitInTheAboutBox) {
