@@ -18,9 +18,8 @@ namespace corvana::prova {
 namespace {
 
 /// What the melody window hasn't yet.
-const Luoghi daFare = {"mnuCopyFromA", "mnucCopyFromA", "cmdHideBm", "cmdChiudi",
-                       "cmdRenameBm",  "cmdPlayBm",     "cmdModBm",  "cmdMbUd0",
-                       "cmdMbUd1",     "cmdRename",     "cmdMkdir"};
+const Luoghi daFare = {"mnuCopyFromA", "mnucCopyFromA", "cmdHideBm", "cmdRenameBm", "cmdPlayBm",
+                       "cmdModBm",     "cmdMbUd0",      "cmdMbUd1",  "cmdRename",   "cmdMkdir"};
 
 void Aggiungi(Luoghi& luoghi, const Controllo& controllo, const ProprietaBase& proprieta,
               const std::string& testo) {
