@@ -10,7 +10,7 @@ namespace corvana {
 namespace {
 
 constexpr double raggioPulsante = 7;
-constexpr double ariaIcona = 5;  ///< designed pixels around the picture on a button
+constexpr double ariaIcona = 5;        ///< designed pixels around the picture on a button
 constexpr double rientroRiquadro = 8;  ///< beside the text, in designed pixels
 
 QColor Sotto(QColor colore, const Tocco& tocco) {

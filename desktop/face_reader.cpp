@@ -45,7 +45,8 @@ QAccessibleInterface* Al(const Interfacce& dette, int x, int y) {
 }
 
 QAccessible::Role Ruolo(const VistaDipinta& vista) {
-    if (vista.Azionabile()) return vista.Spuntata() ? QAccessible::CheckBox : QAccessible::PushButton;
+    if (vista.Azionabile())
+        return vista.Spuntata() ? QAccessible::CheckBox : QAccessible::PushButton;
     switch (vista.Origine().tipo) {
         case Genere::Figura: return vista.Fermata() ? QAccessible::Grouping : QAccessible::Graphic;
         case Genere::Cornice: return QAccessible::Grouping;

@@ -48,8 +48,8 @@ private:
     const Vista& vista_;
 };
 
-/// Makes the letters small enough for the text, down to `minima`. A text is about as long as its letters are large:
-/// to try each size would load a font for each.
+/// Makes the letters small enough for the text, down to `minima`. A text is about as long as its
+/// letters are large: to try each size would load a font for each.
 void Rimpicciolisci(QFont& font, const QString& testo, double spazio, int minima) {
     const auto lungo = [&] { return QFontMetricsF(font).horizontalAdvance(testo); };
     for (double eccede = lungo() / spazio; eccede > 1 && font.pixelSize() > minima;

@@ -43,7 +43,8 @@ TEST(ParoleStile, AllOfEveryWindowAreKnown) {
 TEST(ParoleStile, AMisspeltOneIsNot) {
     for (const char* parola : {"pulsant", "Pulsante", "icona", "nom:lblA", "", "luci"})
         EXPECT_FALSE(ParolaNota(QLatin1String(parola))) << parola;
-    for (const char* parola : {"icona:aiuto", "figura:2", "consiglio:lblA", "nome:lblA", "nome", "luce", "spiegazione"})
+    for (const char* parola :
+         {"icona:aiuto", "figura:2", "consiglio:lblA", "nome:lblA", "nome", "luce", "spiegazione"})
         EXPECT_TRUE(ParolaNota(QLatin1String(parola))) << parola;
 }
 

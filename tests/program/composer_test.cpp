@@ -1,7 +1,8 @@
 // The composer within the program: how it is opened and closed, and its instrument picker.
+#include "composer/composer.h"
+
 #include <gtest/gtest.h>
 
-#include "composer/composer.h"
 #include "tests/program/program_rig.h"
 #include "utilities/instruments.h"
 
