@@ -63,7 +63,8 @@ constexpr std::array postiPlay = {
     Posto{"lblRigaCur", sinistraRigaCur, 1440, corsaCursore, 150, {}, {}, "corsa"},
     Posto{"Cursore", sinistraRigaCur, 1410, 120, 210, {}, {}, "cursore"},
     Posto{"lblPnn", 4200, 900, 1080, 690, {}, {}, "riquadro nome centro mezzo"},
-    Posto{"chekLoop", 5370, 1080, 300, 330, {}, {}, "nome:chekLoopLb"},
+    // The box reaches over its words, so that a click on them ticks it.
+    Posto{"chekLoop", 5370, 1080, 1620, 330, {}, {}, "nome:chekLoopLb"},
     Posto{"chekLoopLb", 5730, 1080, 1260, 330, "Ripeti", {}, "mezzo"},
     Posto{"cmdAddBm", 10020, 975, 1350, 540, "M.R."},
     Posto{"cmdPaste", 11490, 975, 1830, 540, "Incolla",

@@ -60,7 +60,7 @@ constexpr std::array postiAttrezzi = {
     Posto{"cmdAttrNota4", 15585, 6630, 585, 720, {}, "Appoggiato", "figura:appoggiato"},
     Posto{"cmdAttrNota5", 16200, 6630, 585, 720, {}, "Accentato", "figura:accento"},
     Posto{"lblAt", 16815, 6630, 585, 720, " >", {}, "figura:maggiore consiglio:cmdAttrNota5"},
-    Posto{"ckConsAtt", 13170, 7440, 300, 330, {}, {}, "nome:ckConsAttLb"},
+    Posto{"ckConsAtt", 13170, 7440, 4200, 330, {}, {}, "nome:ckConsAttLb"},
     Posto{"ckConsAttLb", 13530, 7440, 3840, 330, "Mantieni l'attributo", {}, "mezzo"},
     Posto{"lblActNote", 13140, 7860, 1140, 660, {}, {}, "riquadro nome centro mezzo"},
     Posto{"cmdInsNota", 14370, 7860, 1620, 660, "Nota", {}, "principale"},

@@ -169,6 +169,19 @@ TEST(FacciaComposer, WhatSaysNothingItselfIsCalledByTheToolTipBesideIt) {
               StatoDi(p.scrivania, "chekLoopLb").Caption.c_str());
 }
 
+TEST(FacciaComposer, AClickOnTheWordsBesideABoxTicksIt) {
+    PalcoComposer p;
+    for (const auto& [casella, parole] :
+         {std::pair{"chekLoop", "chekLoopLb"}, {"ckConsAtt", "ckConsAttLb"}}) {
+        const auto spuntata = [&, nome = QString::fromUtf8(casella)] {
+            return StatoDi(p.scrivania, nome).Checked;
+        };
+        const bool prima = spuntata();
+        Clicca(p.scrivania, QString::fromUtf8(parole));
+        EXPECT_TRUE(Aspetta([&] { return spuntata() != prima; })) << casella;
+    }
+}
+
 TEST(FacciaComposer, TheListOfMelodiesOpensOverThePaletteAndClosesAgain) {
     PalcoComposer p;
     TrovaVoce(p.scrivania, "mnuApri").trigger();
