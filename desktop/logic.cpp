@@ -11,8 +11,8 @@ namespace corvana {
 
 void LogicaDelProgramma(Applicazione& applicazione, const Macchina& macchina) {
     if (macchina.puntuale) macchina.puntuale();
-    OrologioReale orologio;
-    Pompa pompa(orologio, applicazione.Coda());
+    OrologioReale diSistema;
+    Pompa pompa(macchina.orologio ? *macchina.orologio : diSistema, applicazione.Coda());
     Riquadri& riquadri = applicazione.Riquadri();
     Finestre finestre(pompa, riquadri, &applicazione.Schermo());
     FileReali file;

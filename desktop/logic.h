@@ -12,6 +12,7 @@ namespace corvana {
 
 class Applicazione;
 class CorvanaMainF;
+class Orologio;
 
 /// What the program finds on the machine.
 struct Macchina {
@@ -22,6 +23,8 @@ struct Macchina {
     std::function<std::unique_ptr<PiattaformaMidi>(std::function<double()>)> uscite;
     /// Called first of all on the logic's thread, to have its waits end on time; may be empty.
     std::function<void()> puntuale = {};
+    /// Keeps the program's time in place of the system's clock; may be null.
+    Orologio* orologio = nullptr;
     /// Called with the main window before it is shown; may be empty.
     std::function<void(CorvanaMainF&)> pronta = {};
 };

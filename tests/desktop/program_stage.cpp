@@ -18,10 +18,10 @@ Macchina MacchinaMuta(const QString& dati, const QTemporaryDir& stato) {
     return macchina;
 }
 
-PalcoProgramma::PalcoProgramma(const QString& dati) {
-    scrivania.Avvia([this, macchina = MacchinaMuta(dati.isEmpty() ? stato_.path() : dati, stato_)] {
-        LogicaDelProgramma(applicazione_, macchina);
-    });
+PalcoProgramma::PalcoProgramma(const QString& dati, const std::function<void(Macchina&)>& prepara) {
+    Macchina macchina = MacchinaMuta(dati.isEmpty() ? stato_.path() : dati, stato_);
+    if (prepara) prepara(macchina);
+    scrivania.Avvia([this, macchina] { LogicaDelProgramma(applicazione_, macchina); });
     AspettaFinestra(scrivania, QStringLiteral("CorvanaMainF"));
     Aspetta([this] { return Trova(scrivania, QStringLiteral("Start")).isEnabled(); });
 }

@@ -16,8 +16,9 @@ Macchina MacchinaMuta(const QString& dati, const QTemporaryDir& stato);
 class PalcoProgramma {
 public:
     /// Returns when the main window can be used. Without `dati` the program finds none of its own
-    /// files.
-    explicit PalcoProgramma(const QString& dati = {});
+    /// files. `prepara` may change the machine that it finds.
+    explicit PalcoProgramma(const QString& dati = {},
+                            const std::function<void(Macchina&)>& prepara = {});
     PalcoProgramma(const PalcoProgramma&) = delete;
     PalcoProgramma& operator=(const PalcoProgramma&) = delete;
     ~PalcoProgramma();

@@ -2,6 +2,8 @@
 
 #include <QAction>
 #include <QMenuBar>
+#include <QSlider>
+#include <QStyleOptionSlider>
 #include <QTest>
 #include <QWindow>
 #include <stdexcept>
@@ -118,6 +120,21 @@ void Clicca(const Cosa& cosa, QPoint dove) {
 void Clicca(QWidget& widget, QPoint dove) {
     QWindow* finestra = widget.window()->windowHandle();
     QTest::mouseClick(finestra, Qt::LeftButton, {}, widget.mapTo(widget.window(), dove));
+}
+
+QPoint Pollice(const QSlider& barra) {
+    QStyleOptionSlider opzioni;
+    opzioni.initFrom(&barra);
+    opzioni.orientation = barra.orientation();
+    opzioni.minimum = barra.minimum();
+    opzioni.maximum = barra.maximum();
+    opzioni.sliderPosition = opzioni.sliderValue = barra.value();
+    const bool ritta = barra.orientation() == Qt::Vertical;
+    opzioni.upsideDown = barra.invertedAppearance() != ritta;
+    opzioni.subControls = QStyle::SC_All;
+    return barra.style()
+        ->subControlRect(QStyle::CC_Slider, &opzioni, QStyle::SC_SliderHandle, &barra)
+        .center();
 }
 
 void Muovi(QWidget& widget, QPoint dove) {

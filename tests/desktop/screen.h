@@ -11,6 +11,8 @@
 
 #include "desktop/desktop.h"
 
+class QSlider;
+
 namespace corvana::prova {
 
 /// Runs the Qt loop until the condition holds; false when it doesn't within a generous time.
@@ -68,6 +70,9 @@ VistaFinestra& AspettaFinestra(Scrivania& scrivania, const QString& nome);
 void Clicca(Scrivania& scrivania, const QString& nome);
 void Clicca(QWidget& widget, QPoint dove);
 void Clicca(const Cosa& cosa, QPoint dove);
+
+/// The middle of a slider's thumb.
+QPoint Pollice(const QSlider& barra);
 
 /// Brings the pointer there, with no button down.
 void Muovi(QWidget& widget, QPoint dove);

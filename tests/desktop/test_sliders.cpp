@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QSlider>
-#include <QStyleOptionSlider>
 #include <QTest>
 #include <QWheelEvent>
 #include <QWindow>
@@ -13,19 +12,6 @@ namespace {
 
 QSlider& BarraDi(Palco& palco, const char* nome = "barra") {
     return Trova(palco.scrivania, nome).Come<QSlider>();
-}
-
-QPoint Pollice(QSlider& barra) {
-    QStyleOptionSlider opzioni;
-    opzioni.initFrom(&barra);
-    opzioni.orientation = barra.orientation();
-    opzioni.minimum = barra.minimum();
-    opzioni.maximum = barra.maximum();
-    opzioni.sliderPosition = opzioni.sliderValue = barra.value();
-    opzioni.subControls = QStyle::SC_All;
-    return barra.style()
-        ->subControlRect(QStyle::CC_Slider, &opzioni, QStyle::SC_SliderHandle, &barra)
-        .center();
 }
 
 TEST(Barra, DraggingTheThumbScrollsAndLettingGoChanges) {

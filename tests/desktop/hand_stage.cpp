@@ -1,0 +1,144 @@
+#include "tests/desktop/hand_stage.h"
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QSlider>
+#include <QTest>
+#include <QWindow>
+#include <stdexcept>
+
+#include "core/real_files.h"
+#include "core/settings.h"
+#include "tests/support/scripted_boxes.h"
+
+namespace corvana::prova {
+
+namespace {
+
+constexpr qint64 pazienza = 60'000;     ///< milliseconds, to end a hang
+constexpr double inizioSuono = 10'000;  ///< instant of every play, whatever was done before
+constexpr double anticipo = 0.1;
+
+bool DiNota(std::uint32_t messaggio) {
+    const std::uint32_t genere = messaggio & 0xF0U;
+    return genere == 0x80U || genere == 0x90U;
+}
+
+}  // namespace
+
+void UscitaAscoltata::Ascolta(double da) {
+    ascolta_ = true;
+    da_ = da;
+    mandati_.clear();
+}
+
+int UscitaAscoltata::midiOutShortMsg(HandleDispositivo handle, std::uint32_t messaggio) {
+    mandati_.push_back({Istante(), messaggio});
+    if (!ascolta_ && DiNota(messaggio)) return 0;
+    return resa_.midiOutShortMsg(handle, messaggio);
+}
+
+PalcoAMano::PalcoAMano(const std::string& cartella)
+    : PalcoProgramma(QStringLiteral(CORVANA_DATA), [this, &cartella](Macchina& macchina) {
+          macchina.orologio = &orologio;
+          macchina.percorsoImpostazioni = stato.filePath(QStringLiteral("mine")).toStdString();
+          macchina.uscite = [this](std::function<double()> istante) {
+              auto fatta = std::make_unique<UscitaAscoltata>(std::move(istante));
+              uscita = fatta.get();
+              return fatta;
+          };
+          FileReali file;
+          RiquadriDaCopione nessuno;
+          Impostazioni impostazioni(file, nessuno, macchina.percorsoImpostazioni);
+          impostazioni.Prepara();
+          impostazioni.ScriviValore("LastDir", cartella);
+      }) {}
+
+const std::string& PalcoAMano::Dice(const std::string& nome) {
+    return StatoDi(scrivania, QString::fromStdString(nome)).Caption;
+}
+
+/// It waits for the answer in a box, or for the next event. The queue first: an event that was
+/// taken from it has ended the wait.
+bool PalcoAMano::Fermo() {
+    const QDialog* riquadro = scrivania.Riquadro();
+    if (riquadro && riquadro->isVisible()) return true;
+    return scrivania.Coda().Vuota() && orologio.InAttesa();
+}
+
+void PalcoAMano::Calma() {
+    QElapsedTimer limite;
+    limite.start();
+    bool fermo = false;
+    // What the logic said before it began to wait is shown by a turn of the loop that follows.
+    while (!std::exchange(fermo, Fermo()) || !fermo) {
+        QCoreApplication::processEvents();
+        if (limite.elapsed() > pazienza) throw std::logic_error("the program never comes to rest");
+    }
+}
+
+void PalcoAMano::Tocca(const std::string& nome) {
+    Tocca(nome, Di(nome).rect().center());
+}
+
+void PalcoAMano::Tocca(const std::string& nome, QPoint dove) {
+    const Cosa cosa = Di(nome);
+    if (!cosa.isVisible()) throw std::logic_error(nome + " can't be seen");
+    Clicca(cosa, dove);
+    Calma();
+}
+
+void PalcoAMano::ToccaDueVolte(const std::string& nome) {
+    ToccaDueVolte(nome, Di(nome).rect().center());
+}
+
+void PalcoAMano::ToccaDueVolte(const std::string& nome, QPoint dove) {
+    const Cosa cosa = Di(nome);
+    QTest::mouseDClick(cosa.window()->windowHandle(), Qt::LeftButton, {}, cosa.NellaFinestra(dove));
+    Calma();
+}
+
+void PalcoAMano::Batti(Qt::Key tasto, Qt::KeyboardModifiers modificatori) {
+    prova::Batti(scrivania, tasto, modificatori);
+    Calma();
+}
+
+/// Pixel by pixel from where it is, first down and then up.
+void PalcoAMano::Trascina(const std::string& barra, const std::string& casella,
+                          const std::string& finche) {
+    auto& slitta = Di(barra).Come<QSlider>();
+    QPoint qui = Pollice(slitta);
+    int verso = 1;
+    QTest::mousePress(&slitta, Qt::LeftButton, {}, qui);
+    while (Dice(casella) != finche) {
+        if (qui.y() > slitta.height()) verso = -1;
+        if (qui.y() < 0) throw std::logic_error(barra + " never comes to " + finche);
+        QTest::mouseMove(&slitta, qui += QPoint(0, verso));
+        Calma();
+    }
+    QTest::mouseRelease(&slitta, Qt::LeftButton, {}, qui);
+    Calma();
+}
+
+void PalcoAMano::Rispondi(const std::string& testo) {
+    if (!Aspetta([this] { return scrivania.Riquadro() && scrivania.Riquadro()->isVisible(); }))
+        throw std::logic_error("no box came");
+    auto* riga = scrivania.Riquadro()->findChild<QLineEdit*>();
+    riga->selectAll();
+    QTest::keyClicks(riga, QString::fromStdString(testo));
+    QTest::keyClick(riga, Qt::Key_Return);
+    Calma();
+}
+
+PalcoAMano::Udito PalcoAMano::Suona() {
+    constexpr double eco = 4;
+    orologio.Avanza(inizioSuono);
+    uscita->Ascolta(inizioSuono - anticipo);
+    Tocca("cmdPlay");
+    const double fine = orologio.Adesso() - inizioSuono + anticipo;
+    return {uscita->Mandati(), uscita->Senti(fine + eco), fine};
+}
+
+}  // namespace corvana::prova
