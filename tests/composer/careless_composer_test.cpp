@@ -9,7 +9,7 @@
 namespace corvana::prova {
 
 TEST(CompositoreDistratto, NoHoldOutlivesItsButtonAndClosedNothingSounds) {
-    CompositoreDistratto utente(Seme(), 100000);
+    CompositoreDistratto utente(Seme(), Eventi(100000));
     utente.Vivi();
     EXPECT_EQ(utente.guasto, "") << "seed " << Seme();
     // He did reach what he was to try.

@@ -10,7 +10,7 @@
 namespace corvana::prova {
 
 TEST(SuonatoreDistratto, NothingFailsNothingHangsAndNothingSoundsWhenNothingIsUnderWay) {
-    SuonatoreDistratto utente(Seme(), 40000);
+    SuonatoreDistratto utente(Seme(), Eventi(40000));
     utente.Vivi();
     EXPECT_EQ(utente.guasto, "") << "seed " << Seme();
     // He did reach what he was to try.

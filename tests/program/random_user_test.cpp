@@ -8,7 +8,7 @@
 namespace corvana::prova {
 
 TEST(Vagabondo, OpensAndClosesEveryWindowAndNothingFails) {
-    Vagabondo utente(Seme(), 100000);
+    Vagabondo utente(Seme(), Eventi(100000));
     utente.Vivi();
     EXPECT_EQ(utente.guasto, "") << "seed " << Seme();
     // He did reach what he was to try.
