@@ -7,10 +7,10 @@
 #include "bench/evenness.h"
 #include "bench/figures.h"
 #include "bench/row.h"
+#include "bench/spy.h"
 #include "forms/real_clock.h"
 #include "program/program.h"
 #include "realtime/punctuality.h"
-#include "sound/outputs/real_outputs.h"
 #include "tests/outputs/sound_server.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/scripted_boxes.h"
@@ -21,42 +21,6 @@ using namespace corvana;
 
 using misura::Intorno;
 
-/// Passes everything on and notes of each pulse's message the real instant and the one asked for.
-class Spia final : public PiattaformaMidi {
-public:
-    explicit Spia(std::function<double()> istante)
-        : istante_(istante), uscite_(std::move(istante), {.puntuale = PreferisciPuntualita}) {}
-    int midiOutOpen(HandleDispositivo& h, std::int32_t id) override {
-        return uscite_.midiOutOpen(h, id);
-    }
-    int midiOutClose(HandleDispositivo h) override { return uscite_.midiOutClose(h); }
-    int midiOutReset(HandleDispositivo h) override { return uscite_.midiOutReset(h); }
-    int midiOutShortMsg(HandleDispositivo h, std::uint32_t messaggio) override {
-        constexpr std::uint32_t percussione = 0x99;
-        if ((messaggio & 0xFF) == percussione && messaggio >> 16) {
-            pulsi.push_back(orologio_.Adesso());
-            richiesti.push_back(istante_());
-        }
-        return uscite_.midiOutShortMsg(h, messaggio);
-    }
-    std::string midiOutGetErrorTextA(int codice) override {
-        return uscite_.midiOutGetErrorTextA(codice);
-    }
-    int midiOutGetNumDevs() override { return 0; }
-    int midiOutGetDevCapsA(std::int32_t id, std::string& nome) override {
-        return uscite_.midiOutGetDevCapsA(id, nome);
-    }
-    void sndPlaySoundA(const std::string&, unsigned) override {}
-
-    std::vector<double> pulsi;
-    std::vector<double> richiesti;
-
-private:
-    std::function<double()> istante_;
-    OrologioReale orologio_;
-    UsciteReali uscite_;
-};
-
 /// The program without a face, on the real clock.
 struct Banco {
     OrologioReale orologio;
@@ -64,7 +28,15 @@ struct Banco {
     Pompa pompa{orologio, coda};
     prova::RiquadriDaCopione riquadri;
     Finestre finestre{pompa, riquadri, nullptr};
-    Spia uscita{[this] { return pompa.Adesso(); }};
+    std::vector<double> pulsi;      ///< real instants of their messages
+    std::vector<double> richiesti;  ///< those asked for
+    misura::Spia uscita{[this] { return pompa.Adesso(); },
+                        [this](std::uint32_t messaggio, double istante) {
+                            constexpr std::uint32_t percussione = 0x99;
+                            if ((messaggio & 0xFF) != percussione || !(messaggio >> 16)) return;
+                            pulsi.push_back(orologio.Adesso());
+                            richiesti.push_back(istante);
+                        }};
     Suono suono{uscita, pompa, riquadri};
     prova::FileInMemoria file;
     Impostazioni impostazioni{file, riquadri, "/settings"};
@@ -113,8 +85,7 @@ void Misura(const prova::ServerSonoro& server, int tempo, double secondi, Intorn
     logica.join();
     const std::string titolo =
         std::to_string(tempo) + " a minute, " + misura::Titolo(intorno, puntuale) + ", ";
-    misura::StampaMessaggi(titolo + "message", banco.uscita.pulsi, banco.uscita.richiesti,
-                           60.0 / tempo);
+    misura::StampaMessaggi(titolo + "message", banco.pulsi, banco.richiesti, 60.0 / tempo);
     misura::StampaPulsi(titolo + "stream", misura::Attacchi(suono), 60.0 / tempo);
 }
 
