@@ -16,6 +16,7 @@ namespace {
 constexpr int aiutoMetronomo = 8;
 constexpr int aiutoStrumenti = 40;
 constexpr int aiutoPromemoria = 50;
+constexpr int aiutoComposizione = 60;
 
 }  // namespace
 
@@ -62,6 +63,7 @@ void Programma::MostraComposer() {
                               [&] { MostraStrumenti(finestra); },
                               figura(4),
                               figura(3)});
+    finestra.HelpContextID = aiutoComposizione;
     a_.finestre.MostraModale(finestra);
 }
 

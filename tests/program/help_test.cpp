@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "composer/composer.h"
 #include "forms/keys.h"
 #include "tests/program/program_rig.h"
 
@@ -12,6 +13,7 @@ constexpr double pronta = BancoProgramma::pronta;
 const std::string trainer = "2 /programma/corvana.chm";
 const std::string metronomo = "8 /programma/corvana.chm";
 const std::string promemoria = "50 /programma/corvana.chm";
+const std::string composizione = "60 /programma/corvana.chm";
 const std::string strumenti = "40 /programma/corvana.chm";
 
 TEST(Aiuto, F1TheMenuAndTheToolButtonOpenThePageOfTheTrainer) {
@@ -48,6 +50,38 @@ TEST(Aiuto, F1OpensThePageOfTheSecondaryWindowInFront) {
     b.Vai(++t);
     EXPECT_EQ(b.specchio.aiuti,
               (Aiuti{strumenti, strumenti, promemoria, "0 /programma/corvana.chm", metronomo}));
+}
+
+TEST(Aiuto, F1AndTheToolButtonOfTheMelodyWindowOpenItsPageAndThatOfThePickerOverIt) {
+    BancoProgramma b;
+    double t = pronta;
+    b.Clicca(++t, "mnuComposer");
+    b.Tasto(++t, vk::f1);
+    b.Clicca(++t, "ToolButton6");
+    b.Clicca(++t, "mnuSs");
+    b.Tasto(++t, vk::f1);
+    b.Chiudi(++t);
+    b.Tasto(++t, vk::f1);
+    b.Chiudi(++t);
+    b.Tasto(++t, vk::f1);
+    b.Vai(++t);
+    EXPECT_EQ(b.specchio.aiuti,
+              (Aiuti{composizione, composizione, strumenti, composizione, trainer}));
+}
+
+TEST(Aiuto, AMelodyPlaysOnBehindIt) {
+    BancoProgramma b;
+    double t = pronta;
+    b.Clicca(++t, "mnuComposer");
+    b.Clicca(++t, "cmdInsNota");
+    b.Clicca(t += 2, "cmdPlay");
+    b.Tasto(t + 0.3, vk::f1);
+    b.Quando(t + 0.5, [&b] {
+        EXPECT_EQ(b.specchio.aiuti, (Aiuti{composizione}));
+        const auto& composer = dynamic_cast<const frmComposer&>(*b.finestre.Davanti());
+        EXPECT_TRUE(composer.stato.inEsecuzione);
+    });
+    b.Vai(t + 3);
 }
 
 TEST(Aiuto, AKeyHeldDownOpensItOnce) {
