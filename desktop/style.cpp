@@ -152,7 +152,7 @@ QSize Stile::sizeFromContents(ContentsType cosa, const QStyleOption* o, const QS
 }
 
 QRect Stile::subElementRect(SubElement parte, const QStyleOption* o, const QWidget* widget) const {
-    if (parte == SE_CheckBoxFocusRect) return o->rect;
+    if (parte == SE_CheckBoxFocusRect || parte == SE_CheckBoxClickRect) return o->rect;
     return QProxyStyle::subElementRect(parte, o, widget);
 }
 

@@ -1,6 +1,7 @@
 // The melody window as it is seen, read to the learner, and reached with the keyboard.
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QAction>
 #include <set>
 
@@ -173,12 +174,10 @@ TEST(FacciaComposer, AClickOnTheWordsBesideABoxTicksIt) {
     PalcoComposer p;
     for (const auto& [casella, parole] :
          {std::pair{"chekLoop", "chekLoopLb"}, {"ckConsAtt", "ckConsAttLb"}}) {
-        const auto spuntata = [&, nome = QString::fromUtf8(casella)] {
-            return StatoDi(p.scrivania, nome).Checked;
-        };
-        const bool prima = spuntata();
+        const auto& spunta = p.Di(casella).Come<QAbstractButton>();
+        const bool prima = spunta.isChecked();
         Clicca(p.scrivania, QString::fromUtf8(parole));
-        EXPECT_TRUE(Aspetta([&] { return spuntata() != prima; })) << casella;
+        EXPECT_NE(spunta.isChecked(), prima) << casella;
     }
 }
 
