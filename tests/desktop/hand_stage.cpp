@@ -4,9 +4,12 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QLineEdit>
+#include <QMainWindow>
 #include <QSlider>
 #include <QTest>
 #include <QWindow>
+#include <fstream>
+#include <iterator>
 #include <stdexcept>
 
 #include "core/real_files.h"
@@ -27,6 +30,11 @@ bool DiNota(std::uint32_t messaggio) {
 }
 
 }  // namespace
+
+std::string Contenuto(const std::string& percorso) {
+    std::ifstream file(percorso, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
 
 void UscitaAscoltata::Ascolta(double da) {
     ascolta_ = true;
@@ -60,11 +68,12 @@ const std::string& PalcoAMano::Dice(const std::string& nome) {
     return StatoDi(scrivania, QString::fromStdString(nome)).Caption;
 }
 
-/// It waits for the answer in a box, or for the next event. The queue first: an event that was
-/// taken from it has ended the wait.
+/// It waits for the answer in a box, is held up, or waits for the next event. The queue first: an
+/// event that was taken from it has ended the wait.
 bool PalcoAMano::Fermo() {
     const QDialog* riquadro = scrivania.Riquadro();
     if (riquadro && riquadro->isVisible()) return true;
+    if (orologio.Fermo()) return true;
     return scrivania.Coda().Vuota() && orologio.InAttesa();
 }
 
@@ -101,8 +110,18 @@ void PalcoAMano::ToccaDueVolte(const std::string& nome, QPoint dove) {
 }
 
 void PalcoAMano::Batti(Qt::Key tasto, Qt::KeyboardModifiers modificatori) {
-    prova::Batti(scrivania, tasto, modificatori);
+    Premi(scrivania, tasto, modificatori);
     Calma();
+    Lascia(scrivania, tasto, modificatori);
+    Calma();
+}
+
+void PalcoAMano::VaiA(const std::string& nome, Qt::Key tasto, Qt::KeyboardModifiers modificatori) {
+    constexpr int fermate = 200;  // more than the window has
+    for (int passi = 0; !Di(nome).hasFocus(); ++passi) {
+        if (passi == fermate) throw std::logic_error("the Tab key never comes to " + nome);
+        Batti(tasto, modificatori);
+    }
 }
 
 /// Pixel by pixel from where it is, first down and then up.
@@ -129,6 +148,14 @@ void PalcoAMano::Rispondi(const std::string& testo) {
     riga->selectAll();
     QTest::keyClicks(riga, QString::fromStdString(testo));
     QTest::keyClick(riga, Qt::Key_Return);
+    Calma();
+    // As the window manager does when a box closes.
+    scrivania.Davanti()->Finestra().activateWindow();
+    Calma();
+}
+
+void PalcoAMano::Prosegui() {
+    orologio.Riprendi();
     Calma();
 }
 

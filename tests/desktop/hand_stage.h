@@ -56,6 +56,8 @@ private:
     ResaOffline resa_{[this] { return Istante(); }};
 };
 
+std::string Contenuto(const std::string& percorso);
+
 /// What must be there before the program begins.
 struct ArnesiAMano {
     OrologioImpaziente orologio;
@@ -63,7 +65,7 @@ struct ArnesiAMano {
     QTemporaryDir stato;
 };
 
-class PalcoAMano : private ArnesiAMano, public PalcoProgramma {
+class PalcoAMano : protected ArnesiAMano, public PalcoProgramma {
 public:
     /// Melodies are opened in, and saved into, `cartella`.
     explicit PalcoAMano(const std::string& cartella);
@@ -80,7 +82,11 @@ public:
     void Tocca(const std::string& nome, QPoint dove);
     void ToccaDueVolte(const std::string& nome);
     void ToccaDueVolte(const std::string& nome, QPoint dove);
+    /// A key goes down, is held until the program has done what it is for, and comes up.
     void Batti(Qt::Key tasto, Qt::KeyboardModifiers modificatori = {});
+    /// The Tab key, as often as it takes until the control has the keyboard; or with Shift.
+    void VaiA(const std::string& nome) { VaiA(nome, Qt::Key_Tab, Qt::NoModifier); }
+    void TornaA(const std::string& nome) { VaiA(nome, Qt::Key_Backtab, Qt::ShiftModifier); }
     /// Drags the thumb of a slider until `casella` says so.
     void Trascina(const std::string& barra, const std::string& casella, const std::string& finche);
     /// Types into the box that asks for a text, and Enter.
@@ -94,8 +100,14 @@ public:
         double fine = 0;           ///< of the play, in seconds of the sound
     };
     Udito Suona();
+    /// What is sent from now on is all that counts.
+    void Ascolta() { uscita->Ascolta(orologio.Adesso()); }
+    /// So many seconds later the program is held up in its next wait, until it may go on.
+    void FermaDopo(double secondi) { orologio.FermaA(orologio.Adesso() + secondi); }
+    void Prosegui();
 
 private:
+    void VaiA(const std::string& nome, Qt::Key tasto, Qt::KeyboardModifiers modificatori);
     bool Fermo();
 };
 

@@ -80,11 +80,6 @@ struct PalcoMelodia : PalcoAMano {
     }
 };
 
-std::string Contenuto(const std::string& percorso) {
-    std::ifstream file(percorso, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 TEST(MelodiaAMano, WhatIsEnteredInAllFourVoicesIsSavedAsTheFileAndSoundsLikeIt) {
     const CartellaProvvisoria cartella;
     PalcoAMano::Udito scritto, aperto;

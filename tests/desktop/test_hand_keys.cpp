@@ -1,0 +1,138 @@
+// The melody window with no mouse at all: notes of every kind are entered, dropped, rewritten,
+// transposed, saved and played, and each is reached from where the hands are.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "melody/mel_reader.h"
+#include "tests/core/temporary_folder.h"
+#include "tests/desktop/hand_stage.h"
+
+namespace corvana::prova {
+namespace {
+
+struct PalcoTasti : PalcoAMano {
+    explicit PalcoTasti(const std::string& cartella) : PalcoAMano(cartella) {
+        // The composer is the first entry of that menu.
+        DalMenu(Qt::Key_R, 0);
+        AspettaFinestra(scrivania, QStringLiteral("frmComposer"));
+        Calma();
+    }
+
+    /// Chooses an entry of the menu with that letter, which lies so many entries down.
+    void DalMenu(Qt::Key lettera, int giu) {
+        Batti(lettera, Qt::AltModifier);
+        if (!Aspetta([] { return QApplication::activePopupWidget() != nullptr; }))
+            throw std::logic_error("no menu came");
+        for (int i = 0; i < giu; ++i)
+            Batti(Qt::Key_Down);
+        Batti(Qt::Key_Return);
+    }
+    void Aziona(const std::string& nome) {
+        VaiA(nome);
+        Batti(Qt::Key_Space);
+    }
+    /// The same for what lies before the button that plays. On the way forward lie the boxes of the
+    /// ranges, and who leaves one of those has chosen its voice and ended the steps.
+    void AzionaDietro(const std::string& nome) {
+        TornaA(nome);
+        Batti(Qt::Key_Space);
+    }
+    /// The row that lies so many rows from the first.
+    void Scegli(const std::string& combo, int riga) {
+        AzionaDietro(combo);
+        if (!Aspetta([] { return QApplication::activePopupWidget() != nullptr; }))
+            throw std::logic_error("no rows dropped down from " + combo);
+        Batti(Qt::Key_Home);
+        for (int i = 0; i < riga; ++i)
+            Batti(Qt::Key_Down);
+        Batti(Qt::Key_Return);
+    }
+    TestiVoce Salvata(const CartellaProvvisoria& cartella, const std::string& nome) {
+        DalMenu(Qt::Key_F, 2);
+        Rispondi(nome);
+        EXPECT_EQ(Dice("lblNome"), "Salvato: " + nome);
+        const std::string byte = Contenuto(cartella.Di(nome + ".mel"));
+        const LetturaMel letta = LeggiMel(byte, '.');
+        return letta.soprano;
+    }
+    void ScriviCinqueNote();
+    int NoteSuonate() const;
+};
+
+void PalcoTasti::ScriviCinqueNote() {
+    Batti(Qt::Key_F6);  // the first time it is middle C
+    Batti(Qt::Key_Return);
+    Batti(Qt::Key_Right);
+    Batti(Qt::Key_F6);
+    Batti(Qt::Key_Space);
+    Batti(Qt::Key_F11);
+    Batti(Qt::Key_Right);
+    Batti(Qt::Key_Return);
+    Batti(Qt::Key_F8);
+    Batti(Qt::Key_F12);
+    Batti(Qt::Key_Left);
+    Batti(Qt::Key_Return);
+}
+
+int PalcoTasti::NoteSuonate() const {
+    int note = 0;
+    for (const auto& [istante, messaggio] : uscita->Mandati())
+        note += (messaggio & 0xF0U) == 0x90U && messaggio >> 16U > 0;
+    return note;
+}
+
+TEST(SoloTastiera, NotesDotsAndRestsAreEnteredAndTheLastIsDropped) {
+    const CartellaProvvisoria cartella;
+    PalcoTasti p(cartella.Di(""));
+    p.ScriviCinqueNote();
+    EXPECT_EQ(p.Salvata(cartella, "five"),
+              (TestiVoce{"60;62;63;00;62;", "1;1;1.5;0.5;0.5;", "n;n;n;p;n;"}));
+    p.Aziona("cmdCanc");
+    EXPECT_EQ(p.Salvata(cartella, "four"), (TestiVoce{"60;62;63;00;", "1;1;1.5;0.5;", "n;n;n;p;"}));
+}
+
+TEST(SoloTastiera, ANoteIsRewrittenAndAllAreTransposed) {
+    const CartellaProvvisoria cartella;
+    PalcoTasti p(cartella.Di(""));
+    p.ScriviCinqueNote();
+    p.Aziona("lblStep1");
+    p.AzionaDietro("lblStep1");
+    EXPECT_EQ(p.Dice("lblNe"), "2");
+    p.Batti(Qt::Key_F6);
+    p.Batti(Qt::Key_F6);
+    p.Scegli("cmbDurata", 2);
+    p.Scegli("cmbAttributi", 1);
+    p.AzionaDietro("cmdModifica0");
+    p.AzionaDietro("cmdNpp");
+    EXPECT_FALSE(p.Di("frmModifica").isVisible());
+    EXPECT_EQ(p.Salvata(cartella, "rewritten"),
+              (TestiVoce{"60;64;63;00;62;", "1;2;1.5;0.5;0.5;", "n;s;n;p;n;"}));
+    p.Aziona("lblIDs1");
+    p.Aziona("lblIDs1");
+    EXPECT_EQ(p.Dice("lblSemitoni"), "2");
+    p.Aziona("lblSemitoni");
+    EXPECT_EQ(p.Salvata(cartella, "transposed"),
+              (TestiVoce{"62;66;65;00;64;", "1;2;1.5;0.5;0.5;", "n;s;n;p;n;"}));
+}
+
+TEST(SoloTastiera, OneKeyPlaysAndStops) {
+    const CartellaProvvisoria cartella;
+    PalcoTasti p(cartella.Di(""));
+    p.ScriviCinqueNote();
+    p.Ascolta();
+    p.Batti(Qt::Key_F9);
+    EXPECT_EQ(p.NoteSuonate(), 4);
+    EXPECT_EQ(p.Dice("cmdPlay"), "Play");
+    p.Ascolta();
+    p.FermaDopo(0.5);
+    p.Batti(Qt::Key_F9);
+    EXPECT_EQ(p.Dice("cmdPlay"), "Stop");
+    p.Batti(Qt::Key_F9);
+    p.Prosegui();
+    EXPECT_EQ(p.Dice("cmdPlay"), "Play");
+    EXPECT_EQ(p.NoteSuonate(), 1);
+}
+
+}  // namespace
+}  // namespace corvana::prova
