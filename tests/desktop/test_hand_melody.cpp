@@ -104,5 +104,23 @@ TEST(MelodiaAMano, WhatIsEnteredInAllFourVoicesIsSavedAsTheFileAndSoundsLikeIt) 
         EXPECT_GT(Picco(Parte(mono, quando, 2)), 0.01) << quando;
 }
 
+TEST(MelodiaAMano, WhatIsClickedWhileANoteSoundsIsNotLostAndComesAfterIt) {
+    const CartellaProvvisoria cartella;
+    PalcoMelodia p(cartella.Di(""));
+    p.FermaDopo(0.1);
+    p.Tocca("lb24", p.NelTasto("lb24"));
+    p.Tocca("cmdInsNota");
+    p.Tocca("cmdSimbNote1");
+    p.Tocca("cmdInsPausa");
+    p.Tocca("cmdSimbNote3");
+    p.Tocca("cmdAttrNota0");
+    p.ToccaDueVolte("lb26", p.NelTasto("lb26"));
+    EXPECT_EQ(p.Dice("LblNoteString"), "");
+    p.Prosegui();
+    p.SalvaConNome("hasty");
+    EXPECT_EQ(LeggiMel(Contenuto(cartella.Di("hasty.mel")), '.').soprano,
+              (TestiVoce{"60;00;62;", "1;2;0.75;", "n;p;n;"}));
+}
+
 }  // namespace
 }  // namespace corvana::prova
