@@ -44,7 +44,7 @@ void Faccia::Controlla() {
 
 void Faccia::paintEvent(QPaintEvent* evento) {
     QPainter p(this);
-    DipingiStrati(p, terra_, evento->rect(), [this](const VistaDipinta& vista) {
+    DipingiStrati(p, terra_, evento->region(), [this](const VistaDipinta& vista) {
         Tocco tocco = topo_.Tatto(vista);
         tocco.premuto = tocco.premuto || vista.PremutaDaTasto();
         tocco.fuoco = Fuoco() && &Fuoco()->DovEIlFuoco() == &vista;

@@ -12,10 +12,10 @@ VistaDipinta* Posata(Vista* vista) {
     return dipinta;
 }
 
-void DipingiUna(QPainter& p, VistaDipinta& vista, const QRect& ritaglio, const Tocco& tocco) {
+void DipingiUna(QPainter& p, VistaDipinta& vista, const QRegion& ritaglio, const Tocco& tocco) {
     const QRect area = vista.Area();
     p.save();
-    p.setClipRect(ritaglio);
+    p.setClipRect(ritaglio.boundingRect());
     p.translate(area.topLeft());
     vista.Dipingi(p, QRectF(QPointF(), area.size()), tocco);
     p.restore();
@@ -30,13 +30,13 @@ void PerOgniStrato(const VistaDipinta& vista, const std::function<void(VistaDipi
                 azione(*posata);
 }
 
-void DipingiStrati(QPainter& p, VistaDipinta& terra, const QRect& scoperto,
+void DipingiStrati(QPainter& p, VistaDipinta& terra, const QRegion& scoperto,
                    const std::function<Tocco(const VistaDipinta&)>& tatto) {
     DipingiUna(p, terra, scoperto, tatto(terra));
     // What lies in it ends where it ends itself.
-    const QRect dentro = scoperto & terra.Area();
+    const QRegion dentro = scoperto & terra.Area();
     PerOgniStrato(terra, [&](VistaDipinta& vista) {
-        const QRect ritaglio = dentro & vista.Portata();
+        const QRegion ritaglio = dentro & vista.Portata();
         if (vista.SiVede() && !ritaglio.isEmpty()) DipingiStrati(p, vista, ritaglio, tatto);
     });
 }

@@ -12,8 +12,9 @@ namespace corvana {
 /// lowest to the uppermost.
 void PerOgniStrato(const VistaDipinta& vista, const std::function<void(VistaDipinta&)>& azione);
 
-/// Paints what is to be seen of `terra` and of all that lies in it within `scoperto`.
-void DipingiStrati(QPainter& p, VistaDipinta& terra, const QRect& scoperto,
+/// Paints what is to be seen of `terra` and of all that lies in it within `scoperto`, to which the
+/// painter keeps, as that of a paint event does.
+void DipingiStrati(QPainter& p, VistaDipinta& terra, const QRegion& scoperto,
                    const std::function<Tocco(const VistaDipinta&)>& tatto);
 
 /// What of all that lies in `terra` is on top there; null where there is nothing.
