@@ -20,6 +20,8 @@ public:
     QString Testo(const char* bottone) { return Di(bottone).Come<QAbstractButton>().text(); }
     void Premi(const char* nome) { Clicca(scrivania_, QString::fromUtf8(nome)); }
     void Scegli(const char* voce) { TrovaVoce(scrivania_, QString::fromUtf8(voce)).trigger(); }
+    void Premi(Qt::Key tasto) { prova::Premi(scrivania_, tasto); }
+    void Lascia(Qt::Key tasto) { prova::Lascia(scrivania_, tasto); }
     void Attendi(const char* finestra) { AspettaFinestra(scrivania_, QLatin1String(finestra)); }
     /// The whole window in front.
     void Scatta(const char* nome) { Salva(Fotografa(scrivania_), nome); }
@@ -37,6 +39,10 @@ public:
         Attendi(finestra);
         Scatta(nome);
         if (finisci) finisci();
+        Chiudi();
+    }
+    /// Closes what lies over the main window.
+    void Chiudi() {
         scrivania_.Davanti()->Finestra().close();
         Attendi("CorvanaMainF");
     }

@@ -2,6 +2,7 @@
 // corvana_help_pictures FOLDER DATA it|en
 #include <QApplication>
 
+#include "tests/desktop/help_composer.h"
 #include "tests/desktop/help_drills.h"
 
 namespace {
@@ -95,6 +96,7 @@ int main(int argc, char** argv) {
     f.ScattaSopra("midi", "frmMidiTest", [&] { f.Scegli("mnuMidiTest"); });
     Promemoria(f);
     EserciziOrecchio(f);
+    FinestraComposizione(f);
     scrivania.Termina();
     return 0;
 }
