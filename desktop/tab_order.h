@@ -10,7 +10,7 @@
 namespace corvana {
 
 /// The stop after the one that has the focus, or before it; null where there is none that can be
-/// used. After the last comes the first.
+/// seen and used. After the last comes the first.
 Vista* ProssimaFermata(const std::vector<std::unique_ptr<Vista>>& viste, bool avanti);
 
 }  // namespace corvana

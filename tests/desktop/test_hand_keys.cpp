@@ -52,13 +52,29 @@ struct PalcoTasti : PalcoAMano {
         DalMenu(Qt::Key_F, 2);
         Rispondi(nome);
         EXPECT_EQ(Dice("lblNome"), "Salvato: " + nome);
+        // The list that saving shows lies over the palette.
+        Aziona("cmdChiudi");
         const std::string byte = Contenuto(cartella.Di(nome + ".mel"));
         const LetturaMel letta = LeggiMel(byte, '.');
         return letta.soprano;
     }
+    /// Of the Tab key, once around.
+    QStringList Fermate();
     void ScriviCinqueNote();
     int NoteSuonate() const;
 };
+
+QStringList PalcoTasti::Fermate() {
+    QStringList fermate;
+    while (true) {
+        Batti(Qt::Key_Tab);
+        for (int numero = 0; Vista* vista = scrivania.Davanti()->Controllo(numero); ++numero)
+            if (vista->HaFuoco()) {
+                if (fermate.contains(vista->Stato().nome)) return fermate;
+                fermate.append(vista->Stato().nome);
+            }
+    }
+}
 
 void PalcoTasti::ScriviCinqueNote() {
     Batti(Qt::Key_F6);  // the first time it is middle C
@@ -132,6 +148,21 @@ TEST(SoloTastiera, OneKeyPlaysAndStops) {
     p.Prosegui();
     EXPECT_EQ(p.Dice("cmdPlay"), "Play");
     EXPECT_EQ(p.NoteSuonate(), 1);
+}
+
+TEST(SoloTastiera, WhatTheListOfMelodiesCoversIsNoStop) {
+    const CartellaProvvisoria cartella;
+    PalcoTasti p(cartella.Di(""));
+    const QStringList prima = p.Fermate();
+    EXPECT_TRUE(prima.contains("cmdInsNota"));
+    EXPECT_TRUE(prima.contains("cmdAttrNota5"));
+    p.DalMenu(Qt::Key_F, 0);
+    ASSERT_TRUE(p.Di("Fr2").isVisible());
+    const QStringList dopo = p.Fermate();
+    for (const char* nome : {"List1", "cmdEseguiFile", "cmdChiudi", "cmdPlay", "lblStep1"})
+        EXPECT_TRUE(dopo.contains(QLatin1String(nome))) << nome;
+    for (const char* nome : {"cmdInsNota", "cmdAttrNota5", "cmdSimbNote0", "cmdCanc", "PausaPer"})
+        EXPECT_FALSE(dopo.contains(QLatin1String(nome))) << nome;
 }
 
 }  // namespace
