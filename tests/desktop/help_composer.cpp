@@ -45,6 +45,17 @@ void Scrivi(Fotografo& f) {
     AspettaScritta(f, "lblNt", "");
 }
 
+/// The lowest keys of the computer's two rows, held down.
+void SuonaLeFile(Fotografo& f) {
+    f.Premi(Qt::Key_Z);
+    f.Premi(Qt::Key_Q);
+    Deve(Aspetta([&] { return TastiAccesi(f) == 2; }));
+    f.Scatta("composer-keys", "tastiera", "tastiera");
+    f.Lascia(Qt::Key_Z);
+    f.Lascia(Qt::Key_Q);
+    Deve(Aspetta([&] { return TastiAccesi(f) == 0; }));
+}
+
 void Apri(Fotografo& f, const QString& inizio) {
     f.Scegli("mnuApri");
     auto& lista = f.Di("List1").Come<QListWidget>();
@@ -95,6 +106,7 @@ void FinestraComposizione(Fotografo& f) {
     f.Scegli("mnuComposer");
     f.Attendi("frmComposer");
     Scrivi(f);
+    SuonaLeFile(f);
     Suona(f);
     ScegliVoce(f);
     Passo(f);
