@@ -17,6 +17,7 @@ frmComposer::frmComposer(const Ambiente& ambiente, VicineComposer vicine)
       a_(ambiente),
       vicine_(std::move(vicine)),
       play(ambiente, *this, stato, AttornoAlPlay()),
+      modifica(ambiente, *this, stato, AttornoAllaModifica()),
       trasposizione(ambiente, *this, stato, {[this] { voci.MostraNomiInteri(); }, FuocoPlay()}),
       mix(ambiente, *this, stato,
           {[this](bool abilita) { riferimenti.cmdAddBm.Enabled = abilita; },
@@ -26,7 +27,6 @@ frmComposer::frmComposer(const Ambiente& ambiente, VicineComposer vicine)
              {[this](int voce) { mix.VoceAttiva_Click(voce); }, FuocoPlay()}),
       tasti(ambiente, *this, stato),
       inserimento(ambiente, *this, stato, AttornoAllInserimento()),
-      modifica(ambiente, *this, stato, AttornoAllaModifica()),
       regolo(
           ambiente, *this, stato,
           {[this](int tasto, bool acceso) { tasti.MostraTasto(tasto, acceso); }, FuocoInsNota()}),

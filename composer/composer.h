@@ -55,13 +55,14 @@ public:
     Etichetta pictCi{*this, "pictCi"};  ///< chooses the instrument
     PannelloPulsi pulsi{*this};
     PannelloPlay play;
+    // A step gives Play the focus: its arrows and its note come next.
+    PannelloModifica modifica;
     PannelloTrasposizione trasposizione;
     PannelloMix mix;
     PannelloVoci voci;
     PannelloTratti tratti;
     PannelloTasti tasti;
     PannelloInserimento inserimento;
-    PannelloModifica modifica;
     PannelloRegolo regolo;
     PannelloRiferimenti riferimenti;
     PannelloFile archivio;

@@ -116,11 +116,11 @@ void PalcoAMano::Batti(Qt::Key tasto, Qt::KeyboardModifiers modificatori) {
     Calma();
 }
 
-void PalcoAMano::VaiA(const std::string& nome, Qt::Key tasto, Qt::KeyboardModifiers modificatori) {
+void PalcoAMano::VaiA(const std::string& nome) {
     constexpr int fermate = 200;  // more than the window has
     for (int passi = 0; !Di(nome).hasFocus(); ++passi) {
         if (passi == fermate) throw std::logic_error("the Tab key never comes to " + nome);
-        Batti(tasto, modificatori);
+        Batti(Qt::Key_Tab);
     }
 }
 

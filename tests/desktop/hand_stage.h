@@ -84,9 +84,8 @@ public:
     void ToccaDueVolte(const std::string& nome, QPoint dove);
     /// A key goes down, is held until the program has done what it is for, and comes up.
     void Batti(Qt::Key tasto, Qt::KeyboardModifiers modificatori = {});
-    /// The Tab key, as often as it takes until the control has the keyboard; or with Shift.
-    void VaiA(const std::string& nome) { VaiA(nome, Qt::Key_Tab, Qt::NoModifier); }
-    void TornaA(const std::string& nome) { VaiA(nome, Qt::Key_Backtab, Qt::ShiftModifier); }
+    /// The Tab key, as often as it takes until the control has the keyboard.
+    void VaiA(const std::string& nome);
     /// Drags the thumb of a slider until `casella` says so.
     void Trascina(const std::string& barra, const std::string& casella, const std::string& finche);
     /// Types into the box that asks for a text, and Enter.
@@ -107,7 +106,6 @@ public:
     void Prosegui();
 
 private:
-    void VaiA(const std::string& nome, Qt::Key tasto, Qt::KeyboardModifiers modificatori);
     bool Fermo();
 };
 
