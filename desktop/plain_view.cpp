@@ -21,6 +21,11 @@ Aspetto Acceso(Aspetto aspetto) {
 
 }  // namespace
 
+bool VistaSemplice::Colpibile() const {
+    const bool inerte = Stato().Ascolti == 0 && Stato().ToolTipText.empty();
+    return Origine().tipo != Genere::Figura || !inerte;
+}
+
 void VistaSemplice::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
     if (Stato().Ha("lettera")) return DipingiLettera(p, area, Stato(), Scala(), tocco);
     if (Stato().Ha("pulsante")) {

@@ -8,6 +8,8 @@ namespace corvana {
 class VistaSemplice : public VistaDipinta {
 public:
     using VistaDipinta::VistaDipinta;
+    /// A mere ground belongs to what it lies on.
+    bool Colpibile() const override;
     void Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) override;
 };
 

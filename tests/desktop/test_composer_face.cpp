@@ -3,6 +3,8 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
+#include <QTest>
 #include <set>
 
 #include "composer/composer.h"
@@ -168,6 +170,15 @@ TEST(FacciaComposer, WhatSaysNothingItselfIsCalledByTheToolTipBesideIt) {
     }
     EXPECT_EQ(p.Di("chekLoop").accessibleName(),
               StatoDi(p.scrivania, "chekLoopLb").Caption.c_str());
+}
+
+TEST(FacciaComposer, TheRightButtonOnAGroundOpensTheContextMenuOfTheWindow) {
+    PalcoComposer p;
+    const Cosa fondo = p.Di("Shape8");
+    QTest::mouseClick(fondo.window()->windowHandle(), Qt::RightButton, {},
+                      fondo.NellaFinestra(fondo.rect().center()));
+    EXPECT_TRUE(Aspetta([] { return QApplication::activePopupWidget() != nullptr; }));
+    if (QWidget* menu = QApplication::activePopupWidget()) menu->close();
 }
 
 TEST(FacciaComposer, AClickOnTheWordsBesideABoxTicksIt) {
