@@ -8,8 +8,7 @@
 
 #include "bench/figures.h"
 #include "bench/painted.h"
-#include "forms/real_clock.h"
-#include "sound/platform_midi.h"
+#include "bench/timed_output.h"
 #include "tests/desktop/program_stage.h"
 
 namespace {
@@ -24,30 +23,12 @@ struct Domanda {
     std::atomic<double> istante{0};
     std::atomic<int> nota{0};  ///< MIDI number
     std::atomic<int> quante{0};
-};
 
-class UscitaCronometrata final : public PiattaformaMidi {
-public:
-    explicit UscitaCronometrata(Domanda& domanda) : domanda_(domanda) {}
-    int midiOutOpen(HandleDispositivo& handle, std::int32_t) override { return handle = 1, 0; }
-    int midiOutClose(HandleDispositivo) override { return 0; }
-    int midiOutReset(HandleDispositivo) override { return 0; }
-    int midiOutShortMsg(HandleDispositivo, std::uint32_t messaggio) override {
-        constexpr std::uint32_t notaAccesa = 0x640090;  // channel 1 at the drill's velocity
-        if ((messaggio & 0xFF00FF) != notaAccesa) return 0;
-        domanda_.nota = static_cast<int>(messaggio >> 8 & 0x7F);
-        domanda_.istante = orologio_.Adesso();
-        ++domanda_.quante;
-        return 0;
+    void Prendi(int suonata, double quando) {
+        nota = suonata;
+        istante = quando;
+        ++quante;
     }
-    std::string midiOutGetErrorTextA(int) override { return {}; }
-    int midiOutGetNumDevs() override { return 0; }
-    int midiOutGetDevCapsA(std::int32_t, std::string&) override { return midiDispositivoErrato; }
-    void sndPlaySoundA(const std::string&, unsigned) override {}
-
-private:
-    Domanda& domanda_;
-    OrologioReale orologio_;
 };
 
 class Allievo {
@@ -112,7 +93,10 @@ int main(int argc, char** argv) {
     const QTemporaryDir stato;
     Domanda domanda;
     Macchina macchina = MacchinaMuta(QStringLiteral(CORVANA_DATA), stato);
-    macchina.uscite = [&](const auto&) { return std::make_unique<UscitaCronometrata>(domanda); };
+    macchina.uscite = [&](const auto&) {
+        return std::make_unique<misura::UscitaCronometrata>(
+            [&](int nota, double istante) { domanda.Prendi(nota, istante); });
+    };
     Allievo allievo(applicazione.LaScrivania(), domanda);
     QTimer::singleShot(0, [&] { allievo.Esercita(); });
     return applicazione.OspitaLogica([&] { LogicaDelProgramma(applicazione, macchina); });

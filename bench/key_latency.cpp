@@ -9,10 +9,10 @@
 #include <filesystem>
 
 #include "bench/figures.h"
+#include "bench/timed_output.h"
 #include "desktop/application.h"
 #include "desktop/logic.h"
 #include "forms/real_clock.h"
-#include "sound/recorder.h"
 #include "trainer/corvana_main.h"
 
 namespace {
@@ -27,32 +27,14 @@ struct Tavolo {
     std::atomic<int> note{0};        ///< notes struck so far
     std::atomic<int> giusta{0};      ///< the right answer, 1 to 7
     CorvanaMainF* finestra = nullptr;
-};
 
-class UscitaCronometrata final : public PiattaformaMidi {
-public:
-    explicit UscitaCronometrata(Tavolo& tavolo) : tavolo_(tavolo) {}
-    int midiOutOpen(HandleDispositivo& handle, std::int32_t) override { return handle = 1, 0; }
-    int midiOutClose(HandleDispositivo) override { return 0; }
-    int midiOutReset(HandleDispositivo) override { return 0; }
-    int midiOutShortMsg(HandleDispositivo, std::uint32_t messaggio) override {
-        constexpr std::uint32_t notaAccesa = 0x640090;  // channel 1 at the drill's velocity
-        if ((messaggio & 0xFF00FF) != notaAccesa) return 0;
-        const auto& giuste = tavolo_.finestra->esercizio.RispostaGiusta;
-        const auto giusta = std::find(giuste.begin(), giuste.end(), true);
-        tavolo_.giusta = static_cast<int>(giusta - giuste.begin()) + 1;
-        tavolo_.suonata = orologio_.Adesso();
-        ++tavolo_.note;
-        return 0;
+    void Prendi(double quando) {
+        const auto& giuste = finestra->esercizio.RispostaGiusta;
+        giusta =
+            static_cast<int>(std::find(giuste.begin(), giuste.end(), true) - giuste.begin()) + 1;
+        suonata = quando;
+        ++note;
     }
-    std::string midiOutGetErrorTextA(int) override { return {}; }
-    int midiOutGetNumDevs() override { return 0; }
-    int midiOutGetDevCapsA(std::int32_t, std::string&) override { return midiDispositivoErrato; }
-    void sndPlaySoundA(const std::string&, unsigned) override {}
-
-private:
-    Tavolo& tavolo_;
-    OrologioReale orologio_;
 };
 
 /// The learner: at each turn answers the note that stands and notes how long the next one took.
@@ -123,7 +105,10 @@ int main(int argc, char** argv) {
     macchina.cartellaProgramma = cartella.string();
     macchina.percorsoImpostazioni = (cartella / "settings").string();
     macchina.percorsoBlocco = (cartella / "lock").string();
-    macchina.uscite = [&](const auto&) { return std::make_unique<UscitaCronometrata>(tavolo); };
+    macchina.uscite = [&](const auto&) {
+        return std::make_unique<misura::UscitaCronometrata>(
+            [&](int, double istante) { tavolo.Prendi(istante); });
+    };
     macchina.pronta = [&](CorvanaMainF& finestra) { tavolo.finestra = &finestra; };
     const Allievo allievo(tavolo);
     const int esito =
