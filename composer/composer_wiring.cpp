@@ -58,7 +58,7 @@ VicineComandi frmComposer::AttornoAiTasti() {
             FuocoInsNota(),
             [this] { play.cmdPlay_Click(); },
             [this] { play.mnuPlayRitardo_Click(); },
-            [this](std::string_view stato, int tasto) { regolo.MuoviCursore(stato, tasto); }};
+            [this](std::string_view verso, int tasto) { regolo.MuoviCursore(verso, tasto); }};
 }
 
 std::function<void()> frmComposer::FuocoPlay() {
