@@ -76,6 +76,7 @@ bool VaNellaGriglia(const VistaDipinta& vista, int tasto) {
     const auto qui = std::find(griglia.begin(), griglia.end(), &vista);
     if (qui == griglia.end()) return false;
     std::vector<QRect> posti;
+    posti.reserve(griglia.size());
     for (const VistaDipinta* vicina : griglia)
         posti.push_back(vicina->Posto());
     const int passo = PassoNellaGriglia(posti, static_cast<int>(qui - griglia.begin()), tasto);
