@@ -9,7 +9,6 @@ const char* __tsan_default_suppressions() {
     return "called_from_lib:libSDL2\n"
            "called_from_lib:libfluidsynth\n"
            "called_from_lib:libgomp\n"
-           "called_from_lib:libinstpatch\n"
            "called_from_lib:libpulse.so\n"
            "called_from_lib:libpulsecommon\n";
 }
