@@ -42,11 +42,27 @@ public:
     virtual int Rinomina(const std::string& percorso, const std::string& nuovo) = 0;
     /// Makes the folder and those above it. Returns 0 (also when it is there) or the errno.
     virtual int CreaCartella(const std::string& percorso) = 0;
-    /// The folders and files in it, in any order, without "." and "..": what can be read of it.
-    virtual std::vector<VoceCartella> Elenca(const std::string& percorso) = 0;
-    /// The folder of the removable medium that is in the machine, with a closing separator; empty
-    /// when there is none.
-    virtual std::string SupportoRimovibile() = 0;
+    /// Takes the file away, not a folder. Returns 0 or the errno.
+    virtual int Elimina(const std::string& percorso) = 0;
+    /// Takes the folder away, which must be empty. Returns 0 or the errno.
+    virtual int EliminaCartella(const std::string& percorso) = 0;
+    /// Puts the folders and files in it into `voci`, in any order, without "." and "..": what can
+    /// be read of it. Returns 0 or the errno of what ended the reading before the end.
+    virtual int Elenca(const std::string& percorso, std::vector<VoceCartella>& voci) = 0;
+    /// The folders of the removable media that are in the machine, each with a closing separator.
+    virtual std::vector<std::string> Supporti() = 0;
+
+    /// What can be read of the folder.
+    std::vector<VoceCartella> Elenca(const std::string& percorso) {
+        std::vector<VoceCartella> voci;
+        Elenca(percorso, voci);
+        return voci;
+    }
+    /// The first of the removable media; empty when there is none.
+    std::string SupportoRimovibile() {
+        const std::vector<std::string> supporti = Supporti();
+        return supporti.empty() ? "" : supporti.front();
+    }
 };
 
 }  // namespace corvana

@@ -62,6 +62,8 @@ struct TestiLingua {
 
 struct Globali {
     std::string CartellaProgramma;       ///< where data lies, without a closing separator
+    std::string CartellaUtente;          ///< the user's home, with a closing separator, or empty
+    std::string CartellaDocumenti;       ///< the user's documents, with one, or empty
     std::string PercorsoLingua;          ///< full path of the active language file
     std::string PercorsoNote;            ///< folder of the cue sounds, with a closing separator
     std::string FileAiuto;               ///< the help file's full name

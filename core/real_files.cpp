@@ -111,6 +111,10 @@ int FileReali::ScriviAtomico(const std::string& percorso, const std::string& con
     return errore;
 }
 
+int FileReali::Elimina(const std::string& percorso) {
+    return unlink(percorso.c_str()) == 0 ? 0 : errno;
+}
+
 int FileReali::CreaCartella(const std::string& percorso) {
     std::error_code errore;
     std::filesystem::create_directories(percorso, errore);

@@ -22,8 +22,11 @@ public:
     int ScriviAtomico(const std::string& percorso, const std::string& contenuto) override;
     int Rinomina(const std::string& percorso, const std::string& nuovo) override;
     int CreaCartella(const std::string& percorso) override;
-    std::vector<VoceCartella> Elenca(const std::string& percorso) override;
-    std::string SupportoRimovibile() override;
+    int Elimina(const std::string& percorso) override;
+    int EliminaCartella(const std::string& percorso) override;
+    using ArchivioFile::Elenca;
+    int Elenca(const std::string& percorso, std::vector<VoceCartella>& voci) override;
+    std::vector<std::string> Supporti() override;
 
 private:
     std::vector<std::string> radiciSupporti_;

@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <system_error>
 
@@ -37,8 +38,12 @@ bool FileReali::EsisteCartella(const std::string& percorso) {
     return fs::is_directory(percorso, errore);
 }
 
-std::vector<VoceCartella> FileReali::Elenca(const std::string& percorso) {
-    std::vector<VoceCartella> voci;
+int FileReali::EliminaCartella(const std::string& percorso) {
+    return rmdir(percorso.c_str()) == 0 ? 0 : errno;
+}
+
+int FileReali::Elenca(const std::string& percorso, std::vector<VoceCartella>& voci) {
+    voci.clear();
     std::error_code errore;
     for (fs::directory_iterator voce(percorso, errore), fine; !errore && voce != fine;
          voce.increment(errore)) {
@@ -47,20 +52,21 @@ std::vector<VoceCartella> FileReali::Elenca(const std::string& percorso) {
         if (!voce->is_other(illeggibile))
             voci.push_back({voce->path().filename().string(), voce->is_directory(illeggibile)});
     }
-    return voci;
+    return errore.value();
 }
 
-std::string FileReali::SupportoRimovibile() {
+std::vector<std::string> FileReali::Supporti() {
+    std::vector<std::string> supporti;
     for (const std::string& radice : radiciSupporti_) {
         std::vector<VoceCartella> voci = Elenca(radice);
         std::sort(voci.begin(), voci.end(),
                   [](const auto& a, const auto& b) { return a.nome < b.nome; });
         for (const VoceCartella& voce : voci) {
             const std::string cartella = radice + "/" + voce.nome;
-            if (voce.cartella && Montata(cartella)) return cartella + "/";
+            if (voce.cartella && Montata(cartella)) supporti.push_back(cartella + "/");
         }
     }
-    return "";
+    return supporti;
 }
 
 }  // namespace corvana

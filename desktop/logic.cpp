@@ -20,6 +20,8 @@ void LogicaDelProgramma(Applicazione& applicazione, const Macchina& macchina) {
     CasualeFisso casuale;
     Globali globali;
     globali.CartellaProgramma = macchina.cartellaProgramma;
+    globali.CartellaUtente = macchina.cartellaUtente;
+    globali.CartellaDocumenti = macchina.cartellaDocumenti;
     globali.SeparatoreDecimale = SeparatoreDiSistema();
 
     const IstanzaUnica istanza(macchina.percorsoBlocco);

@@ -19,6 +19,8 @@ struct Macchina {
     std::string cartellaProgramma;     ///< where the language files and the cues lie
     std::string percorsoImpostazioni;  ///< the settings' file
     std::string percorsoBlocco;        ///< the lock that tells of another instance
+    std::string cartellaUtente;        ///< the user's home, with a closing separator
+    std::string cartellaDocumenti;     ///< the user's documents, with one; may not exist yet
     /// Makes the outputs, given what tells the instant at which the logic stands.
     std::function<std::unique_ptr<PiattaformaMidi>(std::function<double()>)> uscite;
     /// Called first of all on the logic's thread, to have its waits end on time; may be empty.

@@ -25,12 +25,20 @@ std::string NellaCartella(QStandardPaths::StandardLocation dove, const char* nom
     return (cartella + QLatin1Char('/') + QLatin1String(nome)).toStdString();
 }
 
+/// One of the user's own folders, with a closing separator; empty where there is none.
+std::string CartellaSua(QStandardPaths::StandardLocation quale) {
+    const std::string cartella = QStandardPaths::writableLocation(quale).toStdString();
+    return cartella.empty() || cartella.ends_with('/') ? cartella : cartella + "/";
+}
+
 /// Of a window that isn't painted by then, the sound doesn't wait any longer.
 constexpr std::chrono::milliseconds attesaDipinta(500);
 
-std::unique_ptr<PiattaformaMidi> CaricaUscite(const std::string& modulo,
-                                              const std::function<double()>& istante,
-                                              const ImpostazioniUscite& impostazioni) {
+std::unique_ptr<PiattaformaMidi> CaricaUscite(
+    const std::string& modulo, const std::function<double()>& istante,
+    macchina.cartellaUtente = CartellaSua(QStandardPaths::HomeLocation);
+    macchina.cartellaDocumenti = CartellaSua(QStandardPaths::DocumentsLocation);
+    const ImpostazioniUscite& impostazioni) {
     // Never let go: the audio libraries leave threads behind.
     void* const preso = dlopen(modulo.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     void* const entrata = preso ? dlsym(preso, entrataUscite) : nullptr;

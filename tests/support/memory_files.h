@@ -1,6 +1,7 @@
 // Files in memory, which fail on demand.
 #pragma once
 
+#include <algorithm>
 #include <cerrno>
 #include <map>
 #include <set>
@@ -15,6 +16,7 @@ public:
     std::map<std::string, std::string> contenuti;
     int erroreLeggi = 0;   ///< errno of every read, 0 for none
     int erroreScrivi = 0;  ///< errno of every write, 0 for none
+    int erroreElenca = 0;  ///< errno of every listing, behind what it lists; 0 for none
     int scritture = 0;
     std::set<std::string> cartelle;  ///< those that exist, without a closing separator
     std::string supportoRimovibile;  ///< with one; empty for none
@@ -43,11 +45,29 @@ public:
         return 0;
     }
     bool EsisteCartella(const std::string& percorso) override {
-        return cartelle.contains(percorso.substr(0, percorso.find_last_not_of('/') + 1));
+        return cartelle.contains(SenzaSeparatore(percorso));
     }
-    int CreaCartella(const std::string&) override { return erroreScrivi; }
-    std::vector<VoceCartella> Elenca(const std::string& percorso) override {
-        std::vector<VoceCartella> voci;
+    int CreaCartella(const std::string& percorso) override {
+        if (erroreScrivi) return erroreScrivi;
+        for (std::string resto = SenzaSeparatore(percorso); !resto.empty();
+             resto.erase(std::min(resto.rfind('/'), resto.size())))
+            cartelle.insert(resto);
+        return 0;
+    }
+    int Elimina(const std::string& percorso) override {
+        if (erroreScrivi) return erroreScrivi;
+        return contenuti.erase(percorso) == 0 ? ENOENT : 0;
+    }
+    int EliminaCartella(const std::string& percorso) override {
+        if (erroreScrivi) return erroreScrivi;
+        if (!EsisteCartella(percorso)) return ENOENT;
+        if (!ArchivioFile::Elenca(SenzaSeparatore(percorso) + "/").empty()) return ENOTEMPTY;
+        cartelle.erase(SenzaSeparatore(percorso));
+        return 0;
+    }
+    using ArchivioFile::Elenca;
+    int Elenca(const std::string& percorso, std::vector<VoceCartella>& voci) override {
+        voci.clear();
         const auto aggiungi = [&](const std::string& nome, bool cartella) {
             if (!nome.starts_with(percorso) || nome == percorso) return;
             const std::string resto = nome.substr(percorso.size());
@@ -57,9 +77,17 @@ public:
             aggiungi(nome, false);
         for (const std::string& nome : cartelle)
             aggiungi(nome, true);
-        return voci;
+        return erroreElenca;
     }
-    std::string SupportoRimovibile() override { return supportoRimovibile; }
+    std::vector<std::string> Supporti() override {
+        return supportoRimovibile.empty() ? std::vector<std::string>{}
+                                          : std::vector{supportoRimovibile};
+    }
+
+private:
+    static std::string SenzaSeparatore(const std::string& percorso) {
+        return percorso.substr(0, percorso.find_last_not_of('/') + 1);
+    }
 };
 
 }  // namespace corvana::prova
