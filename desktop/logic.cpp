@@ -15,7 +15,8 @@ void LogicaDelProgramma(Applicazione& applicazione, const Macchina& macchina) {
     Pompa pompa(macchina.orologio ? *macchina.orologio : diSistema, applicazione.Coda());
     Riquadri& riquadri = applicazione.Riquadri();
     Finestre finestre(pompa, riquadri, &applicazione.Schermo());
-    FileReali file;
+    FileReali dischi;
+    ArchivioFile& file = macchina.file ? *macchina.file : dischi;
     Impostazioni impostazioni(file, riquadri, macchina.percorsoImpostazioni);
     CasualeFisso casuale;
     Globali globali;

@@ -27,6 +27,8 @@ struct Macchina {
     std::function<void()> puntuale = {};
     /// Keeps the program's time in place of the system's clock; may be null.
     Orologio* orologio = nullptr;
+    /// Holds the user's files and the program's texts in place of the machine's disks; may be null.
+    ArchivioFile* file = nullptr;
     /// Called with the main window before it is shown; may be empty.
     std::function<void(CorvanaMainF&)> pronta = {};
 };
