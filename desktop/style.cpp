@@ -135,6 +135,8 @@ int Stile::pixelMetric(PixelMetric quale, const QStyleOption* o, const QWidget* 
 int Stile::styleHint(StyleHint cosa, const QStyleOption* o, const QWidget* widget,
                      QStyleHintReturn* altro) const {
     if (cosa == SH_EtchDisabledText || cosa == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    // The toolkit's own menu, which would stand in the way of the window's.
+    if (cosa == SH_ScrollBar_ContextMenu) return 0;
     // The rows drop down below the control, which goes on showing what is chosen.
     if (cosa == SH_ComboBox_Popup) return 0;
     if (cosa == SH_ComboBox_PopupFrameStyle) return QFrame::Box | QFrame::Plain;

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QContextMenuEvent>
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
@@ -8,6 +10,7 @@
 #include <QSlider>
 #include <QStyleOptionSlider>
 #include <QTest>
+#include <QTimer>
 #include <cmath>
 
 #include "desktop/style.h"
@@ -168,6 +171,18 @@ TEST(Stile, AScrollBarsThumbTakesTheShareThatIsSeen) {
     // A click beside the thumb turns the page.
     QTest::mouseClick(&barra, Qt::LeftButton, {}, QPoint(barra.width() / 2, 3));
     EXPECT_EQ(barra.value(), barra.maximum() - barra.pageStep());
+}
+
+TEST(Stile, AScrollBarHasNoMenuOfItsOwn) {
+    QScrollBar barra(Qt::Vertical);
+    bool menu = false;
+    // A menu would wait for its choice before the right click came to its end.
+    QTimer::singleShot(0, [&] {
+        if (QWidget* aperto = QApplication::activePopupWidget()) menu = aperto->close();
+    });
+    QContextMenuEvent chiesto(QContextMenuEvent::Mouse, QPoint(3, 3), QPoint(3, 3));
+    QCoreApplication::sendEvent(&barra, &chiesto);
+    EXPECT_FALSE(menu);
 }
 
 }  // namespace
