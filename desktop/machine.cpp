@@ -36,8 +36,6 @@ constexpr std::chrono::milliseconds attesaDipinta(500);
 
 std::unique_ptr<PiattaformaMidi> CaricaUscite(
     const std::string& modulo, const std::function<double()>& istante,
-    macchina.cartellaUtente = CartellaSua(QStandardPaths::HomeLocation);
-    macchina.cartellaDocumenti = CartellaSua(QStandardPaths::DocumentsLocation);
     const ImpostazioniUscite& impostazioni) {
     // Never let go: the audio libraries leave threads behind.
     void* const preso = dlopen(modulo.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
@@ -56,6 +54,8 @@ Macchina QuestaMacchina(const Applicazione& applicazione, const std::string& qui
     macchina.percorsoImpostazioni =
         NellaCartella(QStandardPaths::GenericConfigLocation, "settings");
     macchina.percorsoBlocco = NellaCartella(QStandardPaths::GenericCacheLocation, "lock");
+    macchina.cartellaUtente = CartellaSua(QStandardPaths::HomeLocation);
+    macchina.cartellaDocumenti = CartellaSua(QStandardPaths::DocumentsLocation);
     const ImpostazioniUscite impostazioni{.cartellaSegnali = macchina.cartellaProgramma + "/note",
                                           .puntuale = PreferisciPuntualita};
     macchina.uscite = [=, &applicazione](const std::function<double()>& istante) {
