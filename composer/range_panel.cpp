@@ -2,6 +2,7 @@
 
 #include "forms/fault.h"
 #include "melody/numbers.h"
+#include "melody/tokens.h"
 
 namespace corvana {
 
@@ -36,7 +37,10 @@ PannelloTratti::PannelloTratti(const Ambiente& ambiente, Form& finestra, StatoCo
         freccia.DblClick = [this, i] { Passo(i); };
         freccia.Click = [] {};
     }
-    voci_.lblNini.LostFocus = [this] { lblNini_Validate(); };
+    for (std::size_t voce = 0; voce < numeroVoci; ++voce) {
+        voci_.perVoce[voce].prima.LostFocus = [this, voce] { lblNini_Validate(voce); };
+        voci_.perVoce[voce].ultima.LostFocus = [this, voce] { lblNfine_Validate(voce); };
+    }
 }
 
 void PannelloTratti::lblid_MouseDown(int Index) {
@@ -95,19 +99,43 @@ void PannelloTratti::Sposta(const Freccia& freccia, const EstremiTratto& tratto)
         (freccia.ultima ? v.ultimaNota : v.primaNota) = static_cast<std::int16_t>(dopo - 1);
 }
 
-void PannelloTratti::lblNini_Validate() {
-    VoceMelodia& v = melodia_.voci[soprano];
-    Casella& casella = voci_.lblNini;
-    if (v.Vuota()) {
-        casella.Text = "";
-        return;
-    }
-    const auto valore = InteroDi(casella.Text());
-    if (valore && *valore >= 1 && *valore <= v.ultimaNota + 1)
-        v.primaNota = static_cast<std::int16_t>(*valore - 1);
+void PannelloTratti::lblNini_Validate(std::size_t voce) {
+    Convalida({voce, false});
+}
+
+void PannelloTratti::lblNfine_Validate(std::size_t voce) {
+    if (Convalida({voce, true})) voci_.MostraNoteVoce();
+}
+
+/// False when there was no number to judge.
+bool PannelloTratti::Convalida(const CasellaTratto& quale) {
+    const VoceMelodia& v = melodia_.voci[quale.voce];
+    const PannelloVoci::ControlliVoce& caselle = voci_.perVoce[quale.voce];
+    Casella& casella = quale.ultima ? caselle.ultima : caselle.prima;
+    // A play walks on the very fields that a box of a lower voice would set.
+    if (casella.Locked()) return false;
+    const auto numero = v.Vuota() ? std::nullopt : InteroDi(casella.Text());
+    if (numero)
+        Giudica(quale, *numero, casella);
     else
-        casella.Text = std::to_string(v.primaNota + 1);
-    if (valore) vicine_.scegliVoce(static_cast<int>(soprano));
+        casella.Text =
+            v.Vuota() ? "" : std::to_string((quale.ultima ? v.ultimaNota : v.primaNota) + 1);
+    return numero.has_value();
+}
+
+/// The number goes into the voice's range, or the box shows what the rule puts in its place.
+void PannelloTratti::Giudica(const CasellaTratto& quale, std::int64_t numero, Casella& casella) {
+    VoceMelodia& v = melodia_.voci[quale.voce];
+    const PannelloVoci::ControlliVoce& caselle = voci_.perVoce[quale.voce];
+    const Casella& altra = quale.ultima ? caselle.prima : caselle.ultima;
+    const RegolaCasella regola =
+        RegolaDi(quale, {v.primaNota + 1L, v.ultimaNota + 1L, v.numeroNote,
+                         [&altra] { return long{NumeroNota(altra.Text())}; }});
+    const bool accettato = regola.Accetta(numero);
+    if (accettato)
+        (quale.ultima ? v.ultimaNota : v.primaNota) = static_cast<std::int16_t>(numero - 1);
+    casella.Text = std::to_string(accettato ? numero : regola.rifiutato);
+    vicine_.scegliVoce(static_cast<int>(quale.voce));
 }
 
 }  // namespace corvana

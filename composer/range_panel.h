@@ -1,5 +1,5 @@
 // The ranges of the voices: the arrows, which move an end for as long as they are held, and what
-// becomes of what was typed into the soprano's first box. Logic thread.
+// becomes of what was typed into the boxes. Logic thread.
 #pragma once
 
 #include <deque>
@@ -7,6 +7,7 @@
 
 #include "composer/composer_state.h"
 #include "composer/range_arrows.h"
+#include "composer/range_boxes.h"
 #include "composer/voice_panel.h"
 #include "core/globals.h"
 
@@ -31,13 +32,17 @@ public:
     /// wait is one step.
     void lblid_MouseDown(int Index);
     void lblid_MouseUp();
-    void lblNini_Validate();
+    /// The box of a voice's first note, or of its last, was left.
+    void lblNini_Validate(std::size_t voce);
+    void lblNfine_Validate(std::size_t voce);
 
 private:
     void TieniPremuta(int Index);
     void Passo(int Index);
     EstremiTratto Estremi(std::size_t voce) const;
     void Sposta(const Freccia& freccia, const EstremiTratto& tratto);
+    bool Convalida(const CasellaTratto& quale);
+    void Giudica(const CasellaTratto& quale, std::int64_t numero, Casella& casella);
 
     Ambiente a_;
     Form& finestra_;
