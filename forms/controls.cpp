@@ -52,6 +52,32 @@ std::string Lista::Scelta() const {
     return esiste ? List()[static_cast<std::size_t>(scelta)] : std::string{};
 }
 
+ListaMultipla::ListaMultipla(Form& form, std::string nome, Controllo* padre)
+    : Lista(form, std::move(nome), padre) {
+    MultiSelect = true;
+}
+
+void ListaMultipla::Clear() {
+    Selected = NumeriRiga{};
+    Lista::Clear();
+}
+
+void ListaMultipla::Accogli(const Evento& e) {
+    Lista::Accogli(e);
+    if (e.fatto != Fatto::Click) return;
+    NumeriRiga scelte = e.scelte;
+    std::erase_if(scelte,
+                  [&](int riga) { return riga < 0 || riga >= static_cast<int>(List->size()); });
+    std::sort(scelte.begin(), scelte.end());
+    scelte.erase(std::unique(scelte.begin(), scelte.end()), scelte.end());
+    Selected.PonDaUtente(std::move(scelte));
+}
+
+void ListaMultipla::Ripeti() {
+    Lista::Ripeti();
+    Finestra().Annuncia(*this, Selected);
+}
+
 void Combo::PonTesto(const std::string& testo) {
     const auto riga = std::find(List->begin(), List->end(), testo);
     if (riga == List->end()) throw Guasto(guastoProprieta, "Invalid property value");

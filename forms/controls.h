@@ -53,7 +53,7 @@ struct Lista : Controllo {
     Proprieta<&Valori::ListIndex> ListIndex{*this};
     void AddItem(std::string riga);
     void PonRiga(int indice, std::string testo);
-    void Clear();
+    virtual void Clear();
     void Seleziona(int indice);
     /// The chosen row; empty when none is.
     std::string Scelta() const;
@@ -63,6 +63,16 @@ struct Lista : Controllo {
 protected:
     Lista(Form& form, std::string nome, Genere genere, Controllo* padre)
         : Controllo(form, std::move(nome), genere, padre) {}
+};
+
+/// A list in which several rows can be selected; `ListIndex` is the one that the user touched last.
+struct ListaMultipla : Lista {
+    ListaMultipla(Form& form, std::string nome, Controllo* padre = nullptr);
+    Proprieta<&Valori::MultiSelect> MultiSelect{*this};
+    Proprieta<&Valori::Selected> Selected{*this};
+    void Clear() override;
+    void Accogli(const Evento& e) override;
+    void Ripeti() override;
 };
 
 /// A list of which the face shows the chosen row alone, until the user opens it.

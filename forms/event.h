@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace corvana {
 
@@ -42,6 +43,7 @@ struct Evento {
     int y = 0;              ///< twips from the control's top
     int valore = 0;
     std::string testo = {};
+    std::vector<int> scelte = {};  ///< rows that are selected, of a list in which several can be
 };
 
 }  // namespace corvana

@@ -54,12 +54,16 @@ struct Sfumatura {
 };
 
 using Righe = std::vector<std::string>;
+/// Numbers of rows, ascending.
+using NumeriRiga = std::vector<int>;
 
 /// Every property that a control of some kind has, with what it holds at first.
 struct Valori {
     std::string Caption, Text, ToolTipText;
     Righe List;
     int ListIndex = -1;
+    bool MultiSelect = false;  ///< several rows can be selected
+    NumeriRiga Selected;       ///< those that are
     bool Visible = true, Enabled = true, Checked = false, Locked = false;
     int Left = 0, Top = 0, Width = 0, Height = 0;  ///< twips
     int Value = 0, Min = 0, Max = 100;
@@ -73,7 +77,7 @@ struct Valori {
 };
 
 /// What one of them holds.
-using Valore = std::variant<bool, int, std::string, Righe, Sfumatura>;
+using Valore = std::variant<bool, int, std::string, Righe, NumeriRiga, Sfumatura>;
 
 /// Which of them it is: the name under which a change is told, as `&Valori::Caption`.
 class Nome {
@@ -93,7 +97,7 @@ public:
 
 private:
     std::variant<bool Valori::*, int Valori::*, std::string Valori::*, Righe Valori::*,
-                 Sfumatura Valori::*>
+                 NumeriRiga Valori::*, Sfumatura Valori::*>
         campo_;
 };
 
