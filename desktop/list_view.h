@@ -1,11 +1,12 @@
-// Lists. A selection by the user is a click with the row's number. GUI thread.
+// Lists. A selection by the user is a click with the row's number and, where several rows can be
+// selected, all that are. GUI thread.
 #pragma once
 
 #include "desktop/view.h"
 
-class QListWidget;
-
 namespace corvana {
+
+class Elenco;
 
 class VistaLista final : public Vista {
 public:
@@ -16,10 +17,12 @@ protected:
     void Riscala() override;
 
 private:
+    Elenco* NuovoElenco(QWidget& padre);
+    void Scelta(int riga);
     void PonRighe();
     void PonScelta();
 
-    QListWidget* lista_;
+    Elenco* lista_;
 };
 
 }  // namespace corvana

@@ -25,6 +25,14 @@ void EvidenziaRiga(QPainter& p, const QStyleOptionViewItem& o, double scala) {
     p.drawRoundedRect(QRectF(o.rect), raggioRiga * scala, raggioRiga * scala);
 }
 
+/// Where the keys are, in a list where that row needn't be a selected one.
+void CerchiaRiga(QPainter& p, const QStyleOptionViewItem& o, double scala) {
+    const double penna = scala, raggio = raggioRiga * scala;
+    p.setPen(QPen(Scelta(o) ? tinta::suAccento : tinta::accento, penna));
+    p.setBrush(Qt::NoBrush);
+    p.drawRoundedRect(QRectF(o.rect).adjusted(penna, penna, -penna, -penna), raggio, raggio);
+}
+
 void DipingiFiloRiga(QPainter& p, const QStyleOptionViewItem& o, double scala) {
     const QRectF riga(o.rect);
     const double rientro = rientroRiga * scala;
@@ -59,6 +67,7 @@ void DipingiRiga(QPainter& p, const QStyleOptionViewItem& o, const Aspetto& aspe
     p.save();
     p.setRenderHint(QPainter::Antialiasing);
     if (Scelta(o) || o.state.testFlag(QStyle::State_MouseOver)) EvidenziaRiga(p, o, scala);
+    if (aspetto.MultiSelect && o.state.testFlag(QStyle::State_HasFocus)) CerchiaRiga(p, o, scala);
     if (o.text.count(QLatin1Char('-')) == o.text.size())
         DipingiFiloRiga(p, o, scala);
     else

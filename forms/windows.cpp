@@ -1,9 +1,9 @@
 #include "forms/windows.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "forms/fault.h"
+#include "forms/for_now.h"
 
 namespace corvana {
 
@@ -20,20 +20,6 @@ Controllo* Destinatario(const std::vector<Form*>& aperte, const Evento& evento) 
         evento.controllo >= 0 && evento.controllo < static_cast<int>(controlli.size());
     return esiste ? controlli[static_cast<std::size_t>(evento.controllo)] : nullptr;
 }
-
-/// The field holds the value until the block is left.
-class PerOra {
-public:
-    PerOra(std::uint32_t& campo, std::uint32_t valore)
-        : campo_(campo), prima_(std::exchange(campo, valore)) {}
-    PerOra(const PerOra&) = delete;
-    PerOra& operator=(const PerOra&) = delete;
-    ~PerOra() { campo_ = prima_; }
-
-private:
-    std::uint32_t& campo_;
-    const std::uint32_t prima_;
-};
 
 /// A button of the mouse goes down: of a double click the second time.
 bool Preme(const Evento& evento) {

@@ -3,7 +3,9 @@
 #include "composer/composer.h"
 #include "core/startup.h"
 #include "eartrainer/into.h"
+#include "forms/for_now.h"
 #include "metronome/conf_metro.h"
+#include "program/composer_voices.h"
 #include "utilities/about.h"
 #include "utilities/instruments.h"
 #include "utilities/midi_test.h"
@@ -59,21 +61,20 @@ void Programma::MostraComposer() {
     };
     frmComposer finestra(a_, {[this] { return principale.menu.mnuPiano.Caption(); },
                               [this] { return principale.menu.mnuOrgano.Caption(); },
-                              {},
-                              [&] { MostraStrumenti(finestra); },
-                              figura(4),
-                              figura(3)});
+                              [this] {
+                                  if (strumenti_) strumenti_->PlayFinito();
+                              },
+                              [&] { MostraStrumenti(finestra); }, figura(4), figura(3)});
     finestra.HelpContextID = aiutoComposizione;
     a_.finestre.MostraModale(finestra);
 }
 
 void Programma::MostraStrumenti(frmComposer& composer) {
-    const Melodia& melodia = composer.stato.melodia;
-    frmStrum strumenti(a_, {{},
-                            [&](std::int32_t programma) { composer.mix.SceltaStrum(programma); },
-                            melodia.Attiva().strumento,
-                            static_cast<std::int16_t>(melodia.IndiceAttiva() + 1)});
+    VociDelComposer voci(composer);
+    frmStrum strumenti(a_, {{}, &voci});
     strumenti.HelpContextID = aiutoStrumenti;
+    // A play that was stopped as another picker closed may still lie below on this stack.
+    const PerOra<frmStrum*> aperto(strumenti_, &strumenti);
     a_.finestre.MostraModale(strumenti);
 }
 

@@ -7,6 +7,7 @@
 namespace corvana {
 
 class frmComposer;
+class frmStrum;
 
 class Programma {
 public:
@@ -33,6 +34,7 @@ private:
     void MostraStrumenti(frmComposer& composer);
 
     Ambiente a_;
+    frmStrum* strumenti_ = nullptr;  ///< the picker that is open over the melody window
 };
 
 }  // namespace corvana

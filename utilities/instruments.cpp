@@ -1,11 +1,11 @@
 #include "utilities/instruments.h"
 
 #include <algorithm>
-#include <array>
 
 #include "core/effects.h"
 #include "core/notation.h"
 #include "forms/keys.h"
+#include "utilities/instruments_layout.h"
 
 namespace corvana {
 
@@ -19,25 +19,20 @@ constexpr int aDestra = 900;
 constexpr int inBasso = 2600;
 constexpr int aDestraDiInto = 400;  ///< of the ear trainer, when that opens it
 
-constexpr std::array postiStrumenti = {
-    Posto{"frmStrum", 0, 0, 4245, 3150, "Corvana"},
-    Posto{"List1", 225, 225, 2850, 2700, {}, {}, "nome:frmStrum"},
-    Posto{"cmdTest", 3300, 300, 720, 720, {}, "Test", "icona:prova"},
-    Posto{"cmdEscibg", 3195, 2475, 825, 420, {}, {}, "pulsante dietro"},
-    Posto{"cmdEsci", 3195, 2475, 825, 420, "O K", {}, "pulsante"},
-};
-
 }  // namespace
 
 frmStrum::frmStrum(const Ambiente& ambiente, ChiamanteStrum chiamante)
     : Form("frmStrum"), a_(ambiente), chiamante_(std::move(chiamante)) {
-    Disponi(*this, postiStrumenti.data(), postiStrumenti.size());
+    DisponiStrumenti(*this);
     cmdEsci.ForeColor = blu;
+    cmdPlaySstru.ForeColor = blu;
     List1.Click = [this] { List1_Click(); };
     cmdEsci.Click = cmdEscibg.Click = [this] { cmdEsci_Click(); };
     cmdTest.Click = [this] { cmdTest_Click(); };
+    CollegaVoci();
     MouseDown = [this](const Evento& e) { Form_MouseDown(e.codice); };
     hover_.Affonda(cmdEscibg, cmdEsci, rosso, blu);
+    hover_.Affonda(cmdPlaybg, cmdPlaySstru, rosso, blu);
     hover_.Affonda(cmdTest);
     hover_.LasciaSu({this});
 }
@@ -51,17 +46,11 @@ void frmStrum::Form_Load() {
         righe.push_back(std::to_string(i) + " - " + NomeStrumento(i));
     List1.List = std::move(righe);
     Colloca();
+    if (PerUnaVoce()) return CaricaVoci();
+    const std::int32_t inVigore =
+        a_.globali.IntoAperto ? a_.globali.into.StrumentoInto : a_.globali.StrumentoGlobale;
     // A stored state edited by hand may name an instrument that the list hasn't.
-    List1.Seleziona(std::clamp(InVigore(), 0, strumenti - 1));
-}
-
-bool frmStrum::PerUnaVoce() const {
-    return a_.globali.ComposerAperto && chiamante_.SceltaStrum;
-}
-
-std::int32_t frmStrum::InVigore() const {
-    if (PerUnaVoce()) return chiamante_.strumentoVoce;
-    return a_.globali.IntoAperto ? a_.globali.into.StrumentoInto : a_.globali.StrumentoGlobale;
+    List1.Seleziona(std::clamp(inVigore, 0, strumenti - 1));
 }
 
 void frmStrum::Colloca() {
@@ -70,20 +59,16 @@ void frmStrum::Colloca() {
     Left = principale->Left + aDestra;
     Top = principale->Top + inBasso;
     // It is the ear trainer that has opened this window, and is still in front.
-    if (a_.globali.IntoAperto) Left = a_.finestre.Davanti()->Left + aDestraDiInto;
+    if (a_.globali.IntoAperto && !PerUnaVoce()) Left = a_.finestre.Davanti()->Left + aDestraDiInto;
 }
 
 void frmStrum::List1_Click() {
     const bool into = a_.globali.IntoAperto;
-    if (!into && PerUnaVoce()) return chiamante_.SceltaStrum(List1.ListIndex);
+    if (!into && PerUnaVoce()) return chiamante_.composer->SceltaStrum(List1.ListIndex);
     (into ? a_.globali.into.StrumentoInto : a_.globali.StrumentoGlobale) = List1.ListIndex;
     a_.suono.CambiaStrumento(List1.ListIndex, 0);
     if (into && a_.globali.PaginaInto.front() && chiamante_.SaveLastIntoSup)
         chiamante_.SaveLastIntoSup();
-}
-
-void frmStrum::cmdTest_Click() {
-    a_.suono.SuonaSigla(PerUnaVoce() ? chiamante_.canaleVoce : std::int16_t{1});
 }
 
 void frmStrum::cmdEsci_Click() {
@@ -98,8 +83,13 @@ void frmStrum::Form_MouseDown(int Button) {
     if (Button == bottoneSinistro) Trascina();
 }
 
-void frmStrum::Form_Unload(bool& /*Cancel*/) {
+void frmStrum::Form_Unload(bool& Cancel) {
+    if (InPlay() && !a_.finestre.InChiusura()) {
+        Cancel = true;
+        return;
+    }
     a_.globali.PickerAperto = false;
+    hover_.Lascia();
 }
 
 }  // namespace corvana
