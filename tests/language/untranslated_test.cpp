@@ -41,6 +41,18 @@ const Luoghi dellaTavola = {"Do",    "Re",    "Mi",    "Fa",    "Sol",     "La",
                             "2 Dim", "3 Dim", "4 Dim", "5 Dim", "6 Dim",   "7 Dim", "8 Dim",
                             "2 Min", "3 Min", "6 Min", "7 Min", "N° Acc.", "Semit."};
 
+/// Of the instrument picker: the letters of the voices, and what the melody window's texts replace
+/// when it opens the picker.
+const Luoghi delleVoci = {"S",
+                          "C",
+                          "T",
+                          "B",
+                          "Play",
+                          " Soprano ",
+                          "Clicca per inserire il contralto",
+                          "Clicca per inserire il tenore",
+                          "Clicca per inserire il basso"};
+
 struct BancoInglese : BancoProgramma {
     BancoInglese() {
         std::ifstream letto(CORVANA_DATA_SOURCE "/langen.csv", std::ios::binary);
@@ -90,7 +102,7 @@ TEST(TestiTradotti, NothingItalianIsLeftInTheSmallWindows) {
     ControllaInglese(b, prova, BersagliMidiTest());
     ControllaInglese(b, informazioni, BersagliAbout());
     // It has no rows: what it says must need none.
-    ControllaInglese(b, strumenti, {});
+    ControllaInglese(b, strumenti, {}, delleVoci);
 }
 
 TEST(TestiTradotti, NothingItalianIsLeftInTheReferenceChart) {
