@@ -38,8 +38,11 @@ public:
     /// Replaces the file: whatever interrupts it, the old or the new content is there, whole.
     /// Returns 0 or the errno of what failed.
     virtual int ScriviAtomico(const std::string& percorso, const std::string& contenuto) = 0;
-    /// Gives the file another name; one that had it before is gone. Returns 0 or the errno.
+    /// Gives the file or folder another name; a file, or an empty folder, that had it before is
+    /// gone. Returns 0 or the errno.
     virtual int Rinomina(const std::string& percorso, const std::string& nuovo) = 0;
+    /// The same, but the name must be nobody's, else it returns EEXIST.
+    virtual int RinominaSeLibero(const std::string& percorso, const std::string& nuovo) = 0;
     /// Makes the folder and those above it. Returns 0 (also when it is there) or the errno.
     virtual int CreaCartella(const std::string& percorso) = 0;
     /// Takes the file away, not a folder. Returns 0 or the errno.

@@ -100,6 +100,15 @@ int FileReali::Rinomina(const std::string& percorso, const std::string& nuovo) {
     return rename(percorso.c_str(), nuovo.c_str()) == 0 ? 0 : errno;
 }
 
+int FileReali::RinominaSeLibero(const std::string& percorso, const std::string& nuovo) {
+    if (renameat2(AT_FDCWD, percorso.c_str(), AT_FDCWD, nuovo.c_str(), RENAME_NOREPLACE) == 0)
+        return 0;
+    // Not every medium can make sure of it.
+    if (errno != EINVAL && errno != ENOSYS) return errno;
+    struct stat dati {};
+    return lstat(nuovo.c_str(), &dati) == 0 ? EEXIST : Rinomina(percorso, nuovo);
+}
+
 int FileReali::ScriviAtomico(const std::string& percorso, const std::string& contenuto) {
     const std::string provvisorio = percorso + ".nuovo";
     if (Deposita(provvisorio, contenuto) && rename(provvisorio.c_str(), percorso.c_str()) == 0) {

@@ -21,6 +21,7 @@ public:
               std::size_t limite = senzaLimite) override;
     int ScriviAtomico(const std::string& percorso, const std::string& contenuto) override;
     int Rinomina(const std::string& percorso, const std::string& nuovo) override;
+    int RinominaSeLibero(const std::string& percorso, const std::string& nuovo) override;
     int CreaCartella(const std::string& percorso) override;
     int Elimina(const std::string& percorso) override;
     int EliminaCartella(const std::string& percorso) override;

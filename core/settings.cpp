@@ -110,6 +110,11 @@ std::string Impostazioni::LeggiValore(const std::string& nome) {
     return letto.valore;
 }
 
+bool Impostazioni::Contiene(const std::string& nome) {
+    Voci voci;
+    return Apri(voci) == 0 && Cerca(voci, nome) != voci.end();
+}
+
 void Impostazioni::ScriviValore(const std::string& nome, const std::string& valore) {
     Voci voci;
     if (Apri(voci)) return;

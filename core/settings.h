@@ -28,6 +28,8 @@ public:
     /// when the store can't be opened (Error1), has no such value (Error2, code 2), or holds it in
     /// a form that can't be read (Error3).
     std::string LeggiValore(const std::string& nome);
+    /// The store has a value of that name, readable or not. Says nothing.
+    bool Contiene(const std::string& nome);
     /// Does nothing, and says nothing, when the store is absent or can't be written.
     void ScriviValore(const std::string& nome, const std::string& valore);
 

@@ -122,6 +122,42 @@ TEST(FileReali, AFileTakesAnotherNameAndReplacesWhatHadIt) {
     EXPECT_EQ(file.Rinomina(cartella.Di("a"), cartella.Di("c")), ENOENT);
 }
 
+TEST(FileReali, AFolderTakesAnotherNameAndThePlaceOfAnEmptyOneAlone) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    file.CreaCartella(cartella.Di("new"));
+    file.CreaCartella(cartella.Di("empty"));
+    file.CreaCartella(cartella.Di("full"));
+    file.ScriviAtomico(cartella.Di("new/a"), "1");
+    file.ScriviAtomico(cartella.Di("full/a"), "2");
+    EXPECT_EQ(file.Rinomina(cartella.Di("new/"), cartella.Di("full/")), ENOTEMPTY);
+    EXPECT_EQ(Contenuto(cartella.Di("full/a")), "2");
+    EXPECT_EQ(file.Rinomina(cartella.Di("new/"), cartella.Di("empty/")), 0);
+    EXPECT_EQ(file.Rinomina(cartella.Di("empty/"), cartella.Di("gone/")), 0);
+    EXPECT_EQ(Contenuto(cartella.Di("gone/a")), "1");
+}
+
+TEST(FileReali, ANameThatIsAnybodysIsntTakenFromHim) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    file.ScriviAtomico(cartella.Di("a"), "1");
+    file.ScriviAtomico(cartella.Di("file"), "2");
+    file.CreaCartella(cartella.Di("folder"));
+    std::filesystem::create_symlink("nowhere", cartella.Di("link"));
+    ASSERT_EQ(mkfifo(cartella.Di("pipe").c_str(), 0600), 0);
+    for (const char* nome : {"file", "folder", "link", "pipe"})
+        EXPECT_EQ(file.RinominaSeLibero(cartella.Di("a"), cartella.Di(nome)), EEXIST) << nome;
+    EXPECT_EQ(Contenuto(cartella.Di("a")), "1");
+    EXPECT_EQ(Contenuto(cartella.Di("file")), "2");
+    EXPECT_TRUE(std::filesystem::is_symlink(cartella.Di("link")));
+    EXPECT_TRUE(std::filesystem::is_fifo(cartella.Di("pipe")));
+    EXPECT_EQ(file.RinominaSeLibero(cartella.Di("a"), cartella.Di("A")), 0);
+    EXPECT_EQ(Contenuto(cartella.Di("A")), "1");
+    EXPECT_EQ(file.RinominaSeLibero(cartella.Di("a"), cartella.Di("b")), ENOENT);
+    EXPECT_EQ(file.RinominaSeLibero(cartella.Di("A"), cartella.Di(std::string(300, 'x'))),
+              ENAMETOOLONG);
+}
+
 TEST(FileReali, OnlyAFileExistsAsAFile) {
     const CartellaProvvisoria cartella;
     FileReali file;

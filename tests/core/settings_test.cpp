@@ -34,6 +34,17 @@ TEST(Impostazioni, WhatWasWrittenIsRead) {
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
+TEST(Impostazioni, WhetherThereIsAValueIsToldWithoutABox) {
+    BancoImpostazioni b("Language=\nLastDir=\\x\n");
+    EXPECT_TRUE(b.impostazioni.Contiene("Language"));
+    EXPECT_TRUE(b.impostazioni.Contiene("LastDir"));
+    EXPECT_FALSE(b.impostazioni.Contiene("language"));
+    EXPECT_FALSE(b.impostazioni.Contiene("DemoDir"));
+    b.file.contenuti.clear();
+    EXPECT_FALSE(b.impostazioni.Contiene("Language"));
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
+}
+
 TEST(Impostazioni, ReadingAnAbsentValueShowsError2AndYieldsAnEmptyText) {
     BancoImpostazioni b("Language=en\n");
     EXPECT_EQ(b.impostazioni.LeggiValore("CorvanaLastS"), "");
