@@ -1,42 +1,9 @@
 #include "composer/file_panel.h"
 
-#include <algorithm>
-
 #include "core/text.h"
-#include "melody/names.h"
+#include "melody/folder_steps.h"
 
 namespace corvana {
-
-namespace {
-
-/// The melodies that come with the program, below its folder.
-constexpr const char* cartellaDemo = "/Melodie/Demo/";
-
-constexpr std::string_view segnoCartella = "» ";
-constexpr std::string_view cartellaSopra = "» ..";
-
-std::string ConSeparatore(std::string cartella) {
-    if (!cartella.ends_with('/')) cartella += '/';
-    return cartella;
-}
-
-void Ordina(Righe& righe) {
-    std::stable_sort(righe.begin(), righe.end(), [](const std::string& a, const std::string& b) {
-        return Minuscolo(a) < Minuscolo(b);
-    });
-}
-
-void Entra(std::string& percorso, std::string_view riga) {
-    if (riga != cartellaSopra) {
-        percorso.append(riga.substr(segnoCartella.size())).append("/");
-        return;
-    }
-    for (int volta = 0; volta < 2; ++volta)
-        percorso.erase(std::min(percorso.rfind('/'), percorso.size()));
-    percorso += '/';
-}
-
-}  // namespace
 
 PannelloFile::PannelloFile(const Ambiente& ambiente, Form& finestra, StatoComposer& stato,
                            VicineFile vicine)
@@ -44,16 +11,24 @@ PannelloFile::PannelloFile(const Ambiente& ambiente, Form& finestra, StatoCompos
       a_(ambiente),
       stato_(stato),
       melodia_(stato.melodia),
-      vicine_(std::move(vicine)) {
+      vicine_(std::move(vicine)),
+      demo_(ambiente.file, ambiente.impostazioni, ambiente.globali) {
     Fr2.Visible = false;
+    cmbDrive.Click = [this] { cmbDrive_Click(); };
+    cmdD.Click = [this] { cmdD_Click(); };
+    List1.DblClick = [this] { List1_DblClick(); };
     cmdEseguiFile.Click = [this] { cmdEseguiFile_Click(); };
+    cmdRename.Click = [this] { cmdRename_Click(); };
+    cmdDelete.Click = [this] { cmdDelete_Click(); };
+    cmdMkdir.Click = [this] { cmdMkdir_Click(); };
     cmdChiudi.Click = [this] { cmdChiudi_Click(); };
 }
 
 void PannelloFile::Carica() {
     const std::string ultima = a_.impostazioni.LeggiValore("LastDir");
+    const std::string demo = demo_.AllApertura();
     a_.globali.percorsoCorrente =
-        ultima.empty() ? a_.globali.CartellaProgramma + cartellaDemo : ConSeparatore(ultima);
+        ultima.empty() || demo_.DelProgramma(ultima) ? demo : ConSeparatore(ultima);
 }
 
 void PannelloFile::Ricorda() {
@@ -63,6 +38,7 @@ void PannelloFile::Ricorda() {
 void PannelloFile::mnuApri_Click() {
     if (Fr2.Visible() && !List1.List->empty()) return;
     Fr2.Visible = true;
+    ListaD();
     ListaFD();
 }
 
@@ -71,36 +47,69 @@ void PannelloFile::cmdChiudi_Click() {
     vicine_.fuocoPlay();
 }
 
+Righe PannelloFile::Radici() const {
+    Righe radici = {"/", a_.globali.CartellaUtente, a_.globali.CartellaDocumenti};
+    for (std::string& supporto : a_.file.Supporti())
+        radici.push_back(std::move(supporto));
+    radici = RadiciDistinte(radici);
+    std::erase_if(radici, [this](const auto& radice) { return !a_.file.EsisteCartella(radice); });
+    return radici;
+}
+
+void PannelloFile::ListaD() {
+    if (stato_.inEsecuzione) return;
+    riempiDrive = true;
+    Righe radici = Radici();
+    if (radici.empty()) return;
+    cmbDrive.Clear();
+    cmbDrive.List = std::move(radici);
+    cmbDrive.Seleziona(RadiceDi(cmbDrive.List(), a_.globali.percorsoCorrente));
+    riempiDrive = false;
+}
+
+/// The way down or up may have led into another root.
+void PannelloFile::MostraRadice() {
+    cmbDrive.ListIndex = RadiceDi(cmbDrive.List(), a_.globali.percorsoCorrente);
+}
+
 void PannelloFile::ListaFD() {
     if (stato_.inEsecuzione) return;
     const std::string& percorso = a_.globali.percorsoCorrente;
     lblPercorso.Caption = Minuscolo(percorso);
     lblPercorso.ToolTipText = " " + Minuscolo(percorso) + " ";
-    Righe cartelle;
-    Righe melodie;
-    for (const VoceCartella& voce : a_.file.Elenca(percorso)) {
-        if (voce.cartella)
-            cartelle.push_back(std::string(segnoCartella) + voce.nome);
-        else if (auto nome = NomeDaFile(voce.nome))
-            melodie.push_back(std::move(*nome));
-    }
-    Ordina(cartelle);
-    // Files that differ in the extension's case alone are one name, and one row.
-    std::sort(melodie.begin(), melodie.end());
-    melodie.erase(std::unique(melodie.begin(), melodie.end()), melodie.end());
-    Ordina(melodie);
-    if (percorso != "/") cartelle.insert(cartelle.begin(), std::string(cartellaSopra));
-    cartelle.insert(cartelle.end(), melodie.begin(), melodie.end());
+    MostraRadice();
+    Righe righe = RigheCartella(percorso, a_.file.Elenca(percorso));
     List1.Clear();
-    List1.List = std::move(cartelle);
+    List1.List = std::move(righe);
+}
+
+void PannelloFile::cmdD_Click() {
+    if (stato_.inEsecuzione) return;
+    a_.globali.percorsoCorrente = demo_.ARichiesta();
+    ListaD();
+    ListaFD();
+}
+
+void PannelloFile::cmbDrive_Click() {
+    const std::string radice = cmbDrive.Text();
+    if (riempiDrive || radice.empty()) return;
+    if (stato_.inEsecuzione) return MostraRadice();
+    a_.globali.percorsoCorrente = radice;
+    ListaFD();
 }
 
 void PannelloFile::cmdEseguiFile_Click() {
     const std::string riga = List1.Scelta();
-    if (riga.empty()) return;
-    if (!riga.starts_with(segnoCartella)) return vicine_.carica(riga);
-    Entra(a_.globali.percorsoCorrente, riga);
+    const GenereRiga genere = GenereDi(riga);
+    if (genere == GenereRiga::Nessuna) return;
+    if (genere == GenereRiga::Melodia) return vicine_.carica(riga);
+    if (stato_.inEsecuzione) return;
+    a_.globali.percorsoCorrente = Aperta(a_.globali.percorsoCorrente, riga);
     ListaFD();
+}
+
+void PannelloFile::List1_DblClick() {
+    if (!stato_.inEsecuzione) cmdEseguiFile_Click();
 }
 
 }  // namespace corvana

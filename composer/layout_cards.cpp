@@ -70,11 +70,15 @@ constexpr std::array postiAttrezzi = {
     Posto{"cmdCanc", 14700, 8640, 1440, 540, "Canc."},
     Posto{"cmdReset", 16800, 8640, 600, 540, {}, "Cancella l'intera sequenza", "icona:cestino"},
     Posto{"Fr2", 13020, 5730, 4500, 3600, {}, {}, "pannello"},
-    Posto{"lblPercorso", 120, 90, 4260, 510, {}, {}, "piccolo mezzo"},
-    Posto{"List1", 120, 660, 4260, 2190, {}, {}, "nome:mnuApri"},
-    Posto{"cmdEseguiFile", 120, 2970, 1500, 510, "Play", {}, "principale"},
-    Posto{"cmdDelete", 1710, 2970, 1620, 510},
-    Posto{"cmdChiudi", 3840, 2970, 540, 510, "×", {}, "titolo"},
+    Posto{"cmbDrive", 120, 105, 2730, 450},
+    Posto{"cmdD", 2940, 105, 1440, 450, " Demo files "},
+    Posto{"lblPercorso", 150, 600, 4230, 300, {}, {}, "piccolo mezzo"},
+    Posto{"List1", 120, 930, 4260, 2040, {}, {}, "nome:mnuApri"},
+    Posto{"cmdEseguiFile", 120, 3060, 900, 450, "Play", {}, "principale"},
+    Posto{"cmdRename", 1080, 3060, 480, 450, {}, {}, "icona:rinomina"},
+    Posto{"cmdDelete", 1620, 3060, 1080, 450},
+    Posto{"cmdMkdir", 2760, 3060, 1080, 450},
+    Posto{"cmdChiudi", 3900, 3060, 480, 450, "×", {}, "titolo"},
 };
 
 }  // namespace

@@ -67,12 +67,9 @@ void PannelloFile::mnuSaveAs_Click() {
     SalvaMelodia(melodia_.nomeMelodia);
 }
 
-/// The answer without outer blanks; empty when the box was cancelled.
 std::string PannelloFile::ChiediNome(const std::string& proposta) {
     const TestiLingua& testi = a_.globali.testi;
-    const auto risposta =
-        a_.riquadri.InputBox(testi.prmNomeMelodia, testi.titSalvaConNome, proposta);
-    return std::string(SenzaBlanchi(risposta.value_or("")));
+    return Chiedi(testi.prmNomeMelodia, testi.titSalvaConNome, proposta);
 }
 
 void PannelloFile::mnuSalvaA_Click() {
