@@ -30,7 +30,9 @@ frmComposer::frmComposer(const Ambiente& ambiente, VicineComposer vicine)
       regolo(
           ambiente, *this, stato,
           {[this](int tasto, bool acceso) { tasti.MostraTasto(tasto, acceso); }, FuocoInsNota()}),
-      riferimenti(ambiente, *this, stato.melodia),
+      riferimenti(
+          ambiente, *this, stato, voci,
+          {[this](int voce) { mix.VoceAttiva_Click(voce); }, [this] { play.cmdPlay_Click(); }}),
       archivio(ambiente, *this, stato,
                {[this] { return Byte(); }, [this](const std::string& nome) { CaricaMelodia(nome); },
                 FuocoPlay()}),

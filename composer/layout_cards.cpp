@@ -40,8 +40,21 @@ constexpr std::array postiSchede = {
     Posto{"cmdCancNota", 2490, 1185, 630, 630, {}, "Cancella nota", "icona:cancella"},
     Posto{"cmdNpp", 3180, 1185, 630, 630, {}, "Chiudi PassoPasso/Modifica", "icona:fatto"},
     Posto{"frBookMark", 10050, 5730, 2850, 2040, {}, {}, "pannello"},
-    Posto{"lstBookMark", 90, 90, 2670, 1320},
-    Posto{"cmdDelBm", 90, 1470, 1380, 480, "Elimina"},
+    Posto{"lstBookMark", 90, 90, 2670, 1350, {}, {}, "piccolo"},
+    Posto{"cmdPlayBm", 90, 1500, 360, 450, {}, "Esegui", "icona:suona"},
+    Posto{"cmdModBm", 465, 1500, 360, 450, {}, "Modifica inizio/fine riferimento", "icona:tratto"},
+    Posto{"cmdRenameBm",
+          840,
+          1500,
+          360,
+          450,
+          {},
+          "Rinomina riferimento selezionato",
+          "icona:rinomina"},
+    Posto{"cmdMbUd0", 1245, 1500, 360, 450, {}, "Sposta su", "icona:su"},
+    Posto{"cmdMbUd1", 1620, 1500, 360, 450, {}, "Sposta giù", "icona:giu"},
+    Posto{"cmdDelBm", 2025, 1500, 360, 450, "Elimina", {}, "icona:togli"},
+    Posto{"cmdHideBm", 2400, 1500, 360, 450, "×", {}, "titolo"},
 };
 
 constexpr std::array postiAttrezzi = {

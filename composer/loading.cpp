@@ -1,4 +1,6 @@
 // A melody as its file, and back. Nothing of what a load did before a fault is undone.
+#include <span>
+
 #include "composer/composer.h"
 #include "core/file_faults.h"
 #include "melody/mel_writer.h"
@@ -23,7 +25,7 @@ void PrendiTesti(VoceMelodia& voce, std::span<const std::string> testi) {
 
 std::string frmComposer::Byte() const {
     return ScriviMel({stato.melodia.voci, play.Slider1.Value(), pulsi.DaScrivere(),
-                      riferimenti.lstBookMark.List()});
+                      riferimenti.TestoRiferimenti()});
 }
 
 void frmComposer::CaricaMelodia(const std::string& nome) {

@@ -1,5 +1,7 @@
 #include "composer/voice_panel.h"
 
+#include <algorithm>
+
 #include "core/notation.h"
 #include "melody/edits.h"
 #include "melody/tokens.h"
@@ -71,6 +73,12 @@ void PannelloVoci::MostraNoteVoce() {
     controlli.nomi.Caption = "";
     if (voce.Vuota()) return;
     controlli.nomi.Caption = NomiFino(voce, NumeroNota(controlli.ultima.Text()));
+}
+
+void PannelloVoci::MostraTrattoSoprano() {
+    const VoceMelodia& voce = melodia_.voci[soprano];
+    const long note = voce.Vuota() ? 0 : std::max(static_cast<long>(voce.noteVoce.size()) - 1, 0L);
+    LblNoteString.Caption = NomiFino(voce, std::min(voce.ultimaNota + 1L, note));
 }
 
 void PannelloVoci::MostraNomiInteri() {

@@ -48,6 +48,8 @@ public:
     void AggiornaVoce();
     /// Rebuilds the note names of the active voice.
     void MostraNoteVoce();
+    /// The same for the soprano, by its range, of which some notes may not be there.
+    void MostraTrattoSoprano();
     /// The names of all notes of the voices that have any, whatever their ranges.
     void MostraNomiInteri();
     /// Takes the token behind `IndiceNotaPP` out of the active voice.

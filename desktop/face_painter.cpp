@@ -1,5 +1,7 @@
 #include "desktop/face_painter.h"
 
+#include <algorithm>
+
 #include "desktop/gradient_painter.h"
 #include "desktop/icon_painter.h"
 #include "desktop/style_words.h"
@@ -11,6 +13,7 @@ namespace {
 
 constexpr double raggioPulsante = 7;
 constexpr double ariaIcona = 5;        ///< designed pixels around the picture on a button
+constexpr double quotaIcona = 7;       ///< a small button has less: this part of its side
 constexpr double rientroRiquadro = 8;  ///< beside the text, in designed pixels
 
 QColor Sotto(QColor colore, const Tocco& tocco) {
@@ -80,11 +83,14 @@ void DipingiBottone(QPainter& p, const QRectF& area, const Aspetto& a, double sc
     Contorna(p, faccia, raggio, tocco.abilitato ? tinta::filoForte : tinta::filo, scala);
     if (a.Ha("scheda") && a.Checked) DipingiSceltaScheda(p, faccia, scala);
     if (tocco.fuoco) DipingiAnello(p, faccia, scala);
+    const double aria =
+        std::min(ariaIcona * scala, std::min(area.width(), area.height()) / quotaIcona);
+    // Under a picture the caption is what a reader says.
+    if (EIcona(a.stile))
+        return DipingiIcona(p, faccia.adjusted(aria, aria, -aria, -aria), a.stile, tocco);
     Aspetto centrato = a;
     centrato.stile << QStringLiteral("centro") << QStringLiteral("mezzo");
     DipingiTesto(p, faccia, centrato, scala, tocco.abilitato);
-    const double aria = ariaIcona * scala;
-    if (EIcona(a.stile)) DipingiIcona(p, faccia.adjusted(aria, aria, -aria, -aria), a.stile, tocco);
 }
 
 void DipingiTesto(QPainter& p, const QRectF& area, const Aspetto& a, double scala, bool abilitato) {

@@ -37,12 +37,12 @@ Riferimento Riferimento::Leggi(std::string_view testo) {
     return letto;
 }
 
-std::int16_t Riferimento::Prima() const {
-    return NumeroNota(Elemento(campi_, 0));
+std::int16_t Riferimento::PrimaNota() const {
+    return IndiceNota(Elemento(campi_, 0));
 }
 
-std::int16_t Riferimento::Ultima() const {
-    return NumeroNota(Elemento(campi_, 1));
+std::int16_t Riferimento::UltimaNota() const {
+    return IndiceNota(Elemento(campi_, 1));
 }
 
 std::string Riferimento::Nome() const {
@@ -59,6 +59,13 @@ std::string Riferimento::Testo() const {
     std::string testo;
     for (const std::string& campo : campi_)
         testo.append(&campo == &campi_.front() ? "" : divisorio).append(campo);
+    return testo;
+}
+
+std::string TestoRiferimenti(std::span<const std::string> riferimenti) {
+    std::string testo;
+    for (const std::string& riferimento : riferimenti)
+        testo.append(riferimento).append(";");
     return testo;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,10 +22,10 @@ public:
     /// Any text: `Testo` gives it back as it was.
     static Riferimento Leggi(std::string_view testo);
 
-    /// Its notes, from 1, and its name without outer blanks. Throw `Guasto` 9 when the text has no
-    /// such field, 13 or 6 when it is no number of 16 bits.
-    std::int16_t Prima() const;
-    std::int16_t Ultima() const;
+    /// Its notes, as indices from 0, and its name without outer blanks. Throw `Guasto` 9 when the
+    /// text has no such field, 13 or 6 when it is no number of 16 bits.
+    std::int16_t PrimaNota() const;
+    std::int16_t UltimaNota() const;
     std::string Nome() const;
 
     /// The notes stay as they are spelled. Throws `Guasto` 9 when the text has no such fields.
@@ -36,6 +37,9 @@ private:
     Riferimento() = default;
     std::vector<std::string> campi_;
 };
+
+/// All of a list's texts as a file has them: each followed by ';'.
+std::string TestoRiferimenti(std::span<const std::string> riferimenti);
 
 /// What of an answer becomes the name of a new bookmark: outer blanks go, 12 characters are kept.
 std::string NomeRiferimento(std::string_view risposta);

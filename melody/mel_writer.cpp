@@ -29,13 +29,6 @@ std::string RigaStrumento(const DaScrivere& melodia) {
            metronomo.durataPulsazioni + ";" + std::to_string(metronomo.inizioPuls);
 }
 
-std::string RigaRiferimenti(std::span<const std::string> riferimenti) {
-    std::string riga;
-    for (const std::string& riferimento : riferimenti)
-        riga.append(riferimento).append(";");
-    return riga;
-}
-
 }  // namespace
 
 std::string ScriviMel(const DaScrivere& melodia) {
@@ -43,7 +36,7 @@ std::string ScriviMel(const DaScrivere& melodia) {
     file.Testi(melodia.voci[soprano]);
     file.Riga(CampoNumero(melodia.tempo));
     file.Riga(RigaStrumento(melodia));
-    if (!melodia.riferimenti.empty()) file.Riga(RigaRiferimenti(melodia.riferimenti));
+    if (!melodia.riferimenti.empty()) file.Riga(melodia.riferimenti);
     for (std::size_t voce = soprano + 1; voce < numeroVoci; ++voce) {
         if (melodia.voci[voce].Vuota()) continue;
         file.Riga(std::string(nomiVoci[voce]) + ";" + std::to_string(melodia.voci[voce].strumento));

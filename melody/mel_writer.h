@@ -2,7 +2,6 @@
 #pragma once
 
 #include <optional>
-#include <span>
 #include <string>
 
 #include "melody/melody.h"
@@ -20,7 +19,7 @@ struct DaScrivere {
     const std::array<VoceMelodia, numeroVoci>& voci;
     int tempo = 60;
     std::optional<MetronomoMel> metronomo;  ///< only when it is on
-    std::span<const std::string> riferimenti;
+    std::string riferimenti;                ///< as one text; empty for none
 };
 
 /// The soprano is always written, the other voices when they have note texts. Throws `Guasto` 5

@@ -20,10 +20,6 @@ std::int16_t Piu(std::int16_t indice, int passo) {
     return static_cast<std::int16_t>(nuovo);
 }
 
-std::int16_t IndiceDaCasella(std::string_view testo) {
-    return Piu(NumeroNota(testo), -1);
-}
-
 /// The texts of a voice on their way to a new note `i`.
 struct Riscrittura {
     long i;
@@ -56,8 +52,8 @@ struct Riscrittura {
 }  // namespace
 
 TrattoPasso TrattoDaCaselle(std::string_view prima, std::string_view ultima) {
-    const std::int16_t fine = IndiceDaCasella(ultima);
-    return {IndiceDaCasella(prima), fine, fine};
+    const std::int16_t fine = IndiceNota(ultima);
+    return {IndiceNota(prima), fine, fine};
 }
 
 std::int16_t PrimaDelTratto(const TrattoPasso& tratto) {

@@ -59,4 +59,11 @@ std::int16_t NumeroNota(std::string_view token) {
     return static_cast<std::int16_t>(NumeroIntero(token, Limiti::min(), Limiti::max()));
 }
 
+std::int16_t IndiceNota(std::string_view testo) {
+    using Limiti = std::numeric_limits<std::int16_t>;
+    const std::int16_t numero = NumeroNota(testo);
+    if (numero == Limiti::min()) throw Guasto(guastoTraboccamento, "Overflow");
+    return static_cast<std::int16_t>(numero - 1);
+}
+
 }  // namespace corvana

@@ -28,4 +28,7 @@ long NoteIntere(const VoceMelodia& voce);
 /// The number of a note token. Throws `Guasto` 13 or 6 when 16 bits can't hold it as one.
 std::int16_t NumeroNota(std::string_view token);
 
+/// The index of a note that a text counts from 1. Throws as `NumeroNota`.
+std::int16_t IndiceNota(std::string_view testo);
+
 }  // namespace corvana

@@ -76,7 +76,8 @@ void ControllaFinestra(const Form& finestra) {
         if (const auto* scritta = dynamic_cast<const ConCaption*>(c); scritta && c->Width > 0) {
             // The names of keys are said, not written, and so are those of signs.
             const QStringList parole = Parole(c->stile);
-            const bool segno = parole.filter(QLatin1String("figura:")).size() > 0;
+            const bool segno = parole.filter(QLatin1String("figura:")).size() > 0 ||
+                               parole.filter(QLatin1String("icona:")).size() > 0;
             if (!segno && !parole.contains(QLatin1String("colonne")) &&
                 !parole.contains(QLatin1String("tasto")))
                 ControllaTesto(*c, scritta->Caption);

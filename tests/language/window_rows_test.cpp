@@ -18,8 +18,7 @@ namespace corvana::prova {
 namespace {
 
 /// What the melody window hasn't yet.
-const Luoghi daFare = {"mnuCopyFromA", "mnucCopyFromA", "cmdHideBm", "cmdRenameBm",
-                       "cmdPlayBm",    "cmdModBm",      "cmdMbUd0",  "cmdMbUd1"};
+const Luoghi daFare = {"mnuCopyFromA", "mnucCopyFromA"};
 
 void Aggiungi(Luoghi& luoghi, const Controllo& controllo, const ProprietaBase& proprieta,
               const std::string& testo) {

@@ -21,11 +21,11 @@ TEST(Riferimento, OfTheWholeMelodyHasNoBlankBeforeItsName) {
 
 TEST(Riferimento, IsReadBackFromItsText) {
     const Riferimento letto = Riferimento::Leggi("5 ÷ 8 ÷ ritornello ");
-    EXPECT_EQ(letto.Prima(), 5);
-    EXPECT_EQ(letto.Ultima(), 8);
+    EXPECT_EQ(letto.PrimaNota(), 4);
+    EXPECT_EQ(letto.UltimaNota(), 7);
     EXPECT_EQ(letto.Nome(), "ritornello");
     const Riferimento intero = Riferimento::Leggi("1 ÷ 12 ÷Tutta");
-    EXPECT_EQ(intero.Ultima(), 12);
+    EXPECT_EQ(intero.UltimaNota(), 11);
     EXPECT_EQ(intero.Nome(), "Tutta");
 }
 
@@ -41,13 +41,21 @@ TEST(Riferimento, ANewNameLeavesItsNumbersAsTheyAreSpelled) {
 }
 
 TEST(Riferimento, AFieldThatIsntThereOrIsNoNumberIsAFault) {
-    EXPECT_EQ(NumeroDelGuasto([] { Riferimento::Leggi("5").Ultima(); }), 9);
+    EXPECT_EQ(NumeroDelGuasto([] { Riferimento::Leggi("5").UltimaNota(); }), 9);
     EXPECT_EQ(NumeroDelGuasto([] { Riferimento::Leggi("5 ÷ 8").Nome(); }), 9);
     EXPECT_EQ(NumeroDelGuasto([] { Riferimento::Leggi("5").Rinomina("x"); }), 9);
-    EXPECT_EQ(NumeroDelGuasto([] { Riferimento::Leggi("").Prima(); }), 13);
-    EXPECT_EQ(NumeroDelGuasto([] { Riferimento::Leggi("x ÷ 8 ÷ a").Prima(); }), 13);
-    EXPECT_EQ(NumeroDelGuasto([] { Riferimento::Leggi("5 ÷ 32768 ÷ a").Ultima(); }), 6);
-    EXPECT_EQ(Riferimento::Leggi("5 ÷ 8").Ultima(), 8);
+    EXPECT_EQ(NumeroDelGuasto([] { Riferimento::Leggi("").PrimaNota(); }), 13);
+    EXPECT_EQ(NumeroDelGuasto([] { Riferimento::Leggi("x ÷ 8 ÷ a").PrimaNota(); }), 13);
+    EXPECT_EQ(NumeroDelGuasto([] { Riferimento::Leggi("5 ÷ 32768 ÷ a").UltimaNota(); }), 6);
+    EXPECT_EQ(NumeroDelGuasto([] { Riferimento::Leggi("-32768 ÷ 8 ÷ a").PrimaNota(); }), 6);
+    EXPECT_EQ(Riferimento::Leggi("-32767 ÷ 8 ÷ a").PrimaNota(), -32768);
+    EXPECT_EQ(Riferimento::Leggi("5 ÷ 8").UltimaNota(), 7);
+}
+
+TEST(TestoRiferimenti, HasEachInItsOrderFollowedByASemicolon) {
+    const std::vector<std::string> righe = {"1 ÷ 4 ÷Tutta", "2 ÷ 3 ÷ a", "1 ÷ 1 ÷ b"};
+    EXPECT_EQ(TestoRiferimenti(righe), "1 ÷ 4 ÷Tutta;2 ÷ 3 ÷ a;1 ÷ 1 ÷ b;");
+    EXPECT_EQ(TestoRiferimenti({}), "");
 }
 
 TEST(NomeRiferimento, LosesItsOuterBlanksAndWhatLiesBehindTwelveLetters) {
@@ -79,11 +87,12 @@ RC_GTEST_PROP(Riferimento, AnyTextIsGivenBackAsItWas, ()) {
 }
 
 RC_GTEST_PROP(Riferimento, WhatWasMadeIsReadBack, ()) {
-    const long prima = *rc::gen::inRange(-32768, 32768);
-    const long ultima = *rc::gen::inRange(-32768, 32768);
+    const long prima = *rc::gen::inRange(-32767, 32768);
+    const long ultima = *rc::gen::inRange(-32767, 32768);
     const auto nome = *rc::gen::container<std::string>(rc::gen::inRange('!', '~'));
     const Riferimento letto = Riferimento::Leggi(Riferimento(prima, ultima, nome).Testo());
-    RC_ASSERT(letto.Prima() == prima && letto.Ultima() == ultima && letto.Nome() == nome);
+    RC_ASSERT(letto.PrimaNota() == prima - 1 && letto.UltimaNota() == ultima - 1 &&
+              letto.Nome() == nome);
 }
 
 }  // namespace corvana::prova

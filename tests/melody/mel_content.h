@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "melody/bookmark.h"
 #include "melody/mel_reader.h"
 #include "melody/mel_writer.h"
 
@@ -16,7 +17,9 @@ struct ContenutoMel {
     std::optional<MetronomoMel> metronomo;
     std::vector<std::string> riferimenti;
 
-    std::string Byte() const { return ScriviMel({voci, tempo, metronomo, riferimenti}); }
+    std::string Byte() const {
+        return ScriviMel({voci, tempo, metronomo, TestoRiferimenti(riferimenti)});
+    }
 };
 
 bool operator==(const ContenutoMel& uno, const ContenutoMel& altro);

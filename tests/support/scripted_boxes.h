@@ -15,7 +15,7 @@ public:
     std::deque<bool> risposte;  ///< to questions; none left is No
     std::deque<std::optional<std::string>> testi;
     std::vector<std::string> titoli, proposte;  ///< of the input boxes
-    /// What happens while a message box is up.
+    /// What happens while a message or input box is up.
     std::function<void(const std::string&)> durante;
 
     void MsgBox(const std::string& testo) override {
@@ -31,6 +31,7 @@ public:
         messaggi.push_back(testo);
         titoli.push_back(titolo);
         proposte.push_back(proposta);
+        if (durante) durante(testo);
         return Prossimo(testi, std::optional<std::string>());
     }
 
