@@ -18,6 +18,7 @@ frmComposer::frmComposer(const Ambiente& ambiente, VicineComposer vicine)
       vicine_(std::move(vicine)),
       play(ambiente, *this, stato, AttornoAlPlay()),
       modifica(ambiente, *this, stato, AttornoAllaModifica()),
+      incolla(*this, stato, AttornoAllIncolla()),
       trasposizione(ambiente, *this, stato, {[this] { voci.MostraNomiInteri(); }, FuocoPlay()}),
       mix(ambiente, *this, stato,
           {[this](bool abilita) { riferimenti.cmdAddBm.Enabled = abilita; },
@@ -49,7 +50,7 @@ void frmComposer::VoceCambiata() {
 
 void frmComposer::BloccaModifiche(bool bloccate) {
     menu.AbilitaFile(!bloccate);
-    modifica.cmdPaste.Enabled = !bloccate;
+    incolla.cmdPaste.Enabled = !bloccate;
     inserimento.Abilita(!bloccate);
     voci.Blocca(bloccate);
 }
@@ -77,6 +78,7 @@ void frmComposer::CaricaTesti() {
     menu.mnuPianoCont.Caption = menu.mnuPiano.Caption();
     menu.mnuOrganoCont.Caption = menu.mnuOrgano.Caption();
     archivio.cmdDelete.Caption = riferimenti.cmdDelBm.Caption();
+    incolla.lblIncolla.Caption = a_.globali.testi.TxtIncolla;
     barra.ToolButton.at(1).ToolTipText = pictCi.ToolTipText();
 }
 

@@ -13,6 +13,7 @@
 #include "composer/key_panel.h"
 #include "composer/mix_panel.h"
 #include "composer/modify_panel.h"
+#include "composer/paste_panel.h"
 #include "composer/play_panel.h"
 #include "composer/pulses_panel.h"
 #include "composer/range_panel.h"
@@ -57,6 +58,7 @@ public:
     PannelloPlay play;
     // A step gives Play the focus: its arrows and its note come next.
     PannelloModifica modifica;
+    PannelloIncolla incolla;
     PannelloTrasposizione trasposizione;
     PannelloMix mix;
     PannelloVoci voci;
@@ -89,6 +91,7 @@ private:
     VicinePlay AttornoAlPlay();
     VicineInserimento AttornoAllInserimento();
     VicineModifica AttornoAllaModifica();
+    VicineIncolla AttornoAllIncolla();
     void VoceCambiata();
     VicineComandi AttornoAiTasti();
     PannelloBarra::Comandi ComandiDellaBarra();

@@ -66,6 +66,7 @@ constexpr std::array postiPlay = {
     // The box reaches over its words, so that a click on them ticks it.
     Posto{"chekLoop", 5370, 1080, 1620, 330, {}, {}, "nome:chekLoopLb"},
     Posto{"chekLoopLb", 5730, 1080, 1260, 330, "Ripeti", {}, "mezzo"},
+    Posto{"lblIncolla", 7110, 900, 2790, 690, {}, {}, "pulsante piccolo"},
     Posto{"cmdAddBm", 10020, 975, 1350, 540, "M.R."},
     Posto{"cmdPaste", 11490, 975, 1830, 540, "Incolla",
           "Incolla alla fine da nota inizio a nota fine"},
@@ -88,6 +89,8 @@ constexpr std::array postiRegolo = {
 
 constexpr Rettangolo postoTasti{540, 7920, 12360, 1432};
 constexpr Colore coloreSecondi = Rgb(242, 184, 75);
+/// What waits for a second click.
+constexpr Colore coloreAttesa = Rgb(255, 226, 168), inchiostroAttesa = Rgb(43, 40, 36);
 
 }  // namespace
 
@@ -101,6 +104,8 @@ void DisponiComposer(frmComposer& f) {
     f.tasti.tastiera.PonPosto(postoTasti);
     for (Figura& luce : f.play.Secondo)
         luce.BackColor = coloreSecondi;
+    f.incolla.lblIncolla.BackColor = coloreAttesa;
+    f.incolla.lblIncolla.ForeColor = inchiostroAttesa;
 }
 
 }  // namespace corvana

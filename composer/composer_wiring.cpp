@@ -27,7 +27,7 @@ VicineInserimento frmComposer::AttornoAllInserimento() {
             [this](int tasto, bool acceso) { tasti.MostraTasto(tasto, acceso); },
             [this](int tasto) { tasti.tastoCorrente = static_cast<std::int16_t>(tasto); },
             [this] { VoceCambiata(); },
-            [this] { modifica.cmdPaste.Enabled = true; },
+            [this] { incolla.cmdPaste.Enabled = true; },
             FuocoPlay()};
 }
 
@@ -46,6 +46,12 @@ VicineModifica frmComposer::AttornoAllaModifica() {
             [this](const bool& soloNota) {
                 play.SuonaMelodia(stato.passo.IndiceNotaPP, stato.passo.IndiceNotaPP, soloNota);
             }};
+}
+
+VicineIncolla frmComposer::AttornoAllIncolla() {
+    return {[this] { VoceCambiata(); },
+            [this]() -> Casella& { return voci.perVoce[stato.melodia.IndiceAttiva()].prima; },
+            [this]() -> Casella& { return voci.perVoce[stato.melodia.IndiceAttiva()].ultima; }};
 }
 
 VicineComandi frmComposer::AttornoAiTasti() {

@@ -32,7 +32,6 @@ PannelloModifica::PannelloModifica(const Ambiente& ambiente, Form& finestra, Sta
     Riempi(cmbDurata, ParoleDurata(), -1);
     Riempi(cmbPer, Numeri(moltiplicatori), 0);
     Riempi(cmbAttributi, {"n", "s", "t", "a", "p"}, 0);
-    cmdPaste.Enabled = false;
     frmModifica.Visible = false;
     Collega();
 }

@@ -33,7 +33,6 @@ private:
 
 public:
     Bottone cmdCanc{finestra_, "cmdCanc"}, cmdReset{finestra_, "cmdReset"};
-    Bottone cmdPaste{finestra_, "cmdPaste"};
     std::array<Etichetta, 2> lblStep{{{finestra_, "lblStep0"}, {finestra_, "lblStep1"}}};
     Cornice frmModifica{finestra_, "frmModifica"};
     Etichetta lblActualNote{finestra_, "lblActualNote", &frmModifica};

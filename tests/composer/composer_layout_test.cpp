@@ -123,9 +123,9 @@ TEST(ControlliComposer, WhatOpensOnDemandIsHidden) {
     BancoChiuso b;
     for (const char* nome :
          {"lblModificato", "lblAccidente", "frmModifica", "frMetro", "lblDebug", "frBookMark",
-          "Fr2", "Secondo0", "Secondo1", "Secondo2", "Secondo3", "Secondo4"})
+          "lblIncolla", "Fr2", "Secondo0", "Secondo1", "Secondo2", "Secondo3", "Secondo4"})
         EXPECT_FALSE(b.finestra.Trova(nome)->Visible()) << nome;
-    EXPECT_FALSE(b.finestra.modifica.cmdPaste.Enabled());
+    EXPECT_FALSE(b.finestra.incolla.cmdPaste.Enabled());
 }
 
 TEST(ControlliComposer, ThePlayButtonReadsPlayOnItsColourAtRest) {

@@ -153,12 +153,12 @@ TEST(Inserimento, GoesIntoTheActiveVoiceAndOnlyTheSopranoCanThenBePasted) {
     EXPECT_EQ(b.Testi(2), (TestiVoce{"60;", "1;", "n;"}));
     EXPECT_TRUE(b.melodia.voci[soprano].Vuota());
     EXPECT_EQ(b.finestra.voci.lblNiniT.Text(), "1");
-    EXPECT_FALSE(b.finestra.modifica.cmdPaste.Enabled());
+    EXPECT_FALSE(b.finestra.incolla.cmdPaste.Enabled());
     b.Tocca("VoceAttiva0");
     b.Pausa();
-    EXPECT_FALSE(b.finestra.modifica.cmdPaste.Enabled());
+    EXPECT_FALSE(b.finestra.incolla.cmdPaste.Enabled());
     b.Nota();
-    EXPECT_TRUE(b.finestra.modifica.cmdPaste.Enabled());
+    EXPECT_TRUE(b.finestra.incolla.cmdPaste.Enabled());
 }
 
 TEST(Inserimento, ARestIsShownAsTheActiveNoteWhichStaysAndTicksOnce) {

@@ -32,7 +32,7 @@ struct BancoGuasto : BancoComposer {
         esigi(f.play.cmdPlay.BackColor() == f.stato.lblNe.BackColor(), "colour");
         esigi(!f.stato.inEsecuzione && !f.stato.melodia.inCaricamento, "flags");
         esigi(f.modifica.cmdCanc.Enabled() && f.riferimenti.cmdAddBm.Enabled() &&
-                  f.modifica.cmdPaste.Enabled(),
+                  f.incolla.cmdPaste.Enabled(),
               "commands");
         esigi(f.menu.file.Enabled() && f.inserimento.cmdInsPausa.Enabled() &&
                   f.inserimento.cmdInsNota.Enabled(),

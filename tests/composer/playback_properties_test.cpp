@@ -51,7 +51,7 @@ void EsigiFinita(const BancoComposer& b) {
     RC_ASSERT(f.play.cmdPlay.Caption() == "Play");
     RC_ASSERT(!f.stato.inEsecuzione);
     for (const Controllo* c : {static_cast<const Controllo*>(&f.modifica.cmdCanc),
-                               static_cast<const Controllo*>(&f.modifica.cmdPaste),
+                               static_cast<const Controllo*>(&f.incolla.cmdPaste),
                                static_cast<const Controllo*>(&f.menu.file),
                                static_cast<const Controllo*>(&f.inserimento.cmdInsPausa),
                                static_cast<const Controllo*>(&f.inserimento.cmdInsNota)})

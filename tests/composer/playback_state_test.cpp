@@ -14,7 +14,7 @@ struct BancoStato : BancoComposer {
     BancoStato() {
         Voce(soprano, "60;00;62;", "0.25;0.25;0.25;", "n;p;n;");
         Voce(contralto, "48;50;", "0.25");
-        finestra.modifica.cmdPaste.Enabled = true;
+        finestra.incolla.cmdPaste.Enabled = true;
         specchio.fuochi.clear();
     }
 
@@ -23,7 +23,7 @@ struct BancoStato : BancoComposer {
         std::vector<std::string> nomi;
         for (const Controllo* c : {static_cast<const Controllo*>(&finestra.modifica.cmdCanc),
                                    static_cast<const Controllo*>(&finestra.riferimenti.cmdAddBm),
-                                   static_cast<const Controllo*>(&finestra.modifica.cmdPaste),
+                                   static_cast<const Controllo*>(&finestra.incolla.cmdPaste),
                                    static_cast<const Controllo*>(&finestra.menu.file),
                                    static_cast<const Controllo*>(&finestra.inserimento.cmdInsPausa),
                                    static_cast<const Controllo*>(&finestra.inserimento.cmdInsNota)})
