@@ -10,4 +10,9 @@ std::string CercaCartellaProgramma(ArchivioFile& file, const std::string& cartel
     return cartellaEseguibile;
 }
 
+std::string CartellaStato(const std::string& scelta, const std::string& casa) {
+    if (scelta.starts_with('/')) return scelta;
+    return casa.empty() ? "" : casa + "/.local/state";
+}
+
 }  // namespace corvana
