@@ -37,7 +37,8 @@ frmComposer::frmComposer(const Ambiente& ambiente, VicineComposer vicine)
       archivio(ambiente, *this, stato,
                {[this] { return Byte(); }, [this](const std::string& nome) { CaricaMelodia(nome); },
                 FuocoPlay()}),
-      comandi(ambiente, stato, tasti, AttornoAiTasti()) {
+      comandi(ambiente, stato, tasti, AttornoAiTasti()),
+      salvaguardia(ambiente, stato, [this](MelodiaTenuta& copia) { return CopiaMelodia(copia); }) {
     DisponiComposer(*this);
     CollegaMenu();
     CollegaFinestra();
@@ -69,6 +70,8 @@ void frmComposer::Form_Load() {
     trasposizione.Carica();
     pulsi.Carica();
     CaricaAspetto();
+    if (const auto rimasta = salvaguardia.Ritrova()) RiprendiMelodia(*rimasta);
+    salvaguardia.Inizia();
 }
 
 /// Entries that read as others do.
@@ -95,6 +98,8 @@ void frmComposer::Form_Activate() {
     comandi.fineTastiera = false;
     inserimento.cmdInsNota.SetFocus();
     tasti.baseTastiera = baseDiPartenzaTasti;
+    if (const std::string avviso = salvaguardia.AvvisoIlleggibile(); !avviso.empty())
+        a_.riquadri.MsgBox(avviso);
 }
 
 void frmComposer::CicloResidente() {
@@ -109,6 +114,7 @@ void frmComposer::CicloResidente() {
 }
 
 void frmComposer::Form_Unload(bool& Cancel) {
+    if (a_.finestre.InChiusura()) salvaguardia.Conserva();
     const bool chiede = stato.lblModificato.Visible() && !a_.finestre.InChiusura();
     if (chiede && !a_.riquadri.Domanda(a_.globali.testi.msgUscireSenzaSalvare)) {
         Cancel = true;
@@ -118,6 +124,7 @@ void frmComposer::Form_Unload(bool& Cancel) {
         Cancel = true;
         return;
     }
+    if (!a_.finestre.InChiusura()) salvaguardia.Finisci();
     comandi.fineTastiera = true;
     archivio.Ricorda();
     // Whatever is held or was left on: nobody could stop it any more.

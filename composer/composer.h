@@ -18,6 +18,7 @@
 #include "composer/pulses_panel.h"
 #include "composer/range_panel.h"
 #include "composer/ruler.h"
+#include "composer/safeguard.h"
 #include "composer/transposition_panel.h"
 #include "composer/voice_panel.h"
 #include "core/hover.h"
@@ -70,6 +71,7 @@ public:
     PannelloFile archivio;
     Etichetta cmdCm{*this, "cmdCm"};  ///< closes the window
     ComandiDaTastiera comandi;
+    Salvaguardia salvaguardia;
 
     void Form_Load() override;
     void Form_Activate() override;
@@ -107,6 +109,9 @@ private:
     std::string Byte() const;
     void CaricaMelodia(const std::string& nome);
     void PrendiLettura(const LetturaMel& letta);
+    bool CopiaMelodia(MelodiaTenuta& copia) const;
+    void RiprendiMelodia(const MelodiaTenuta& tenuta);
+    void RiprendiVoce(std::size_t voce, const VoceTenuta& tenuta);
 
     Colore coloreCm_ = coloreDiSistema;  ///< of `cmdCm` at rest
 };

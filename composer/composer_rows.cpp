@@ -159,6 +159,7 @@ constexpr std::array bersagliComposer = {
     Stringa(373, &T::msgCartellaEsiste),
     Stringa(374, &T::msgNuovoNomeEsiste),
     Testo(379, "cmdCanc"),
+    Stringa(383, &T::msgRecuperoIlleggibile),
 };
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "core/ear_trainer_state.h"
+#include "core/guardian.h"
 #include "core/metronome_state.h"
 #include "core/random.h"
 #include "core/settings.h"
@@ -58,6 +59,7 @@ struct TestiLingua {
     std::string msgEliminaCartella, msgEliminaMelodia;  ///< before the name and " ?"
     std::string msgCartellaNonVuota;
     std::string msgCartellaEsiste, msgNuovoNomeEsiste;  ///< before the name
+    std::string msgRecuperoIlleggibile;                 ///< before the file that was put aside
 };
 
 struct Globali {
@@ -91,6 +93,7 @@ struct Ambiente {
     Impostazioni& impostazioni;
     ArchivioFile& file;
     Casuale& casuale;
+    Custode* custode = nullptr;  ///< keeps what isn't saved; null where nothing is to be kept
 };
 
 }  // namespace corvana

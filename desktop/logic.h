@@ -19,6 +19,7 @@ struct Macchina {
     std::string cartellaProgramma;     ///< where the language files and the cues lie
     std::string percorsoImpostazioni;  ///< the settings' file
     std::string percorsoBlocco;        ///< the lock that tells of another instance
+    std::string percorsoRecupero;      ///< the file of what isn't saved; empty: nothing is kept
     std::string cartellaUtente;        ///< the user's home, with a closing separator
     std::string cartellaDocumenti;     ///< the user's documents, with one; may not exist yet
     /// Makes the outputs, given what tells the instant at which the logic stands.

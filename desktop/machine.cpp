@@ -31,12 +31,19 @@ std::string CartellaSua(QStandardPaths::StandardLocation quale) {
     return cartella.empty() || cartella.ends_with('/') ? cartella : cartella + "/";
 }
 
+/// The file of what isn't saved. Its folder is made when something is kept.
+std::string PercorsoRecupero() {
+    const std::string cartella =
+        CartellaStato(qgetenv("XDG_STATE_HOME").toStdString(), QDir::homePath().toStdString());
+    return cartella.empty() ? "" : cartella + "/corvana/unsaved-melody";
+}
+
 /// Of a window that isn't painted by then, the sound doesn't wait any longer.
 constexpr std::chrono::milliseconds attesaDipinta(500);
 
-std::unique_ptr<PiattaformaMidi> CaricaUscite(
-    const std::string& modulo, const std::function<double()>& istante,
-    const ImpostazioniUscite& impostazioni) {
+std::unique_ptr<PiattaformaMidi> CaricaUscite(const std::string& modulo,
+                                              const std::function<double()>& istante,
+                                              const ImpostazioniUscite& impostazioni) {
     // Never let go: the audio libraries leave threads behind.
     void* const preso = dlopen(modulo.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     void* const entrata = preso ? dlsym(preso, entrataUscite) : nullptr;
@@ -54,6 +61,7 @@ Macchina QuestaMacchina(const Applicazione& applicazione, const std::string& qui
     macchina.percorsoImpostazioni =
         NellaCartella(QStandardPaths::GenericConfigLocation, "settings");
     macchina.percorsoBlocco = NellaCartella(QStandardPaths::GenericCacheLocation, "lock");
+    macchina.percorsoRecupero = PercorsoRecupero();
     macchina.cartellaUtente = CartellaSua(QStandardPaths::HomeLocation);
     macchina.cartellaDocumenti = CartellaSua(QStandardPaths::DocumentsLocation);
     const ImpostazioniUscite impostazioni{.cartellaSegnali = macchina.cartellaProgramma + "/note",

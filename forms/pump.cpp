@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 namespace corvana {
 
@@ -40,17 +41,26 @@ bool Pompa::InChiusura() {
     throw FineProgramma{};
 }
 
+void Pompa::Guarda() {
+    if (!std::exchange(daGuardare_, false) || !sguardo_) return;
+    sguardo_();
+}
+
 void Pompa::PompaEventi() {
     while (!InChiusura()) {
         const auto evento = coda_.Prendi();
         if (!evento) return;
         if (sveglia_) sveglia_();
+        daGuardare_ = true;
         consegna_(*evento);
+        // What it did behind its last wait hasn't been seen.
+        daGuardare_ = true;
     }
 }
 
 void Pompa::AttendiEvento(double fino) {
     if (InChiusura()) return;
+    Guarda();
     // Time never runs back, though the instant asked for may have passed.
     const double adesso = Adesso();
     orologio_.AspettaEvento(coda_, fino);
@@ -60,6 +70,7 @@ void Pompa::AttendiEvento(double fino) {
 
 void Pompa::Attendi(double secondi) {
     if (!(secondi > 0) || InChiusura()) return;
+    Guarda();
     const double fino = Adesso() + secondi;
     orologio_.AspettaFine(coda_, fino);
     Riprendi(coda_.FineChiesta() ? Raggiunto(fino) : fino);

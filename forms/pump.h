@@ -28,6 +28,12 @@ public:
     /// Called before each event that is taken; may be empty.
     void PonSveglia(std::function<void()> sveglia) { sveglia_ = std::move(sveglia); }
 
+    /// Called before time passes, whichever loop waits, when an event was delivered since the last
+    /// time; it must not wait itself. May be empty.
+    void PonSguardo(std::function<void()> sguardo) { sguardo_ = std::move(sguardo); }
+    /// The same for who lets time pass without a wait of the pump's.
+    void Guarda();
+
     /// True when nothing is to be waited for any more, since the program ends: in what unwinds the
     /// stack, and while the windows are closed (`PonCongedo`). Elsewhere it then throws
     /// `FineProgramma`.
@@ -62,6 +68,8 @@ private:
     CodaEventi& coda_;
     std::function<void(const Evento&)> consegna_;
     std::function<void()> sveglia_;
+    std::function<void()> sguardo_;
+    bool daGuardare_ = false;      ///< an event was delivered since
     double istante_ = -perSempre;  ///< the instant that the last wait asked for
     double risveglio_ = 0;         ///< the clock's when that wait had ended
     double calcolato_ = 0;         ///< the processor time used until then

@@ -33,6 +33,7 @@ void PonTesti(TestiLingua& testi) {
     testi.msgDiscoNonPronto = "disco non pronto";
     testi.msgFileDanneggiato = "danneggiato";
     testi.msgUscireSenzaSalvare = "uscire?";
+    testi.msgRecuperoIlleggibile = "illeggibile";
 }
 
 }  // namespace
@@ -48,8 +49,16 @@ std::string ParoleSistema(int errore) {
 BancoComposer::BancoComposer(char separatore) : BancoComposer(file, separatore) {}
 
 BancoComposer::BancoComposer(ArchivioFile& archivio, char separatore)
-    : finestra({globali, pompa, finestre, riquadri, suono, impostazioni, archivio, casuale},
+    : BancoComposer(archivio, separatore, std::nullopt) {}
+
+BancoComposer::BancoComposer(Rimasto rimasto, char separatore)
+    : BancoComposer(file, separatore, std::move(rimasto.byte)) {}
+
+BancoComposer::BancoComposer(ArchivioFile& archivio, char separatore,
+                             std::optional<std::string> rimasto)
+    : finestra(Con(archivio, casuale),
                {[] { return "Piano"; }, [] { return "Organo"; }, [this] { ++playFiniti; }}) {
+    custode.rimasto = std::move(rimasto);
     globali.SeparatoreDecimale = separatore;
     PonTesti(globali.testi);
     file.cartelle.insert("/programma/Melodie/Demo");

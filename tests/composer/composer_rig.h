@@ -31,6 +31,11 @@ struct BancoComposer : Banco {
     explicit BancoComposer(char separatore = '.');
     /// The same, with melodies that lie elsewhere than in memory.
     explicit BancoComposer(ArchivioFile& archivio, char separatore = '.');
+    /// The same after a run that left this unsaved.
+    struct Rimasto {
+        std::string byte;
+    };
+    explicit BancoComposer(Rimasto rimasto, char separatore = '.');
 
     int playFiniti = 0;  ///< plays of the instrument picker that were told to have ended
     frmComposer finestra;
@@ -78,6 +83,7 @@ struct BancoComposer : Banco {
     void NelTick(int tick, OrologioVirtuale::Passo passo);
 
 private:
+    BancoComposer(ArchivioFile& archivio, char separatore, std::optional<std::string> rimasto);
     double DurataTick() const;
     Mandati MessaggiTra(double inizio, double fine) const;
 

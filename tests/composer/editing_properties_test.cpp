@@ -66,6 +66,25 @@ RC_GTEST_PROP(EditorAMano, AnySequenceOfEntriesAndEditsAgreesWithAPlainModel, ()
     Usa(b, m);
 }
 
+RC_GTEST_PROP(EditorAMano, WhateverIsDoneWhatIsKeptIsTheMelodyAtEachWait, ()) {
+    BancoAMano b;
+    ModelloEditor m;
+    const int gesti = *rc::gen::inRange(1, 60);
+    for (int gesto = 0; gesto < gesti; ++gesto) {
+        GestoACaso(b, m);
+        b.pompa.Attendi(0.001);
+        const auto byte = b.custode.Contenuto();
+        RC_ASSERT(byte.has_value() == m.modificata);
+        if (!byte) continue;
+        const auto tenuta = LeggiTenuta(*byte);
+        RC_ASSERT(tenuta.has_value());
+        for (std::size_t voce = 0; voce < numeroVoci; ++voce) {
+            const VoceTenuta& v = tenuta->voci[voce];
+            RC_ASSERT((TestiVoce{v.note, v.durate, v.attributi}) == TestiDi(m.voci[voce].note));
+        }
+    }
+}
+
 RC_GTEST_PROP(EditorAMano, ANoteThatIsEnteredAndDroppedLeavesTheTextsAsTheyWere, ()) {
     BancoAMano b;
     ModelloEditor m;

@@ -31,7 +31,7 @@ const std::map<std::string, Insieme>& IdDiFinestra() {
         {"frmAbout", Fra(79, 82)},
         {"frmOptions", Fra(83, 142) + Fra(144, 156)},
         {"frmInto", Fra(157, 166) + Fra(168, 244)},
-        {"frmComposer", Fra(245, 374) + Insieme{379}},
+        {"frmComposer", Fra(245, 374) + Insieme{379, 383}},
         {"frmCopyFromA", Fra(375, 378)}};
     return insiemi;
 }

@@ -145,6 +145,7 @@ constexpr auto righeComposer = std::to_array<RigaAttesa>({
     {373, "", "una cartella di nome ", "a folder named ", &T::msgCartellaEsiste},
     {374, "", "una melodia di nome ", "a melody named ", &T::msgNuovoNomeEsiste},
     {379, "cmdCanc", "Canc.", "Del."},
+    {383, "", "messo da parte:", "was put aside:", &T::msgRecuperoIlleggibile},
 });
 
 }  // namespace

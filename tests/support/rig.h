@@ -4,8 +4,10 @@
 
 #include "core/globals.h"
 #include "forms/virtual_clock.h"
+#include "forms/watchful_boxes.h"
 #include "sound/recorder.h"
 #include "tests/support/memory_files.h"
+#include "tests/support/memory_guardian.h"
 #include "tests/support/recorded_mirror.h"
 #include "tests/support/scripted_boxes.h"
 
@@ -40,20 +42,25 @@ struct Banco {
     Pompa pompa{orologio, coda};
     Registratore uscita{[this] { return pompa.Adesso(); }};
     RiquadriDaCopione riquadri;
+    RiquadriConSguardo riquadriVisti{riquadri, pompa};
     SpecchioRegistrato specchio;
-    Finestre finestre{pompa, riquadri, &specchio};
+    Finestre finestre{pompa, riquadriVisti, &specchio};
     Suono suono{uscita, pompa, riquadri};
     FileInMemoria file;
     Impostazioni impostazioni{file, riquadri, percorsoImpostazioni};
     CasualeDaLista casuale;
+    CustodeInMemoria custode;
     Globali globali;
 
     static constexpr const char* percorsoImpostazioni = "/config/settings";
 
     Ambiente Tutto() { return Con(casuale); }
     /// The same with another source of chance.
-    Ambiente Con(Casuale& altra) {
-        return {globali, pompa, finestre, riquadri, suono, impostazioni, file, altra};
+    Ambiente Con(Casuale& altra) { return Con(file, altra); }
+    /// With other files too.
+    Ambiente Con(ArchivioFile& altri, Casuale& altra) {
+        return {globali,      pompa, finestre, riquadriVisti, suono,
+                impostazioni, altri, altra,    &custode};
     }
 
     /// At the instant `t` of the script (seconds): anything, or an event of the window in front.
