@@ -63,7 +63,8 @@ void Elenco::PonScelta(int riga, const NumeriRiga&) {
 }
 
 void Elenco::Riferisci() const {
-    if (currentRow() >= 0) scelta_(currentRow());
+    // Of several rows all can be selected before one was ever touched.
+    if (currentRow() >= 0 || selectionMode() != SingleSelection) scelta_(currentRow());
 }
 
 void Elenco::RigaCambiata() {

@@ -1,7 +1,9 @@
 #include "desktop/multiple_list.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QStyleHints>
 #include <algorithm>
 #include <utility>
 
@@ -32,7 +34,10 @@ NumeriRiga ElencoMultiplo::Scelte() const {
 
 void ElencoMultiplo::Raddoppia(const QMouseEvent& mouse) {
     const int riga = indexAt(mouse.position().toPoint()).row();
-    if (riga < 0) return;
+    const auto quanto =
+        static_cast<quint64>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+    // The first of the two presses may have been elsewhere.
+    if (riga < 0 || mouse.timestamp() - premuto_ > quanto) return;
     const bool ferma = std::find(prima_.begin(), prima_.end(), riga) != prima_.end();
     NumeriRiga scelte;
     if (ferma || mouse.modifiers().testFlag(Qt::ControlModifier)) scelte = prima_;
@@ -53,6 +58,7 @@ void ElencoMultiplo::keyPressEvent(QKeyEvent* tasto) {
 
 void ElencoMultiplo::mousePressEvent(QMouseEvent* mouse) {
     prima_ = Scelte();
+    premuto_ = mouse->timestamp();
     Elenco::mousePressEvent(mouse);
 }
 

@@ -24,8 +24,9 @@ protected:
 private:
     void SceltaCambiata();
 
-    NumeriRiga prima_;    ///< what was selected before the last press
-    bool batte_ = false;  ///< a key is being worked off
+    NumeriRiga prima_;     ///< what was selected before the last press
+    quint64 premuto_ = 0;  ///< when that was
+    bool batte_ = false;   ///< a key is being worked off
 };
 
 }  // namespace corvana

@@ -19,6 +19,7 @@ constexpr std::array posti = {
     Posto{"secondo", 150, 1650, 1500, 450, "Secondo"},
     Posto{"casella", 150, 2250, 1500, 375},
     Posto{"lista", 1950, 150, 2100, 1950},
+    Posto{"multipla", 1950, 150, 2100, 1950},
     Posto{"combo", 1950, 3750, 2100, 390, {}, "Tonalità"},
     Posto{"barra", 1950, 2250, 2100, 300},
     Posto{"ritta", 4200, 150, 300, 2100},
@@ -56,6 +57,12 @@ FormDiProva::FormDiProva(Finestre& f, Riquadri& d, Diario diario)
     Regolo.MouseDown = [this](const Evento& e) { diario_("Regolo " + std::to_string(e.y)); };
     casella.Invio = [this] { diario_("casella invio"); };
     casella.LostFocus = [this] { diario_("casella lasciata"); };
+    multipla.Click = [this] {
+        std::string righe = "multipla";
+        for (const int riga : multipla.Selected())
+            righe += ' ' + std::to_string(riga);
+        diario_(righe);
+    };
     icona.MouseMove = [this](const Evento&) { diario_("icona mossa"); };
     MouseMove = [this](const Evento&) { diario_("finestra mossa"); };
     sopra.ok.Click = [this] { finestre.Scarica(sopra); };
@@ -73,6 +80,7 @@ void FormDiProva::Componi() {
     barra.Min = 20;
     barra.Max = 140;
     barra.Value = 30;
+    multipla.Visible = false;
     Apri.Checked = true;
     n21.Visible = false;
     n50.Visible = false;

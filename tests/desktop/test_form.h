@@ -31,6 +31,7 @@ public:
     Bottone bottone{*this, "bottone"}, secondo{*this, "secondo"};
     Casella casella{*this, "casella"};
     Lista lista{*this, "lista"};
+    ListaMultipla multipla{*this, "multipla"};  ///< hidden
     Combo combo{*this, "combo"};
     Barra barra{*this, "barra"}, ritta{*this, "ritta"};
     Spunta spunta{*this, "spunta"};
