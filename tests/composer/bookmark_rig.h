@@ -43,4 +43,13 @@ struct BancoRiferimenti : BancoAMano {
     }
 };
 
+/// Twelve notes and three bookmarks, the first of the whole melody.
+struct BancoTre : BancoRiferimenti {
+    BancoTre() {
+        Riferimenti().List = Righe{"1 ÷ 12 ÷Tutta", "5 ÷ 8 ÷ ritornello", "2 ÷ 3 ÷ a"};
+        finestra.riferimenti.frBookMark.Visible = true;
+    }
+    Lista& Riferimenti() { return finestra.riferimenti.lstBookMark; }
+};
+
 }  // namespace corvana::prova

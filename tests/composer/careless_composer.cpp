@@ -9,14 +9,26 @@ namespace {
 /// The longest note that he enters takes less than a minute.
 constexpr double attesaQuieta = 150;
 
-constexpr std::array<const char*, 24> abitudiniComposer = {
+constexpr std::array<const char*, 36> abitudiniComposer = {
     "cmdPlay",     "cmdPlay",     "cmdPlay",     "cmdInsNota",  "cmdInsNota",  "cmdInsPausa",
     "VoceAttiva0", "VoceAttiva1", "VoceAttiva3", "lblMuteC0",   "lblMuteC2",   "lblVolT",
     "lblIDs0",     "lblIDs1",     "lblIDs1",     "lblSemitoni", "lblTs",       "mnuPiano",
-    "cmdReset",    "lblStep0",    "lblStep1",    "cmdNpp",      "mnuNotAnglo", "cmdCanc"};
+    "cmdReset",    "lblStep0",    "lblStep1",    "cmdNpp",      "mnuNotAnglo", "cmdCanc",
+    "cmdPaste",    "cmdPaste",    "lblIncolla",  "cmdAddBm",    "cmdAddBm",    "cmdPlayBm",
+    "cmdModBm",    "cmdRenameBm", "cmdMbUd0",    "cmdMbUd1",    "cmdDelBm",    "cmdHideBm"};
+
+constexpr std::array<const char*, 6> nomiRiferimenti = {"a", "", "a;b", "÷", "ritornello", "x y z"};
 
 constexpr std::array<int, 20> tastiComposer = {'Z', 'X', 'P', '5', 188, 76,  8,   37,  38,  39,
                                                40,  115, 116, 117, 118, 119, 120, 122, 123, 65};
+
+bool Parallela(const VoceMelodia& voce) {
+    const auto token = [](const std::string& testo) {
+        return std::count(testo.begin(), testo.end(), ';');
+    };
+    return token(voce.testoNote) == token(voce.testoDurate) &&
+           token(voce.testoNote) == token(voce.testoAttributi);
+}
 
 }  // namespace
 
@@ -81,6 +93,7 @@ void CompositoreDistratto::Agisci() {
     --rimasti_;
     if (!banco_->finestre.Davanti()) return;
     banco_->riquadri.risposte = {Capita(700)};
+    banco_->riquadri.testi = {nomiRiferimenti.at(static_cast<std::size_t>(Tra(0, 5)))};
     const int dado = Tra(0, 99);
     if (dado < 30)
         Mouse();
@@ -169,6 +182,11 @@ void CompositoreDistratto::Controlla() {
               f.regolo.rigaCursore <= 33,
           "the cursor is off the ruler");
     Esigi(std::abs(f.stato.melodia.semitoni) <= 12, "the semitones");
+    Esigi(f.riferimenti.lstBookMark.List->size() != 1, "the whole melody's bookmark alone");
+    Esigi(std::all_of(f.stato.melodia.voci.begin(), f.stato.melodia.voci.end(), Parallela),
+          "the texts of a voice have parted");
+    riferimenti += f.riferimenti.lstBookMark.List->size() > 2;
+    incolla += f.incolla.lblIncolla.Visible();
     for (const std::string& testo : banco_->riquadri.messaggi) {
         trasporti += testo == "\n";
         Esigi(!testo.starts_with("51"), "a box: " + testo);

@@ -18,13 +18,15 @@ public:
     /// Uses the window until the events are used up or something is wrong.
     void Vivi();
 
-    int chiuse = 0;      ///< closings of the window
-    int play = 0;        ///< times that it was seen playing
-    int prese = 0;       ///< times that an arrow was seen held
-    int quieti = 0;      ///< pauses after which nothing was held and nothing sounded
-    int trasporti = 0;   ///< transpositions that were refused
-    double secondi = 0;  ///< virtual time that passed
-    std::string guasto;  ///< what was wrong, empty for nothing
+    int chiuse = 0;       ///< closings of the window
+    int play = 0;         ///< times that it was seen playing
+    int prese = 0;        ///< times that an arrow was seen held
+    int quieti = 0;       ///< pauses after which nothing was held and nothing sounded
+    int trasporti = 0;    ///< transpositions that were refused
+    int riferimenti = 0;  ///< times that two bookmarks of his were seen
+    int incolla = 0;      ///< times that a paste was seen waiting
+    double secondi = 0;   ///< virtual time that passed
+    std::string guasto;   ///< what was wrong, empty for nothing
 
 private:
     struct Palco : Banco {

@@ -18,6 +18,8 @@ TEST(CompositoreDistratto, NoHoldOutlivesItsButtonAndClosedNothingSounds) {
     EXPECT_GT(utente.prese, 2000);
     EXPECT_GT(utente.quieti, 200);
     EXPECT_GT(utente.trasporti, 10);
+    EXPECT_GT(utente.riferimenti, 1000);
+    EXPECT_GT(utente.incolla, 1000);
     EXPECT_GT(utente.secondi, 8 * 3600);
 }
 

@@ -38,6 +38,7 @@ void ConfrontaInserimento(const BancoAMano& b, const ModelloEditor& m) {
     RC_ASSERT(b.AccentoInVista() == m.accentoVisibile);
     RC_ASSERT(!m.accentoVisibile || b.AccentoAcceso() == m.accentoAcceso);
     RC_ASSERT(b.Modificata() == m.modificata);
+    RC_ASSERT(b.finestra.incolla.lblIncolla.Visible() == m.attendeIncolla);
     RC_ASSERT(b.passo.modoPasso == m.passoAperto);
     RC_ASSERT(b.passo.IndiceNotaPP == m.passo);
     RC_ASSERT(b.uscita.NoteAccese().empty());

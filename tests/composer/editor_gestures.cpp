@@ -81,8 +81,28 @@ void PonTratto(BancoAMano& b, ModelloEditor& m) {
     b.Tratto(voce.prima, voce.ultima);
 }
 
+/// The first click of a paste, at times both; a voice that has grown long enough is left alone.
+void Incolla(BancoAMano& b, ModelloEditor& m) {
+    constexpr std::size_t lunga = 60;
+    if (!Offerto(b, "cmdPaste") || m.Voce().note.size() > lunga) return;
+    for (int volte = Tra(1, 2); volte > 0; --volte)
+        b.Tocca("cmdPaste"), m.Incolla();
+}
+
+/// Any number into a box of the range.
+void ScriviTratto(BancoAMano& b, ModelloEditor& m) {
+    const auto voce = static_cast<std::size_t>(Tra(0, 3));
+    const bool ultima = voce != soprano || Tra(0, 1) == 1;
+    const PannelloVoci::ControlliVoce& caselle = b.finestra.voci.perVoce[voce];
+    const std::string& nome = (ultima ? caselle.ultima : caselle.prima).Name;
+    const int numero = Tra(-1, static_cast<int>(m.voci[voce].note.size()) + 2);
+    b.ScriviIn(nome, std::to_string(numero));
+    b.Esci(nome);
+    m.ScriviTratto(voce, ultima, numero);
+}
+
 void Altro(BancoAMano& b, ModelloEditor& m) {
-    switch (Tra(0, 8)) {
+    switch (Tra(0, 12)) {
         case 0: return PonTratto(b, m);
         case 1:
             if (Offerto(b, "cmdNpp")) m.passoAperto = false;
@@ -98,6 +118,14 @@ void Altro(BancoAMano& b, ModelloEditor& m) {
             b.Tocca("VoceAttiva" + std::to_string(voce));
             return m.ScegliVoce(static_cast<std::size_t>(voce));
         }
+        case 6:
+        case 7: return Incolla(b, m);
+        case 8:
+        case 9: return ScriviTratto(b, m);
+        case 10:
+            b.Tocca("lblIncolla");
+            m.attendeIncolla = false;
+            return;
         default:
             if (Offerto(b, "cmdCanc")) m.Taglia();
             return b.Tocca("cmdCanc");

@@ -115,6 +115,33 @@ void ModelloEditor::Taglia() {
     if (!sola && attiva == soprano) voce.prima = 1;
 }
 
+void ModelloEditor::Incolla() {
+    VoceEditor& voce = Voce();
+    if (voce.note.empty()) return Aggiorna();
+    if (!attendeIncolla) {
+        attendeIncolla = true;
+        return;
+    }
+    attendeIncolla = false;
+    modificata = true;
+    const NoteEditor tratto(voce.note.begin() + voce.prima - 1, voce.note.begin() + voce.ultima);
+    voce.note.insert(voce.note.end(), tratto.begin(), tratto.end());
+    Aggiorna();
+}
+
+void ModelloEditor::ScriviTratto(std::size_t quale, bool ultima, int numero) {
+    VoceEditor& voce = voci[quale];
+    const int note = static_cast<int>(voce.note.size());
+    if (note == 0) return;
+    ScegliVoce(quale);
+    if (quale != soprano)
+        voce.ultima = numero > voce.prima + 1 && numero <= note ? numero : note;
+    else if (ultima && numero >= voce.prima && numero <= note)
+        voce.ultima = numero;
+    else if (!ultima && numero >= 1 && numero <= voce.ultima)
+        voce.prima = numero;
+}
+
 void ModelloEditor::ScegliVoce(std::size_t voce) {
     attiva = voce;
     passoAperto = false;

@@ -30,6 +30,7 @@ struct ModelloEditor {
     bool accentoVisibile = false, accentoAcceso = false, soloAscolto = false, conserva = false;
     bool silenzio = false;  ///< meant for the next note, whenever that comes
     bool modificata = false;
+    bool attendeIncolla = false;  ///< between the two clicks of a paste
 
     bool passoAperto = false;
     int passo = 0;               ///< note under the step
@@ -45,6 +46,9 @@ struct ModelloEditor {
     void InserisciNota();
     void InserisciPausa();
     void Taglia();
+    void Incolla();
+    /// A number typed into a box of the range, for a lower voice into its last one.
+    void ScriviTratto(std::size_t voce, bool ultima, int numero);
     void ScegliVoce(std::size_t voce);
     void Passo(int verso);
     void Modifica();

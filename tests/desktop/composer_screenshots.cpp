@@ -57,7 +57,7 @@ void ScriviQualcosa(Seduta& s) {
     s.Premi(QStringLiteral("Label4"));
 }
 
-void ApriMelodia(Seduta& s, const QString& inizio) {
+void ApriMelodia(Seduta& s, const QString& inizio, const char* nome) {
     s.Scegli("mnuApri");
     Aspetta([&] { return s.Di("Fr2").isVisible(); });
     auto& lista = s.Di("List1").Come<QListWidget>();
@@ -65,13 +65,27 @@ void ApriMelodia(Seduta& s, const QString& inizio) {
     const auto righe = lista.findItems(inizio, Qt::MatchStartsWith);
     if (!righe.isEmpty()) lista.setCurrentItem(righe.front());
     s.Respira();
-    s.Scatta("files");
+    s.Scatta(nome);
     s.Premi(QStringLiteral("cmdEseguiFile"));
 }
 
 void Ferma(Seduta& s) {
     s.Premi(QStringLiteral("cmdPlay"));
     Aspetta([&] { return s.Stato(QStringLiteral("cmdPlay")).Caption == "Play"; });
+}
+
+/// The bookmarks that a melody brings, one of them chosen, and a paste that waits.
+void MostraRiferimenti(Seduta& s) {
+    ApriMelodia(s, QStringLiteral("O du"), "files-other");
+    Aspetta([&] { return s.Di("frBookMark").isVisible(); });
+    Ferma(s);
+    s.Premi(QStringLiteral("cmdChiudi"));
+    s.Di("lstBookMark").Come<QListWidget>().setCurrentRow(1);
+    s.Premi(QStringLiteral("cmdPaste"));
+    Aspetta([&] { return s.Di("lblIncolla").isVisible(); });
+    s.Respira();
+    s.Scatta("bookmarks");
+    s.Premi(QStringLiteral("lblIncolla"));
 }
 
 }  // namespace
@@ -85,7 +99,7 @@ void FotografaComposer(Scrivania& scrivania, const std::function<void(const QStr
     s.Scatta("entering");
     s.Premi(QStringLiteral("cmdAttrNota3"));
     s.Premi(QStringLiteral("cmdReset"));
-    ApriMelodia(s, QStringLiteral("Salmo"));
+    ApriMelodia(s, QStringLiteral("Salmo"), "files");
     Aspetta([&] { return s.Accesi() > 3 && s.Stato(QStringLiteral("lblNe")).Caption == "3"; });
     s.Scatta("playing");
     Ferma(s);
@@ -98,6 +112,7 @@ void FotografaComposer(Scrivania& scrivania, const std::function<void(const QStr
     Aspetta([&] { return s.Stato(QStringLiteral("cmdPlay")).Caption == "Play"; });
     s.Premi(QStringLiteral("lblTs"));
     s.Scatta("stepping");
+    MostraRiferimenti(s);
     scrivania.Davanti()->Finestra().close();
     AspettaFinestra(scrivania, QStringLiteral("CorvanaMainF"));
 }

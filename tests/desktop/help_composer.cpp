@@ -100,6 +100,20 @@ void Passo(Fotografo& f) {
     f.Scatta("composer-step", "frmModifica", "frmModifica");
 }
 
+/// A range of the soprano that is about to be repeated, and the bookmarks that a melody brings.
+void Riferimenti(Fotografo& f) {
+    Apri(f, QStringLiteral("O du"));
+    Deve(Aspetta([&] { return f.Di("frBookMark").isVisible(); }));
+    f.Premi("cmdPlay");
+    AspettaScritta(f, "cmdPlay", "Play");
+    f.Di("lstBookMark").Come<QListWidget>().setCurrentRow(1);
+    f.Scatta("composer-bookmarks", "frBookMark", "frBookMark");
+    f.Premi("cmdPaste");
+    Deve(Aspetta([&] { return f.Di("lblIncolla").isVisible(); }));
+    f.Scatta("composer-paste", "lblIncolla", "cmdPaste");
+    f.Premi("lblIncolla");
+}
+
 }  // namespace
 
 void FinestraComposizione(Fotografo& f) {
@@ -110,6 +124,7 @@ void FinestraComposizione(Fotografo& f) {
     Suona(f);
     ScegliVoce(f);
     Passo(f);
+    Riferimenti(f);
     f.Chiudi();
 }
 
