@@ -66,7 +66,7 @@ constexpr std::array postiPlay = {
     // The box reaches over its words, so that a click on them ticks it.
     Posto{"chekLoop", 5370, 1080, 1620, 330, {}, {}, "nome:chekLoopLb"},
     Posto{"chekLoopLb", 5730, 1080, 1260, 330, "Ripeti", {}, "mezzo"},
-    Posto{"lblIncolla", 7110, 900, 2790, 690, {}, {}, "pulsante piccolo"},
+    Posto{"lblIncolla", 7110, 900, 2820, 690, {}, {}, "pulsante riquadro piccolo"},
     Posto{"cmdAddBm", 10020, 975, 1350, 540, "M.R."},
     Posto{"cmdPaste", 11490, 975, 1830, 540, "Incolla",
           "Incolla alla fine da nota inizio a nota fine"},
