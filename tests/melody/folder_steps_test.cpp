@@ -8,7 +8,7 @@ namespace corvana::prova {
 namespace {
 
 using Testi = std::vector<std::string>;
-using Voci = std::vector<VoceCartella>;
+using VociCartella = std::vector<VoceCartella>;
 
 struct Passo {
     const char* da;
@@ -54,9 +54,10 @@ TEST(Aperta, TheWayInAndOutAgainLeadsWhereItBegan) {
 }
 
 TEST(RigheCartella, AreTheParentTheFoldersAndTheMelodiesEachInOrder) {
-    const Voci voci = {{"b.mel", false}, {"Zeta", true}, {"A.mel", false},   {"alfa", true},
-                       {"c.MEL", false}, {"Beta", true}, {"x.txt", false},   {"beta.mel", true},
-                       {"!", true},      {"mel", false}, {"d.mel.b", false}, {"a.b.mel", false}};
+    const VociCartella voci = {{"b.mel", false}, {"Zeta", true},     {"A.mel", false},
+                               {"alfa", true},   {"c.MEL", false},   {"Beta", true},
+                               {"x.txt", false}, {"beta.mel", true}, {"!", true},
+                               {"mel", false},   {"d.mel.b", false}, {"a.b.mel", false}};
     EXPECT_EQ(RigheCartella("/m/", voci), (Testi{"» ..", "» !", "» alfa", "» Beta", "» beta.mel",
                                                  "» Zeta", "A", "a.b", "b", "c"}));
 }
@@ -68,12 +69,14 @@ TEST(RigheCartella, TheRootHasNoParent) {
 }
 
 TEST(RigheCartella, NamesThatAreOddAreRowsLikeAnyOther) {
-    const Voci voci = {{"a;b.mel", false}, {"x;y", true}, {"\xFF.mel", false}, {"a\nb.mel", false}};
+    const VociCartella voci = {
+        {"a;b.mel", false}, {"x;y", true}, {"\xFF.mel", false}, {"a\nb.mel", false}};
     EXPECT_EQ(RigheCartella("/m/", voci), (Testi{"» ..", "» x;y", "a\nb", "a;b", "\xFF"}));
 }
 
 TEST(RigheCartella, AFileOfOneNameIsOneRowAndThoseThatDifferInCaseAreTwo) {
-    const Voci voci = {{"x.MEL", false}, {"x.a.mel", false}, {"X.mel", false}, {"x.mel", false}};
+    const VociCartella voci = {
+        {"x.MEL", false}, {"x.a.mel", false}, {"X.mel", false}, {"x.mel", false}};
     EXPECT_EQ(RigheCartella("/m/", voci), (Testi{"» ..", "X", "x", "x.a"}));
 }
 
