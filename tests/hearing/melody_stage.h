@@ -19,12 +19,13 @@ struct PalcoMelodia {
         std::function<std::unique_ptr<PiattaformaMidi>(std::function<double()> istante)>;
 
     PalcoMelodia(Orologio& orologio, ArchivioFile& file, const FaiUscita& faiUscita,
-                 Specchio* specchio = nullptr)
+                 Specchio* specchio = nullptr, Custode* custode = nullptr)
         : pompa(orologio, coda),
           finestre(pompa, riquadri, specchio),
           uscita(faiUscita([this] { return pompa.Adesso(); })),
-          finestra({globali, pompa, finestre, riquadri, suono, impostazioni, file, casuale},
-                   {[] { return "Piano"; }, [] { return "Organo"; }, {}}) {
+          finestra(
+              {globali, pompa, finestre, riquadri, suono, impostazioni, file, casuale, custode},
+              {[] { return "Piano"; }, [] { return "Organo"; }, {}}) {
         globali.CartellaProgramma = "/programma";
         impostazioni.Prepara();
         suono.ApriMidi(dispositivoPredefinito);
