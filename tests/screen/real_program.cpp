@@ -4,6 +4,7 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "composer/composer.h"
 #include "metronome/conf_metro.h"
 #include "tests/program/program_rig.h"
 #include "utilities/about.h"
@@ -21,11 +22,13 @@ struct Disegni {
     frmConfMetro sequenza{banco.Tutto()};
     frmStrum strumenti{banco.Tutto()};
     frmAbout versione{banco.Tutto()};
+    frmComposer composizione{banco.Tutto(), {}};
 
     const Form& Di(const std::string& forma) const {
         for (const Form* form :
              {static_cast<const Form*>(&banco.finestra), static_cast<const Form*>(&sequenza),
-              static_cast<const Form*>(&strumenti), static_cast<const Form*>(&versione)})
+              static_cast<const Form*>(&strumenti), static_cast<const Form*>(&versione),
+              static_cast<const Form*>(&composizione)})
             if (form->Name == forma) return *form;
         throw std::logic_error("no design of " + forma);
     }
@@ -39,8 +42,11 @@ std::string Variabile(const char* nome, const std::filesystem::path& valore) {
 
 ProgrammaVero::ProgrammaVero(Schermo& dove) : ProgrammaVero(dove, Come{}) {}
 
-ProgrammaVero::ProgrammaVero(Schermo& dove, Come come)
-    : scala_(come.scala), schermo(dove), processo(Avvio(come)) {
+ProgrammaVero::ProgrammaVero(Schermo& dove, const Come& come)
+    : casa_(come.casa.empty() ? nuova_.Percorso() : come.casa),
+      scala_(come.scala),
+      schermo(dove),
+      processo(Avvio(come)) {
     principale = AspettaFinestra("CorvanaMainF");
     if (principale == 0) throw std::runtime_error("the main window doesn't come");
     if (!come.pronta) return;
@@ -49,15 +55,16 @@ ProgrammaVero::ProgrammaVero(Schermo& dove, Come come)
     if (AspettaFinestra("CorvanaMainF") == 0) throw std::runtime_error("the box doesn't go");
 }
 
-Processo::Avvio ProgrammaVero::Avvio(Come come) const {
-    const auto& casa = casa_.Percorso();
+Processo::Avvio ProgrammaVero::Avvio(const Come& come) const {
+    const auto& casa = casa_;
     std::filesystem::create_directory(casa / "run");
     std::filesystem::permissions(casa / "run", std::filesystem::perms::owner_all);
     return {
         {CORVANA_PROGRAM},
         {Variabile("DISPLAY", schermo.Nome()), Variabile("HOME", casa),
          Variabile("XDG_CONFIG_HOME", casa / "config"), Variabile("XDG_CACHE_HOME", casa / "cache"),
-         Variabile("XDG_RUNTIME_DIR", casa / "run"), "QT_QPA_PLATFORM=xcb", "SDL_AUDIODRIVER=none",
+         Variabile("XDG_STATE_HOME", casa / "state"), Variabile("XDG_RUNTIME_DIR", casa / "run"),
+         "QT_QPA_PLATFORM=xcb", "SDL_AUDIODRIVER=none",
          "QT_SCALE_FACTOR=" + std::to_string(come.scala)},
         casa / "uscita",
         casa / "errori"};
@@ -134,6 +141,12 @@ xcb_window_t ProgrammaVero::ApriStrumenti() {
     return AspettaFinestra("frmStrum");
 }
 
+xcb_window_t ProgrammaVero::ApriComposer() {
+    schermo.Batti("alt+r");
+    schermo.Batti("Return");
+    return AspettaFinestra("frmComposer");
+}
+
 std::optional<int> ProgrammaVero::Esce(int segnale) {
     processo.Segnala(segnale);
     return Esce();
@@ -146,7 +159,7 @@ std::optional<int> ProgrammaVero::Esce() {
 }
 
 std::string ProgrammaVero::StatoSalvato() const {
-    std::ifstream file(casa_.Percorso() / "config" / "corvana" / "settings");
+    std::ifstream file(casa_ / "config" / "corvana" / "settings");
     const std::string nome = "CorvanaLastS=";
     for (std::string riga; std::getline(file, riga);)
         if (riga.starts_with(nome)) return riga.substr(nome.size());

@@ -14,15 +14,18 @@ public:
         int scala = 1;       ///< of the screen
         bool pronta = true;  ///< the opening signal is over, and the box about the missing sound
                              ///< device was answered
+        /// The home of one that was started before; empty for a new user.
+        std::filesystem::path casa = {};
     };
 
     /// Returns when the main window is to be seen, on a machine without a sound device. The screen
     /// must outlive it.
     explicit ProgrammaVero(Schermo& dove);
-    ProgrammaVero(Schermo& dove, Come come);
+    ProgrammaVero(Schermo& dove, const Come& come);
 
 private:
-    CartellaPropria casa_;
+    CartellaPropria nuova_;
+    std::filesystem::path casa_;
     int scala_;
 
 public:
@@ -49,6 +52,8 @@ public:
     /// Opens the window in which the metronome's pattern is chosen.
     xcb_window_t ApriSequenza();
     xcb_window_t ApriStrumenti();
+    xcb_window_t ApriComposer();
+    const std::filesystem::path& Casa() const { return casa_; }
     /// Sends the signal; the exit code, or nothing when it doesn't end.
     std::optional<int> Esce(int segnale);
     /// The same without a signal.
@@ -57,7 +62,7 @@ public:
     std::string StatoSalvato() const;
 
 private:
-    Processo::Avvio Avvio(Come come) const;
+    Processo::Avvio Avvio(const Come& come) const;
 };
 
 }  // namespace corvana::prova
