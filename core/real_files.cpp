@@ -63,7 +63,7 @@ int NonLeggibile(int descrittore) {
     return S_ISREG(dati.st_mode) ? 0 : EINVAL;
 }
 
-/// The new name is on the disk only when the folder is.
+/// What a name stands for, or that it is gone, is on the disk only when the folder is.
 void FissaCartella(const std::string& percorso) {
     const std::string cartella = std::filesystem::path(percorso).parent_path().string();
     const Descrittore aperta(cartella.empty() ? "." : cartella, O_RDONLY | O_DIRECTORY);
@@ -121,7 +121,9 @@ int FileReali::ScriviAtomico(const std::string& percorso, const std::string& con
 }
 
 int FileReali::Elimina(const std::string& percorso) {
-    return unlink(percorso.c_str()) == 0 ? 0 : errno;
+    if (unlink(percorso.c_str()) != 0) return errno;
+    FissaCartella(percorso);
+    return 0;
 }
 
 int FileReali::CreaCartella(const std::string& percorso) {
