@@ -210,6 +210,15 @@ TEST(MelodiaNonSalvata, AResetLetsItGo) {
     EXPECT_FALSE(b.custode.Contenuto());
 }
 
+TEST(MelodiaNonSalvata, TheSameMelodyEnteredAnewIsKeptAnew) {
+    BancoTenuta b;
+    b.Comincia();
+    b.Tocca("cmdReset");
+    b.Passa(0.1);
+    ASSERT_FALSE(b.custode.Contenuto());
+    b.Comincia();
+}
+
 TEST(MelodiaNonSalvata, AMelodyThatIsLoadedOverItLetsItGo) {
     BancoTenuta b;
     b.Comincia();
@@ -297,10 +306,10 @@ TEST(MelodiaNonSalvata, TheEndOfTheProgramAsksNobodyAndFixesWhatIsKept) {
 TEST(MelodiaNonSalvata, AChangeJustBeforeTheEndOfTheProgramIsKept) {
     BancoTenuta b;
     b.Comincia();
-    b.Nota();
+    b.Pausa();
     b.coda.ChiediFine();
     EXPECT_FALSE(b.SvolgiCopione([&] { b.finestre.FinoAllUltima(); }));
-    EXPECT_EQ(b.NoteTenute(), "60;60;");
+    EXPECT_EQ(b.NoteTenute(), "60;00;");
     EXPECT_EQ(b.custode.fissate, 1);
     EXPECT_EQ(b.custode.lasciate, 0);
 }
