@@ -81,6 +81,7 @@ public:
     void Form_KeyUp(const Evento& tasto) override;
 
     void mnuSs_Click();
+    void mnuCopyFromA_Click();
     void mnuNotLat_Click();
     void mnuNotAnglo_Click();
     void mnuChiudi_Click();

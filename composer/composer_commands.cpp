@@ -1,5 +1,6 @@
 // What the menus, the tools and the keys of the melody window do.
 #include "composer/composer.h"
+#include "composer/copy_from_a.h"
 
 namespace corvana {
 
@@ -8,6 +9,7 @@ void frmComposer::CollegaMenu() {
     menu.mnuSalva.Click = menu.mnuSalvaCont.Click = [this] { archivio.mnuSalva_Click(); };
     menu.mnuSaveAs.Click = menu.mnuSaveAsCont.Click = [this] { archivio.mnuSaveAs_Click(); };
     menu.mnuSalvaA.Click = menu.mnucSalvaA.Click = [this] { archivio.mnuSalvaA_Click(); };
+    menu.mnuCopyFromA.Click = menu.mnucCopyFromA.Click = [this] { mnuCopyFromA_Click(); };
     menu.mnuChiudi.Click = [this] { mnuChiudi_Click(); };
     menu.mnuPiano.Click = menu.mnuPianoCont.Click = [this] { mix.mnuPiano_Click(); };
     menu.mnuOrgano.Click = menu.mnuOrganoCont.Click = [this] { mix.mnuOrgano_Click(); };
@@ -56,6 +58,11 @@ void frmComposer::Form_MouseDown(int Button) {
 
 void frmComposer::mnuSs_Click() {
     if (!stato.inEsecuzione && vicine_.frmStrum) vicine_.frmStrum();
+}
+
+void frmComposer::mnuCopyFromA_Click() {
+    frmCopyFromA finestra(a_, *this, [this] { archivio.ListaFD(); });
+    a_.finestre.MostraModale(finestra);
 }
 
 void frmComposer::mnuNotLat_Click() {

@@ -4,7 +4,8 @@ namespace corvana {
 
 void MenuComposer::AbilitaFile(bool abilita) {
     file.Enabled = abilita;
-    for (VoceMenu* voce : {&mnuApriCont, &mnuSalvaCont, &mnuSaveAsCont, &mnucSalvaA})
+    for (VoceMenu* voce :
+         {&mnuApriCont, &mnuSalvaCont, &mnuSaveAsCont, &mnucSalvaA, &mnucCopyFromA})
         voce->Enabled = abilita;
 }
 

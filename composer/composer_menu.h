@@ -19,6 +19,7 @@ public:
     VoceMenu mnuSalva{finestra_, "mnuSalva", &file};
     VoceMenu mnuSaveAs{finestra_, "mnuSaveAs", &file};
     VoceMenu mnuSalvaA{finestra_, "mnuSalvaA", &file};
+    VoceMenu mnuCopyFromA{finestra_, "mnuCopyFromA", &file};
     VoceMenu mnuChiudi{finestra_, "mnuChiudi", &file};
 
     VoceMenu strumento{finestra_, "strumento"};
@@ -36,6 +37,7 @@ public:
     VoceMenu mnuSalvaCont{finestra_, "mnuSalvaCont", &mnuContestuale2};
     VoceMenu mnuSaveAsCont{finestra_, "mnuSaveAsCont", &mnuContestuale2};
     VoceMenu mnucSalvaA{finestra_, "mnucSalvaA", &mnuContestuale2};
+    VoceMenu mnucCopyFromA{finestra_, "mnucCopyFromA", &mnuContestuale2};
     VoceMenu mnuPianoCont{finestra_, "mnuPianoCont", &mnuContestuale2};
     VoceMenu mnuOrganoCont{finestra_, "mnuOrganoCont", &mnuContestuale2};
     VoceMenu mnuSsCont{finestra_, "mnuSsCont", &mnuContestuale2};

@@ -29,6 +29,15 @@ private:
     std::vector<std::pair<std::string, std::string>> righe_;
 };
 
+/// Behind the rows that are there already.
+void VersaMelodie(const std::vector<VoceCartella>& voci, std::vector<std::string>& righe) {
+    RigheOrdinate melodie;
+    for (const VoceCartella& voce : voci)
+        if (auto nome = voce.cartella ? std::nullopt : NomeDaFile(voce.nome))
+            melodie.Aggiungi(std::move(*nome));
+    melodie.Versa(righe);
+}
+
 }  // namespace
 
 GenereRiga GenereDi(std::string_view riga) {
@@ -53,18 +62,19 @@ std::string Aperta(std::string percorso, std::string_view riga) {
 std::vector<std::string> RigheCartella(const std::string& percorso,
                                        const std::vector<VoceCartella>& voci) {
     RigheOrdinate cartelle;
-    RigheOrdinate melodie;
-    for (const VoceCartella& voce : voci) {
-        if (voce.cartella)
-            cartelle.Aggiungi(std::string(segnoCartella) + voce.nome);
-        else if (auto nome = NomeDaFile(voce.nome))
-            melodie.Aggiungi(std::move(*nome));
-    }
+    for (const VoceCartella& voce : voci)
+        if (voce.cartella) cartelle.Aggiungi(std::string(segnoCartella) + voce.nome);
     std::vector<std::string> righe;
     if (percorso != "/") righe.emplace_back(cartellaSopra);
     cartelle.Versa(righe);
-    melodie.Versa(righe);
+    VersaMelodie(voci, righe);
     return righe;
+}
+
+std::vector<std::string> NomiMelodie(const std::vector<VoceCartella>& voci) {
+    std::vector<std::string> nomi;
+    VersaMelodie(voci, nomi);
+    return nomi;
 }
 
 bool SenzaMelodie(const std::vector<VoceCartella>& voci) {

@@ -30,6 +30,9 @@ std::string Aperta(std::string percorso, std::string_view riga);
 std::vector<std::string> RigheCartella(const std::string& percorso,
                                        const std::vector<VoceCartella>& voci);
 
+/// The melodies among them, in order, without regard to case, each name once.
+std::vector<std::string> NomiMelodie(const std::vector<VoceCartella>& voci);
+
 /// There is neither a folder nor a melody among them.
 bool SenzaMelodie(const std::vector<VoceCartella>& voci);
 

@@ -92,6 +92,8 @@ void CompositoreDistratto::Passo() {
 void CompositoreDistratto::Agisci() {
     --rimasti_;
     if (!banco_->finestre.Davanti()) return;
+    // He has nothing to import.
+    if (banco_->finestre.Davanti() != &banco_->finestra) return Manda({}, "cmdChiudi");
     banco_->riquadri.risposte = {Capita(700)};
     banco_->riquadri.testi = {nomiRiferimenti.at(static_cast<std::size_t>(Tra(0, 5)))};
     const int dado = Tra(0, 99);

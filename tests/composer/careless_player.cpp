@@ -22,33 +22,21 @@ struct Abitudine {
 };
 
 /// The label of the name stands for the button that empties the melody.
-constexpr std::array<Abitudine, 27> abitudini = {{{18, "cmdPlay", Fatto::Click},
-                                                  {9, "List1", Fatto::Click, -1, quantiFile + 2},
-                                                  {9, "cmdEseguiFile", Fatto::Click},
-                                                  {2, "lblNome", Fatto::Click},
-                                                  {3, "VoceAttiva0", Fatto::Click},
-                                                  {3, "VoceAttiva1", Fatto::Click},
-                                                  {1, "VoceAttiva3", Fatto::Click},
-                                                  {3, "VolS", Fatto::Change, -1, 99},
-                                                  {3, "VolC", Fatto::Scroll, 0, 98},
-                                                  {2, "VolT", Fatto::Change, 0, 98},
-                                                  {2, "VolB", Fatto::Change, 98, 98},
-                                                  {6, "lblTs", Fatto::Click},
-                                                  {4, "Pulsazioni", Fatto::Click, -1, 9},
-                                                  {3, "DurataPulsazioni", Fatto::Click, -1, 5},
-                                                  {4, "InizioPuls", Fatto::Change, 0, 9},
-                                                  {2, "VolumeMetro", Fatto::Change, 0, 120},
-                                                  {5, "chekLoop", Fatto::Click, 0, 1},
-                                                  {2, "chekLoop", Fatto::Click, 0, 0},
-                                                  {1, "mnuPlayRitardo", Fatto::Click},
-                                                  {3, "mnuApri", Fatto::Click},
-                                                  {3, "mnuSalva", Fatto::Click},
-                                                  {2, "mnuSaveAs", Fatto::Click},
-                                                  {1, "mnuSalvaA", Fatto::Click},
-                                                  {4, "Slider1", Fatto::Change, 19, 251},
-                                                  {2, "Slider1", Fatto::Scroll, 20, 250},
-                                                  {2, "lblNini", Fatto::Change},
-                                                  {1, "", Fatto::Chiudi}}};
+constexpr std::array<Abitudine, 28> abitudini = {
+    {{17, "cmdPlay", Fatto::Click},          {9, "List1", Fatto::Click, -1, quantiFile + 2},
+     {9, "cmdEseguiFile", Fatto::Click},     {2, "lblNome", Fatto::Click},
+     {3, "VoceAttiva0", Fatto::Click},       {3, "VoceAttiva1", Fatto::Click},
+     {1, "VoceAttiva3", Fatto::Click},       {3, "VolS", Fatto::Change, -1, 99},
+     {3, "VolC", Fatto::Scroll, 0, 98},      {2, "VolT", Fatto::Change, 0, 98},
+     {2, "VolB", Fatto::Change, 98, 98},     {6, "lblTs", Fatto::Click},
+     {4, "Pulsazioni", Fatto::Click, -1, 9}, {3, "DurataPulsazioni", Fatto::Click, -1, 5},
+     {4, "InizioPuls", Fatto::Change, 0, 9}, {2, "VolumeMetro", Fatto::Change, 0, 120},
+     {5, "chekLoop", Fatto::Click, 0, 1},    {2, "chekLoop", Fatto::Click, 0, 0},
+     {1, "mnuPlayRitardo", Fatto::Click},    {3, "mnuApri", Fatto::Click},
+     {3, "mnuSalva", Fatto::Click},          {2, "mnuSaveAs", Fatto::Click},
+     {1, "mnuSalvaA", Fatto::Click},         {1, "mnuCopyFromA", Fatto::Click},
+     {4, "Slider1", Fatto::Change, 19, 251}, {2, "Slider1", Fatto::Scroll, 20, 250},
+     {2, "lblNini", Fatto::Change},          {1, "", Fatto::Chiudi}}};
 
 }  // namespace
 
@@ -98,6 +86,8 @@ void SuonatoreDistratto::PonFile() {
         banco_->PonFile("melody" + std::to_string(i), byte);
     }
     banco_->file.supportoRimovibile = Capita(500) ? "/medium/" : "";
+    for (int i = Capita(100) ? 300 : Tra(0, 10); i > 0; --i)
+        banco_->file.contenuti["/medium/melody" + std::to_string(i) + ".mel"] = MelodiaACaso();
 }
 
 /// The three lines of a voice.
@@ -140,6 +130,7 @@ void SuonatoreDistratto::Agisci() {
     banco_->riquadri.risposte = {Capita(500)};
     banco_->riquadri.testi = {Capita(800) ? "melody" + std::to_string(Tra(0, quantiFile)) : "?"};
     if (!banco_->finestre.Davanti()) return;
+    if (banco_->finestre.Davanti() != &banco_->finestra) return Importa();
     const auto [controllo, evento] = Gesto();
     Evento e = banco_->Fatta(evento, controllo);
     if (Capita(30)) e.controllo = Tra(0, static_cast<int>(banco_->finestra.Controlli().size()) - 1);
@@ -149,11 +140,25 @@ void SuonatoreDistratto::Agisci() {
     banco_->coda.Aggiungi(std::move(e));
 }
 
+void SuonatoreDistratto::Importa() {
+    ++importi;
+    Evento e;
+    const int dado = Tra(0, 9);
+    e.fatto = dado == 0 ? Fatto::Chiudi : dado < 3 ? Fatto::DblClick : Fatto::Click;
+    e.valore = Tra(-1, 300);
+    for (int riga = Tra(0, 5); riga > 0; --riga)
+        e.scelte.push_back(Tra(-1, 300));
+    constexpr std::array dove = {"",         "List1",    "List1",       "List1",    "List1",
+                                 "cmdCopia", "cmdCopia", "lblCurrPath", "cmdCopia", "cmdChiudi"};
+    banco_->coda.Aggiungi(banco_->Fatta(std::move(e), dove.at(static_cast<std::size_t>(dado))));
+}
+
 /// The output or the files fail or recover.
 void SuonatoreDistratto::Inceppa() {
     banco_->uscita.esitoShortMsg = Capita(100) ? 67 : 0;
     inceppata_ = inceppata_ || banco_->uscita.esitoShortMsg != 0;
     banco_->file.erroreScrivi = Capita(200) ? ENOSPC : 0;
+    banco_->file.erroreElenca = Capita(100) ? EIO : 0;
     banco_->globali.PickerAperto = Capita(100);
 }
 

@@ -22,6 +22,7 @@ public:
     int fermo = 0;       ///< times that nothing was under way, and was looked through
     int caricate = 0;    ///< loads that he asked for
     int salvate = 0;     ///< files written
+    int importi = 0;     ///< things done in the import window
     double secondi = 0;  ///< virtual time that passed
     std::string guasto;  ///< what was wrong, empty for nothing
 
@@ -37,6 +38,8 @@ private:
     void Passo();
     void Agisci();
     void Inceppa();
+    /// Uses the import window, which is in front, or closes it.
+    void Importa();
     std::pair<std::string, Evento> Gesto();
 
     /// Notes the first thing that is wrong and ends the script.

@@ -19,6 +19,7 @@ TEST(SuonatoreDistratto, NothingFailsNothingHangsAndNothingSoundsWhenNothingIsUn
     EXPECT_GT(utente.fermo, 5000);
     EXPECT_GT(utente.caricate, 1000);
     EXPECT_GT(utente.salvate, 50);
+    EXPECT_GT(utente.importi, 100);
     EXPECT_GT(utente.secondi, 8 * 3600);
 }
 

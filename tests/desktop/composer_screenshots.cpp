@@ -69,6 +69,36 @@ void ApriMelodia(Seduta& s, const QString& inizio, const char* nome) {
     s.Premi(QStringLiteral("cmdEseguiFile"));
 }
 
+/// The picker over the window: as it opens, and while it plays in another voice.
+void ScegliStrumenti(Seduta& s, Scrivania& scrivania) {
+    s.Premi(QStringLiteral("pictCi"));
+    AspettaFinestra(scrivania, QStringLiteral("frmStrum"));
+    s.Scatta("voices");
+    s.Premi(QStringLiteral("VoceAttiva1"));
+    s.Premi(QStringLiteral("cmdPlaySstru"));
+    Aspetta([&] { return s.Stato(QStringLiteral("cmdPlaySstru")).Caption == "Stop"; });
+    s.Respira();
+    s.Scatta("voices-playing");
+    s.Premi(QStringLiteral("cmdPlaySstru"));
+    Aspetta([&] { return s.Stato(QStringLiteral("cmdPlaySstru")).Caption == "Play"; });
+    s.Premi(QStringLiteral("cmdEsci"));
+    AspettaFinestra(scrivania, QStringLiteral("frmComposer"));
+}
+
+/// The import, from a medium that is the one the machine has.
+void Importa(Seduta& s, Scrivania& scrivania) {
+    s.Scegli("mnuCopyFromA");
+    AspettaFinestra(scrivania, QStringLiteral("frmCopyFromA"));
+    s.Respira();
+    auto& lista = s.Di("List1").Come<QListWidget>();
+    for (const int riga : {1, 2, 4})
+        if (riga < lista.count()) lista.item(riga)->setSelected(true);
+    s.Respira();
+    s.Scatta("import");
+    s.Premi(QStringLiteral("cmdChiudi"));
+    AspettaFinestra(scrivania, QStringLiteral("frmComposer"));
+}
+
 void Ferma(Seduta& s) {
     s.Premi(QStringLiteral("cmdPlay"));
     Aspetta([&] { return s.Stato(QStringLiteral("cmdPlay")).Caption == "Play"; });
@@ -105,6 +135,8 @@ void FotografaComposer(Scrivania& scrivania, const std::function<void(const QStr
     Ferma(s);
     s.Premi(QStringLiteral("cmdChiudi"));
     s.Scatta("loaded");
+    ScegliStrumenti(s, scrivania);
+    Importa(s, scrivania);
     s.Premi(QStringLiteral("VoceAttiva1"));
     s.Premi(QStringLiteral("lblTs"));
     s.Premi(QStringLiteral("lblStep1"));

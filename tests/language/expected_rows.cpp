@@ -28,8 +28,4 @@ Luoghi LuoghiDi(const RigaAttesa& riga) {
     return luoghi;
 }
 
-std::string ControlloDi(const std::string& luogo) {
-    return luogo.substr(0, luogo.find_first_of(".["));
-}
-
 }  // namespace corvana::prova

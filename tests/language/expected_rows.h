@@ -48,7 +48,5 @@ using Luoghi = std::set<std::string>;
 
 /// The targets of a row, one by one, an element of an array under its own name: "VoceAttiva1".
 Luoghi LuoghiDi(const RigaAttesa& riga);
-/// The control of a target.
-std::string ControlloDi(const std::string& luogo);
 
 }  // namespace corvana::prova

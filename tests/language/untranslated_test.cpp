@@ -7,6 +7,8 @@
 #include <fstream>
 #include <iterator>
 
+#include "composer/composer_rows.h"
+#include "composer/copy_from_a.h"
 #include "core/language.h"
 #include "metronome/conf_metro.h"
 #include "metronome/conf_metro_rows.h"
@@ -14,7 +16,6 @@
 #include "tests/program/program_rig.h"
 #include "trainer/main_rows.h"
 #include "utilities/about.h"
-#include "utilities/instruments.h"
 #include "utilities/midi_test.h"
 #include "utilities/options.h"
 #include "utilities/utility_rows.h"
@@ -40,18 +41,6 @@ const Luoghi dellaTavola = {"Do",    "Re",    "Mi",    "Fa",    "Sol",     "La",
                             "(C)",   "(D)",   "(E)",   "(F)",   "(G)",     "(A)",   "(B)",
                             "2 Dim", "3 Dim", "4 Dim", "5 Dim", "6 Dim",   "7 Dim", "8 Dim",
                             "2 Min", "3 Min", "6 Min", "7 Min", "N° Acc.", "Semit."};
-
-/// Of the instrument picker: the letters of the voices, and what the melody window's texts replace
-/// when it opens the picker.
-const Luoghi delleVoci = {"S",
-                          "C",
-                          "T",
-                          "B",
-                          "Play",
-                          " Soprano ",
-                          "Clicca per inserire il contralto",
-                          "Clicca per inserire il tenore",
-                          "Clicca per inserire il basso"};
 
 struct BancoInglese : BancoProgramma {
     BancoInglese() {
@@ -97,12 +86,30 @@ TEST(TestiTradotti, NothingItalianIsLeftInTheSmallWindows) {
     frmConfMetro sequenza{b.Tutto()};
     frmMidiTest prova{b.Tutto()};
     frmAbout informazioni{b.Tutto()};
-    frmStrum strumenti{b.Tutto()};
     ControllaInglese(b, sequenza, BersagliConfMetro());
     ControllaInglese(b, prova, BersagliMidiTest());
     ControllaInglese(b, informazioni, BersagliAbout());
-    // It has no rows: what it says must need none.
-    ControllaInglese(b, strumenti, {}, delleVoci);
+}
+
+/// It has no rows: what it says needs none, or comes from the main window's and the composer's.
+TEST(TestiTradotti, NothingItalianIsLeftInThePickerOverTheMelodyWindow) {
+    BancoInglese b;
+    b.file.contenuti["/programma/langit.csv"] = b.file.contenuti["/langen.csv"];
+    Luoghi testi;
+    b.Clicca(3, "mnuComposer");
+    b.Clicca(4, "mnuSs");
+    b.Quando(5, [&] { testi = TestiDi(*b.finestre.Davanti()); });
+    EXPECT_TRUE(b.Vai(6));
+    EXPECT_EQ(testi, (Luoghi{"Corvana", "O K", "Test", "Play", "S", "A", "T", "B", " Soprano ",
+                             " Alto ", " Tenor ", " Bass "}));
+}
+
+/// The word on the button that closes is one of those that have no row: a cross stands for it.
+TEST(TestiTradotti, NothingItalianIsLeftInTheImportWindow) {
+    BancoInglese b;
+    const Form composer{"frmComposer"};
+    frmCopyFromA importa{b.Tutto(), composer, [] {}};
+    ControllaInglese(b, importa, BersagliCopyFromA(), {"Chiudi"});
 }
 
 TEST(TestiTradotti, NothingItalianIsLeftInTheReferenceChart) {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "composer/composer.h"
+#include "composer/copy_from_a.h"
 #include "core/language.h"
 #include "eartrainer/into.h"
 #include "metronome/conf_metro.h"
@@ -16,9 +17,6 @@
 namespace corvana::prova {
 
 namespace {
-
-/// What the melody window hasn't yet.
-const Luoghi daFare = {"mnuCopyFromA", "mnucCopyFromA"};
 
 void Aggiungi(Luoghi& luoghi, const Controllo& controllo, const ProprietaBase& proprieta,
               const std::string& testo) {
@@ -44,10 +42,9 @@ Luoghi Leggono(const Form& finestra, const std::string& testo) {
 }
 
 /// Applies each row that the window may have, and looks what has changed.
-void ControllaRighe(Form& finestra, Globali& globali, const Luoghi& mancano = {}) {
+void ControllaRighe(Form& finestra, Globali& globali) {
     for (const RigaAttesa& riga : RigheDi(finestra.Name)) {
-        Luoghi attesi = LuoghiDi(riga);
-        std::erase_if(attesi, [&](const auto& l) { return mancano.contains(ControlloDi(l)); });
+        const Luoghi attesi = LuoghiDi(riga);
         const std::string testo = '<' + std::to_string(riga.id) + '>';
         ApplicaRiga(globali, std::to_string(riga.id), testo, finestra,
                     BersagliDiFinestra(finestra.Name));
@@ -91,20 +88,20 @@ TEST(RigheNelleFinestre, EachSetsItsControlsOfTheReferenceChartAndNoOther) {
 TEST(RigheNelleFinestre, EachSetsItsControlsOfTheMelodyWindowAndNoOther) {
     Banco b;
     frmComposer finestra{b.Tutto(), {}};
-    ControllaRighe(finestra, b.globali, daFare);
+    ControllaRighe(finestra, b.globali);
+}
+
+TEST(RigheNelleFinestre, EachSetsItsControlsOfTheImportWindowAndNoOther) {
+    Banco b;
+    const Form composer{"frmComposer"};
+    frmCopyFromA finestra{b.Tutto(), composer, [] {}};
+    ControllaRighe(finestra, b.globali);
 }
 
 TEST(RigheNelleFinestre, EachSetsItsControlsOfTheEarTrainerAndNoOther) {
     Banco b;
     frmInto finestra{b.Tutto(), {}};
     ControllaRighe(finestra, b.globali);
-}
-
-TEST(RigheNelleFinestre, TheMelodyWindowHasNoneOfTheControlsThatItIsSaidToLack) {
-    Banco b;
-    const frmComposer finestra{b.Tutto(), {}};
-    for (const std::string& nome : daFare)
-        EXPECT_EQ(finestra.Trova(nome), nullptr) << nome << " is there: take it from the list";
 }
 
 TEST(RigheNelleFinestre, TheSeparatorsOfTheRangesStay) {

@@ -119,4 +119,21 @@ TEST(ConSeparatore, AFolderEndsInOneSeparator) {
     EXPECT_EQ(ConSeparatore(""), "/");
 }
 
+TEST(NomiMelodie, AreThePartBeforeTheExtensionInTheOrderOfAListWithoutRegardToCase) {
+    EXPECT_EQ(
+        NomiMelodie({{"b.mel", false}, {"C.MEL", false}, {"a.b.c.mel", false}, {"B.Mel", false}}),
+        (std::vector<std::string>{"a.b.c", "B", "b", "C"}));
+}
+
+TEST(NomiMelodie, LeaveOutFoldersAndAllOtherFiles) {
+    EXPECT_EQ(
+        NomiMelodie({{"x.mel", true}, {"a.txt", false}, {"mel", false}, {"a.mel.bak", false}}),
+        std::vector<std::string>{});
+}
+
+TEST(NomiMelodie, FilesThatDifferInTheExtensionsCaseAreOneName) {
+    EXPECT_EQ(NomiMelodie({{"a.mel", false}, {"a.MEL", false}, {"A.mel", false}}),
+              (std::vector<std::string>{"A", "a"}));
+}
+
 }  // namespace corvana::prova

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
+#include "composer/composer.h"
 #include "core/text.h"
 #include "trainer/answer_keys.h"
+#include "utilities/instruments.h"
 
 namespace corvana::prova {
 
@@ -32,7 +34,7 @@ std::string DelComposer() {
 
 /// A fault that the composer's user has made himself: a box without a number, a full voice.
 bool DettoDalComposer(const std::string& testo) {
-    for (const char* inizio : {"composer ", "5\r", "6\r", "9\r", "13\r", "380\r"})
+    for (const char* inizio : {"composer ", "5\r", "6\r", "9\r", "13\r", "71\r", "380\r"})
         if (testo.starts_with(inizio)) return true;
     return false;
 }
@@ -76,12 +78,23 @@ void Vagabondo::Avvia() {
     banco_->file.contenuti["/programma/langit.csv"] = italiano + DellOrecchio() + DelComposer();
     banco_->file.contenuti["/programma/langen.csv"] = inglese + DellOrecchio() + DelComposer();
     if (Capita(100)) banco_->uscita.esitoOpen = 4;
+    PonSupporto();
     prima_.reset();
+    composer_ = nullptr;
     banco_->Quando(0, [this] { Passo(); });
     const bool svolta = banco_->SvolgiCopione([this] { banco_->programma.DaMainAllaFine(false); });
     if (!svolta) ControllaChiusa();
     pulsi += static_cast<int>(banco_->Pulsi().size());
     secondi += banco_->orologio.Adesso();
+}
+
+/// Nothing, a few melodies, or more than can be counted.
+void Vagabondo::PonSupporto() {
+    if (Capita(200)) return;
+    banco_->file.supportoRimovibile = "/medium/";
+    for (int i = Capita(200) ? 300 : Tra(0, 10); i > 0; --i)
+        banco_->file.contenuti["/medium/m" + std::to_string(i) + ".mel"] =
+            "60;62;64;\r\n1;1;1;\r\nn;n;n;\r\n 60 \r\n 16 \r\n";
 }
 
 double Vagabondo::Pausa() {
@@ -110,8 +123,10 @@ void Vagabondo::Agisci() {
     const Form* davanti = banco_->finestre.Davanti();
     if (!davanti) return;
     ++viste[davanti->Name];
+    if (const auto* aperto = dynamic_cast<const frmComposer*>(davanti)) composer_ = aperto;
     const bool principale = davanti == &banco_->finestra;
     if (principale && PerAbitudine()) return;
+    if (VociAlCaso(*davanti) || DalComposer(*davanti)) return;
     Evento e = GestoQualunque(*davanti);
     if (e.fatto == Fatto::Chiudi && principale && !Capita(100)) e.fatto = Fatto::Click;
     Manda(std::move(e));
@@ -133,6 +148,31 @@ bool Vagabondo::PerAbitudine() {
     } else {
         Premi(cosa);
     }
+    return true;
+}
+
+/// In the picker over the melody window he plays, stops, chooses voices and rows, and wants out.
+bool Vagabondo::VociAlCaso(const Form& davanti) {
+    const auto* picker = dynamic_cast<const frmStrum*>(&davanti);
+    if (!picker || !picker->frmVoci.Visible() || Capita(200)) return false;
+    constexpr std::array dove = {"cmdPlaySstru", "cmdPlaySstru", "cmdPlaySstru",
+                                 "VoceAttiva0",  "VoceAttiva1",  "VoceAttiva3",
+                                 "List1",        "cmdTest",      "cmdEsci"};
+    Evento e;
+    e.valore = Tra(0, 127);
+    e.controllo = davanti.Trova(dove.at(static_cast<std::size_t>(Tra(0, 8))))->Numero();
+    suonate += picker->cmdPlaySstru.Caption() == "Stop" ? 1 : 0;
+    Manda(e);
+    return true;
+}
+
+/// From the melody window he also goes where a mere chance would seldom lead him.
+bool Vagabondo::DalComposer(const Form& davanti) {
+    if (davanti.Name != "frmComposer" || !Capita(60)) return false;
+    constexpr std::array dove = {"mnuCopyFromA", "mnuSs", "cmdInsNota", "cmdInsNota"};
+    Evento e;
+    e.controllo = davanti.Trova(dove.at(static_cast<std::size_t>(Tra(0, 3))))->Numero();
+    Manda(e);
     return true;
 }
 
@@ -175,6 +215,8 @@ Evento Vagabondo::GestoQualunque(const Form& davanti) {
     e.valore = Tra(-20, 140);
     e.x = Tra(-1000, 10000);
     e.y = Tra(-1000, 5000);
+    for (int riga = Tra(0, 3); riga > 0; --riga)
+        e.scelte.push_back(Tra(-1, 12));
     e.codice = Capita(500) ? 27 : Tra(1, 255);
     e.testo = std::string(static_cast<std::size_t>(Tra(0, 20)), static_cast<char>(Tra('a', 'e')));
     if (Capita(300)) e.fatto = static_cast<Fatto>(Tra(0, static_cast<int>(Fatto::FuocoPerso)));
@@ -200,6 +242,7 @@ void Vagabondo::Controlla() {
           "the mode is unclear");
     Esigi(f.esercizio.punteggio.Rapporto >= 0 && f.esercizio.punteggio.Rapporto <= 1,
           "the bar is out of its bounds");
+    ControllaPicker();
     if (m.MetroAttivo)
         Esigi(!banco_->metronomo.cmdSetup.Enabled() && f.frmMetro.Visible(),
               "the set-up is on, or the panel gone, while it ticks");
@@ -208,6 +251,16 @@ void Vagabondo::Controlla() {
     if (!f.esercizio.InCorso && !m.MetroAttivo &&
         banco_->orologio.Adesso() > BancoProgramma::pronta)
         ControllaFermo();
+}
+
+/// The picker and the melody window say the same of what plays.
+void Vagabondo::ControllaPicker() {
+    const Form* davanti = banco_->finestre.Davanti();
+    const auto* picker = dynamic_cast<const frmStrum*>(davanti);
+    Esigi(!picker || banco_->globali.PickerAperto, "the picker is open and says that it isn't");
+    if (!picker || !picker->frmVoci.Visible() || !composer_) return;
+    Esigi((picker->cmdPlaySstru.Caption() == "Stop") == composer_->stato.inEsecuzione,
+          "the picker's word and what plays");
 }
 
 void Vagabondo::ControllaRiquadri() {

@@ -25,9 +25,10 @@ public:
     std::map<std::string, int> viste;  ///< events by the window that was in front
     int chiusure = 0;
     int pulsi = 0;
-    int corse = 0;   ///< times that he was seen in a run
-    int attese = 0;  ///< pauses in which something had to run
-    int cambi = 0;   ///< times that an automatic run was seen in normal mode
+    int corse = 0;    ///< times that he was seen in a run
+    int attese = 0;   ///< pauses in which something had to run
+    int cambi = 0;    ///< times that an automatic run was seen in normal mode
+    int suonate = 0;  ///< times that the picker was seen playing
     double secondi = 0;
 
 private:
@@ -43,10 +44,13 @@ private:
     double Pausa();
 
     void Avvia();
+    void PonSupporto();
     void Passo();
     void Agisci();
     /// Starts or goes on with a burst of the main window's commands.
     bool PerAbitudine();
+    bool VociAlCaso(const Form& davanti);
+    bool DalComposer(const Form& davanti);
     void Premi(const std::string& controllo);
     void RispondiGiusto();
     Evento GestoQualunque(const Form& davanti);
@@ -56,6 +60,7 @@ private:
     /// Notes the first thing that is wrong and ends the script.
     void Esigi(bool vero, const std::string& cosa);
     void Controlla();
+    void ControllaPicker();
     void ControllaRiquadri();
     void ControllaCorsa();
     void ControllaFermo();
@@ -69,6 +74,7 @@ private:
     int rimasti_;
     int raffica_ = 0;  ///< commands left of a burst
     std::optional<Avanzamento> prima_;
+    const frmComposer* composer_ = nullptr;  ///< the melody window that he saw last
     CasualeFisso chance_;
     std::unique_ptr<BancoProgramma> banco_;
 };

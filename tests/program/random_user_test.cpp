@@ -12,13 +12,14 @@ TEST(Vagabondo, OpensAndClosesEveryWindowAndNothingFails) {
     utente.Vivi();
     EXPECT_EQ(utente.guasto, "") << "seed " << Seme();
     // He did reach what he was to try.
-    for (const char* nome : {"CorvanaMainF", "frmInto", "frmComposer", "frmConfMetro", "frmOptions",
-                             "frmStrum", "frmMidiTest", "frmAbout"})
+    for (const char* nome : {"CorvanaMainF", "frmInto", "frmComposer", "frmCopyFromA",
+                             "frmConfMetro", "frmOptions", "frmStrum", "frmMidiTest", "frmAbout"})
         EXPECT_GT(utente.viste[nome], 200) << nome;
     EXPECT_GT(utente.chiusure, 5);
     EXPECT_GT(utente.pulsi, 1000);
     EXPECT_GT(utente.corse, 1000);
     EXPECT_GT(utente.attese, 100);
+    EXPECT_GT(utente.suonate, 100);
     EXPECT_GT(utente.cambi, 10);
     EXPECT_GT(utente.secondi, 24 * 3600);
 }

@@ -11,7 +11,7 @@
 
 namespace corvana::prova {
 
-class FileInMemoria final : public ArchivioFile {
+class FileInMemoria : public ArchivioFile {
 public:
     std::map<std::string, std::string> contenuti;
     int erroreLeggi = 0;   ///< errno of every read, 0 for none
