@@ -60,6 +60,9 @@ public:
     int Rinomina(const std::string& p, const std::string& n) override {
         return comune_->file.Rinomina(p, n);
     }
+    int RinominaSeLibero(const std::string& p, const std::string& n) override {
+        return comune_->file.RinominaSeLibero(p, n);
+    }
     int CreaCartella(const std::string& p) override { return comune_->file.CreaCartella(p); }
     int Elimina(const std::string& p) override { return comune_->file.Elimina(p); }
     int EliminaCartella(const std::string& p) override { return comune_->file.EliminaCartella(p); }
