@@ -24,6 +24,11 @@ install(FILES ${desktop}/org.corvana.Corvana.metainfo.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES ${desktop}/org.corvana.Corvana.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+# The type of a melody's file, and its picture under the type's name.
+install(FILES ${desktop}/org.corvana.Corvana.mime.xml
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages RENAME org.corvana.Corvana.xml)
+install(FILES ${desktop}/application-x-corvana-melody.svg
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/mimetypes)
 
 # Debian wants its pages and changes compressed, the same to the byte at each build.
 set(packed ${PROJECT_BINARY_DIR}/packed)

@@ -8,7 +8,7 @@ screen_packages=(xvfb openbox xdotool scrot)
 test_packages=("${run_packages[@]}" libgtest-dev librapidcheck-dev locales pulseaudio
     pulseaudio-utils jackd2 dbus-daemon xvfb openbox xdotool)
 lint_packages=(clang-format clang-tidy clang libclang-rt-14-dev cppcheck)
-package_packages=(dpkg-dev file man-db lintian appstream desktop-file-utils)
+package_packages=(dpkg-dev file man-db lintian appstream desktop-file-utils shared-mime-info libxml2-utils)
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
