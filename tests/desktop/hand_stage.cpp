@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMessageBox>
 #include <QSlider>
 #include <QTest>
 #include <QWindow>
@@ -48,8 +49,8 @@ int UscitaAscoltata::midiOutShortMsg(HandleDispositivo handle, std::uint32_t mes
     return resa_.midiOutShortMsg(handle, messaggio);
 }
 
-PalcoAMano::PalcoAMano(const std::string& cartella)
-    : PalcoProgramma(QStringLiteral(CORVANA_DATA), [this, &cartella](Macchina& macchina) {
+PalcoAMano::PalcoAMano(const std::string& cartella, const std::function<void(Macchina&)>& prepara)
+    : PalcoProgramma(QStringLiteral(CORVANA_DATA), [this, &cartella, &prepara](Macchina& macchina) {
           macchina.orologio = &orologio;
           macchina.percorsoImpostazioni = stato.filePath(QStringLiteral("mine")).toStdString();
           macchina.uscite = [this](std::function<double()> istante) {
@@ -62,6 +63,7 @@ PalcoAMano::PalcoAMano(const std::string& cartella)
           Impostazioni impostazioni(file, nessuno, macchina.percorsoImpostazioni);
           impostazioni.Prepara();
           impostazioni.ScriviValore("LastDir", cartella);
+          if (prepara) prepara(macchina);
       }) {}
 
 const std::string& PalcoAMano::Dice(const std::string& nome) {
@@ -141,17 +143,31 @@ void PalcoAMano::Trascina(const std::string& barra, const std::string& casella,
     Calma();
 }
 
-void PalcoAMano::Rispondi(const std::string& testo) {
+QDialog& PalcoAMano::RiquadroAperto() {
     if (!Aspetta([this] { return scrivania.Riquadro() && scrivania.Riquadro()->isVisible(); }))
         throw std::logic_error("no box came");
-    auto* riga = scrivania.Riquadro()->findChild<QLineEdit*>();
+    return *scrivania.Riquadro();
+}
+
+/// As the window manager does when a box closes.
+void PalcoAMano::DopoIlRiquadro() {
+    Calma();
+    scrivania.Davanti()->Finestra().activateWindow();
+    Calma();
+}
+
+void PalcoAMano::Rispondi(const std::string& testo) {
+    auto* riga = RiquadroAperto().findChild<QLineEdit*>();
     riga->selectAll();
     QTest::keyClicks(riga, QString::fromStdString(testo));
     QTest::keyClick(riga, Qt::Key_Return);
-    Calma();
-    // As the window manager does when a box closes.
-    scrivania.Davanti()->Finestra().activateWindow();
-    Calma();
+    DopoIlRiquadro();
+}
+
+void PalcoAMano::Rispondi(bool si) {
+    auto& domanda = dynamic_cast<QMessageBox&>(RiquadroAperto());
+    QTest::mouseClick(domanda.button(si ? QMessageBox::Yes : QMessageBox::No), Qt::LeftButton);
+    DopoIlRiquadro();
 }
 
 void PalcoAMano::Prosegui() {

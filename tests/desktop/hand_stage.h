@@ -67,8 +67,9 @@ struct ArnesiAMano {
 
 class PalcoAMano : protected ArnesiAMano, public PalcoProgramma {
 public:
-    /// Melodies are opened in, and saved into, `cartella`.
-    explicit PalcoAMano(const std::string& cartella);
+    /// Melodies are opened in, and saved into, `cartella`. `prepara` may change the machine.
+    explicit PalcoAMano(const std::string& cartella,
+                        const std::function<void(Macchina&)>& prepara = {});
     PalcoAMano(const PalcoAMano&) = delete;
     PalcoAMano& operator=(const PalcoAMano&) = delete;
     ~PalcoAMano() { scrivania.Termina(); }
@@ -90,6 +91,8 @@ public:
     void Trascina(const std::string& barra, const std::string& casella, const std::string& finche);
     /// Types into the box that asks for a text, and Enter.
     void Rispondi(const std::string& testo);
+    /// Answers the question that is up with Yes or No.
+    void Rispondi(bool si);
 
     /// Plays, by a click on the button, and returns when the play is over, what it sent and how it
     /// sounds.
@@ -106,6 +109,8 @@ public:
     void Prosegui();
 
 private:
+    QDialog& RiquadroAperto();
+    void DopoIlRiquadro();
     bool Fermo();
 };
 
