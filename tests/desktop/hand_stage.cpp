@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSlider>
 #include <QTest>
 #include <QWindow>
@@ -164,7 +165,7 @@ void PalcoAMano::Rispondi(const std::string& testo) {
     DopoIlRiquadro();
 }
 
-void PalcoAMano::Rispondi(bool si) {
+void PalcoAMano::Decidi(bool si) {
     auto& domanda = dynamic_cast<QMessageBox&>(RiquadroAperto());
     QTest::mouseClick(domanda.button(si ? QMessageBox::Yes : QMessageBox::No), Qt::LeftButton);
     DopoIlRiquadro();

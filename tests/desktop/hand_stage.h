@@ -92,7 +92,7 @@ public:
     /// Types into the box that asks for a text, and Enter.
     void Rispondi(const std::string& testo);
     /// Answers the question that is up with Yes or No.
-    void Rispondi(bool si);
+    void Decidi(bool si);
 
     /// Plays, by a click on the button, and returns when the play is over, what it sent and how it
     /// sounds.

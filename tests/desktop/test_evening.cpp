@@ -7,24 +7,14 @@
 #include <filesystem>
 #include <map>
 
-#include "core/real_files.h"
 #include "tests/core/temporary_folder.h"
 #include "tests/desktop/melody_hand.h"
+#include "tests/support/medium_on_disk.h"
 
 namespace corvana::prova {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// The machine's disks, with a folder of them that stands for a removable medium.
-class DischiESupporto final : public FileReali {
-public:
-    explicit DischiESupporto(std::string supporto) : supporto_(std::move(supporto)) {}
-    std::vector<std::string> Supporti() override { return {supporto_}; }
-
-private:
-    std::string supporto_;
-};
 
 std::map<std::string, std::string> FileIn(const std::string& cartella) {
     std::map<std::string, std::string> contenuti;
@@ -38,17 +28,18 @@ struct Casa {
         for (const char* nome : {"melodie", "penna"})
             fs::create_directory(cartella.Di(nome));
         for (const char* nome : {"uno", "due", "tre", "quattro", "cinque"})
-            FileReali().ScriviAtomico(cartella.Di(std::string("penna/") + nome + ".mel"),
-                                      std::string("not read, only copied: ") + nome);
+            dischi.ScriviAtomico(cartella.Di(std::string("penna/") + nome + ".mel"),
+                                 std::string("not read, only copied: ") + nome);
     }
     void Prepara(Macchina& macchina) {
+        dischi.supporti = {cartella.Di("penna/")};
         macchina.file = &dischi;
         macchina.percorsoRecupero = cartella.Di("stato/non-salvata");
     }
     std::string DellaSera() const { return cartella.Di("melodie/Serata"); }
 
     CartellaProvvisoria cartella;
-    DischiESupporto dischi{cartella.Di("penna/")};
+    FileConSupporto dischi;
 };
 
 struct Serata : Casa, PalcoMelodia {
@@ -90,10 +81,10 @@ struct Serata : Casa, PalcoMelodia {
         SalvaConNome("quarta");
         ToccaRiga("quarta");
         Tocca("cmdDelete");
-        Rispondi(false);
+        Decidi(false);
         EXPECT_TRUE(fs::exists(DellaSera() + "/quarta.mel"));
         Tocca("cmdDelete");
-        Rispondi(true);
+        Decidi(true);
     }
     void Importa() {
         TrovaVoce(scrivania, QStringLiteral("mnuCopyFromA")).trigger();
@@ -112,10 +103,10 @@ struct Serata : Casa, PalcoMelodia {
         Tocca("cmdChiudi");
         Tocca("cmdInsNota");
         Tocca("cmdCm");
-        Rispondi(false);
+        Decidi(false);
         EXPECT_TRUE(Di("lblModificato").isVisible());
         Tocca("cmdCm");
-        Rispondi(true);
+        Decidi(true);
         AspettaFinestra(scrivania, QStringLiteral("CorvanaMainF"));
         Calma();
     }
