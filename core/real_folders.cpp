@@ -1,3 +1,4 @@
+#include <dirent.h>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -5,6 +6,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <memory>
+#include <string_view>
 #include <system_error>
 
 #include "core/real_files.h"
@@ -21,6 +24,17 @@ bool Montata(const std::string& cartella) {
     struct stat sopra {};
     return stat(cartella.c_str(), &dati) == 0 && stat((cartella + "/..").c_str(), &sopra) == 0 &&
            dati.st_dev != sopra.st_dev;
+}
+
+struct ChiudiCartella {
+    void operator()(DIR* cartella) const { closedir(cartella); }
+};
+
+/// Of what a link leads to; what leads nowhere is a file, which can't be opened.
+mode_t GenereDi(int cartella, const dirent& voce) {
+    if (voce.d_type != DT_LNK && voce.d_type != DT_UNKNOWN) return DTTOIF(voce.d_type);
+    struct stat dati {};
+    return fstatat(cartella, voce.d_name, &dati, 0) == 0 ? dati.st_mode : S_IFREG;
 }
 
 std::vector<std::string> RadiciDelSistema() {
@@ -44,15 +58,18 @@ int FileReali::EliminaCartella(const std::string& percorso) {
 
 int FileReali::Elenca(const std::string& percorso, std::vector<VoceCartella>& voci) {
     voci.clear();
-    std::error_code errore;
-    for (fs::directory_iterator voce(percorso, errore), fine; !errore && voce != fine;
-         voce.increment(errore)) {
-        std::error_code illeggibile;
+    const std::unique_ptr<DIR, ChiudiCartella> cartella(opendir(percorso.c_str()));
+    if (!cartella) return errno;
+    for (;;) {
+        errno = 0;
+        const dirent* voce = readdir(cartella.get());
+        if (!voce) return errno;
+        const std::string_view nome(voce->d_name);
+        if (nome == "." || nome == "..") continue;
+        const mode_t genere = GenereDi(dirfd(cartella.get()), *voce);
         // Pipes, sockets and devices are nothing to open.
-        if (!voce->is_other(illeggibile))
-            voci.push_back({voce->path().filename().string(), voce->is_directory(illeggibile)});
+        if (S_ISDIR(genere) || S_ISREG(genere)) voci.push_back({voce->d_name, S_ISDIR(genere)});
     }
-    return errore.value();
 }
 
 std::vector<std::string> FileReali::Supporti() {
