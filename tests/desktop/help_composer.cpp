@@ -59,7 +59,9 @@ void SuonaLeFile(Fotografo& f) {
 void Apri(Fotografo& f, const QString& inizio) {
     f.Scegli("mnuApri");
     auto& lista = f.Di("List1").Come<QListWidget>();
-    Deve(Aspetta([&] { return lista.count() > 1; }));
+    // The rows of the last time show until they are read anew, with none of them chosen.
+    Deve(Aspetta(
+        [&] { return f.Di("Fr2").isVisible() && lista.currentRow() < 0 && lista.count() > 1; }));
     lista.setCurrentItem(lista.findItems(inizio, Qt::MatchStartsWith).at(0));
     f.Premi("cmdEseguiFile");
     AspettaScritta(f, "cmdPlay", "Stop");
