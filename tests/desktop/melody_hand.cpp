@@ -82,8 +82,8 @@ void PalcoMelodia::Apri(const std::string& nome) {
     Tocca("cmdEseguiFile");
 }
 
-QListWidget& PalcoMelodia::Elenco() {
-    return Di("List1").Come<QListWidget>();
+QListWidget& PalcoMelodia::Elenco(const std::string& lista) {
+    return Di(lista).Come<QListWidget>();
 }
 
 std::vector<std::string> PalcoMelodia::Righe() {
@@ -93,12 +93,12 @@ std::vector<std::string> PalcoMelodia::Righe() {
     return righe;
 }
 
-QPoint PalcoMelodia::PostoRiga(const std::string& riga) {
-    QListWidget& lista = Elenco();
-    const auto trovate = lista.findItems(QString::fromStdString(riga), Qt::MatchExactly);
+QPoint PalcoMelodia::PostoRiga(const std::string& riga, const std::string& lista) {
+    QListWidget& elenco = Elenco(lista);
+    const auto trovate = elenco.findItems(QString::fromStdString(riga), Qt::MatchExactly);
     if (trovate.size() != 1) throw std::logic_error("the list has no one row " + riga);
-    lista.scrollToItem(trovate.front());
-    return lista.visualItemRect(trovate.front()).center();
+    elenco.scrollToItem(trovate.front());
+    return elenco.visualItemRect(trovate.front()).center();
 }
 
 void PalcoMelodia::ToccaRiga(const std::string& riga, Qt::KeyboardModifiers modificatori) {
@@ -106,11 +106,11 @@ void PalcoMelodia::ToccaRiga(const std::string& riga, Qt::KeyboardModifiers modi
     Calma();
 }
 
-void PalcoMelodia::ToccaRigaDueVolte(const std::string& riga) {
-    const Cosa lista = Di("List1");
-    const QPoint dove = Elenco().viewport()->mapTo(&Elenco(), PostoRiga(riga));
-    QTest::mouseDClick(lista.window()->windowHandle(), Qt::LeftButton, {},
-                       lista.NellaFinestra(dove));
+void PalcoMelodia::ToccaRigaDueVolte(const std::string& riga, const std::string& lista) {
+    const Cosa dove = Di(lista);
+    const QPoint posto = Elenco(lista).viewport()->mapTo(&Elenco(lista), PostoRiga(riga, lista));
+    QTest::mouseDClick(dove.window()->windowHandle(), Qt::LeftButton, {},
+                       dove.NellaFinestra(posto));
     Calma();
 }
 

@@ -35,11 +35,11 @@ public:
     std::vector<std::string> Righe();
     /// Clicks the row that reads so; throws when there is none.
     void ToccaRiga(const std::string& riga, Qt::KeyboardModifiers modificatori = {});
-    void ToccaRigaDueVolte(const std::string& riga);
+    void ToccaRigaDueVolte(const std::string& riga, const std::string& lista = "List1");
 
 private:
-    QListWidget& Elenco();
-    QPoint PostoRiga(const std::string& riga);
+    QListWidget& Elenco(const std::string& lista = "List1");
+    QPoint PostoRiga(const std::string& riga, const std::string& lista = "List1");
 };
 
 }  // namespace corvana::prova
