@@ -102,7 +102,7 @@ void ScriviTratto(BancoAMano& b, ModelloEditor& m) {
 }
 
 void Altro(BancoAMano& b, ModelloEditor& m) {
-    switch (Tra(0, 12)) {
+    switch (Tra(0, 8)) {
         case 0: return PonTratto(b, m);
         case 1:
             if (Offerto(b, "cmdNpp")) m.passoAperto = false;
@@ -118,24 +118,27 @@ void Altro(BancoAMano& b, ModelloEditor& m) {
             b.Tocca("VoceAttiva" + std::to_string(voce));
             return m.ScegliVoce(static_cast<std::size_t>(voce));
         }
-        case 6:
-        case 7: return Incolla(b, m);
-        case 8:
-        case 9: return ScriviTratto(b, m);
-        case 10:
-            b.Tocca("lblIncolla");
-            m.attendeIncolla = false;
-            return;
         default:
             if (Offerto(b, "cmdCanc")) m.Taglia();
             return b.Tocca("cmdCanc");
     }
 }
 
+void UsaTratti(BancoAMano& b, ModelloEditor& m) {
+    switch (Tra(0, 4)) {
+        case 0:
+            b.Tocca("lblIncolla");
+            m.attendeIncolla = false;
+            return;
+        case 1: return Incolla(b, m);
+        default: return ScriviTratto(b, m);
+    }
+}
+
 }  // namespace
 
 void GestoACaso(BancoAMano& banco, ModelloEditor& modello) {
-    switch (Tra(0, 9)) {
+    switch (Tra(0, 10)) {
         case 0:
         case 1: return Scegli(banco, modello);
         case 2:
@@ -144,6 +147,7 @@ void GestoACaso(BancoAMano& banco, ModelloEditor& modello) {
         case 5: return ScegliAttrezzi(banco, modello);
         case 6: return Ritocca(banco, modello);
         case 7: return Altro(banco, modello);
+        case 8: return UsaTratti(banco, modello);
         default: {
             const int verso = Tra(0, 1);
             banco.Passo(verso);
