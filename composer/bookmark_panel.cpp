@@ -68,7 +68,6 @@ void PannelloRiferimenti::EseguiRiferimento() {
     const std::int16_t prima = scelto.PrimaNota(), ultima = scelto.UltimaNota();
     soprano_.primaNota = prima;
     soprano_.ultimaNota = ultima;
-    stato_.passo.modoPasso = false;
     voci_.lblNini.Text = std::to_string(prima + 1);
     voci_.lblNfine.Text = std::to_string(ultima + 1);
     vicine_.scegliVoce(static_cast<int>(soprano));
