@@ -22,6 +22,7 @@ constexpr double sopraIlGambo = -4.3;
 constexpr double spazioFigura = 8;
 constexpr double raggioFigura = 7, spessoreAccesa = 2.5, altezzaLampada = 5;
 constexpr double postoLampada = 17, raggioLampada = 8;
+constexpr double larghezzaLampada = 52;  ///< from which a lamp has room beside the name
 
 QPainterPath Tratteggio(const QPainterPath& linea, double spessore) {
     QPainterPathStroker penna;
@@ -143,6 +144,30 @@ void DipingiTraccia(QPainter& p, const QRectF& area, const QString& nome, double
     p.restore();
 }
 
+/// A lamp beside the name. Returns the place that is left for it.
+QRectF DipingiLampada(QPainter& p, const QRectF& area, const QColor& luce, double scala,
+                      bool attiva) {
+    const QPointF lampada(area.right() - postoLampada * scala, area.center().y());
+    const double raggio = raggioLampada * scala;
+    p.setPen(QPen(PiuScura(luce, attiva ? 0.6 : 0.25), 2 * scala));
+    p.setBrush(attiva ? QBrush(luce) : QBrush(Qt::NoBrush));
+    p.drawEllipse(lampada, attiva ? raggio : raggio * 0.62, attiva ? raggio : raggio * 0.62);
+    if (attiva) DipingiSegno(p, lampada, true, tinta::inchiostro, 0.85 * scala);
+    return area.adjusted(0, 0, -2 * postoLampada * scala + 8 * scala, 0);
+}
+
+/// Where there is no room beside the name, a strip beneath it: a broad one, or a mere line.
+QRectF DipingiLuceBassa(QPainter& p, const QRectF& area, const QColor& luce, double scala,
+                        bool attiva) {
+    const double lunga = (attiva ? 0.62 : 0.3) * area.width(), alta = (attiva ? 4 : 2) * scala;
+    QRectF striscia(0, 0, lunga, alta);
+    striscia.moveCenter({area.center().x(), area.bottom() - 6 * scala});
+    p.setPen(Qt::NoPen);
+    p.setBrush(PiuScura(luce, attiva ? 0.6 : 0.25));
+    p.drawRoundedRect(striscia, alta / 2, alta / 2);
+    return area.adjusted(0, 0, 0, -6 * scala);
+}
+
 }  // namespace
 
 QPainterPath TracciaFigura(const QString& nome) {
@@ -176,17 +201,14 @@ void DipingiVoceAttiva(QPainter& p, const QRectF& area, const Aspetto& a, double
     p.setBrush(SulFondo(attiva ? PiuChiara(luce, 0.72) : tinta::bottone, tocco));
     p.drawRoundedRect(area.adjusted(mezzo, mezzo, -mezzo, -mezzo), raggioFigura * scala,
                       raggioFigura * scala);
-    const QPointF lampada(area.right() - postoLampada * scala, area.center().y());
-    const double raggio = raggioLampada * scala;
-    p.setPen(QPen(PiuScura(luce, attiva ? 0.6 : 0.25), 2 * scala));
-    p.setBrush(attiva ? QBrush(luce) : QBrush(Qt::NoBrush));
-    p.drawEllipse(lampada, attiva ? raggio : raggio * 0.62, attiva ? raggio : raggio * 0.62);
-    if (attiva) DipingiSegno(p, lampada, true, tinta::inchiostro, 0.85 * scala);
+    const bool stretta = area.width() < larghezzaLampada * scala;
+    const QRectF posto = stretta ? DipingiLuceBassa(p, area, luce, scala, attiva)
+                                 : DipingiLampada(p, area, luce, scala, attiva);
     Aspetto nome = a;
     nome.BackColor = coloreDiSistema;
-    nome.stile = {QStringLiteral("nome"), QStringLiteral("centro"), QStringLiteral("mezzo")};
-    DipingiTesto(p, area.adjusted(0, 0, -2 * postoLampada * scala + 8 * scala, 0), nome, scala,
-                 tocco.abilitato);
+    nome.stile = {stretta ? QStringLiteral("titolo") : QStringLiteral("nome"),
+                  QStringLiteral("centro"), QStringLiteral("mezzo")};
+    DipingiTesto(p, posto, nome, scala, tocco.abilitato);
     if (tocco.fuoco) DipingiAnello(p, area, scala);
 }
 

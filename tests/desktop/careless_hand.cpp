@@ -3,9 +3,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
-#include <QDirIterator>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
@@ -16,33 +14,13 @@
 
 #include "desktop/painted_view.h"
 #include "forms/fault.h"
+#include "tests/desktop/memory_home.h"
 
 namespace corvana::prova {
 
 namespace {
 
 constexpr qint64 pazienza = 60'000;  ///< milliseconds, to end a hang
-
-/// What the program finds in its own folder, as files in memory.
-void PrendiDati(FileInMemoria& file, const QString& dati) {
-    for (QDirIterator trovati(dati, {QStringLiteral("*.csv"), QStringLiteral("*.mel")}, QDir::Files,
-                              QDirIterator::Subdirectories);
-         trovati.hasNext();) {
-        QFile uno(trovati.next());
-        if (uno.open(QIODevice::ReadOnly))
-            file.contenuti[uno.fileName().toStdString()] = uno.readAll().toStdString();
-    }
-    file.CreaCartella((dati + QStringLiteral("/Melodie/Demo")).toStdString());
-}
-
-void DaiCasa(FileInMemoria& file, Macchina& macchina) {
-    macchina.cartellaUtente = "/casa/";
-    macchina.cartellaDocumenti = "/casa/Documenti/";
-    file.CreaCartella("/casa/Documenti");
-    file.supportoRimovibile = "/media/penna/";
-    file.CreaCartella("/media/penna");
-    file.contenuti["/media/penna/gita.mel"] = "60;62;\r\n1;1;\r\nn;n;\r\n 90 \r\n 19 \r\n";
-}
 
 constexpr std::array tasti = {
     Qt::Key_A,     Qt::Key_D,      Qt::Key_P,     Qt::Key_Q,      Qt::Key_Z,     Qt::Key_2,
@@ -61,9 +39,7 @@ struct ManoDistratta::Sera {
     Sera()
         : palco(QStringLiteral(CORVANA_DATA), [this](Macchina& macchina) {
               macchina.orologio = &orologio;
-              macchina.file = &file;
-              PrendiDati(file, QStringLiteral(CORVANA_DATA));
-              DaiCasa(file, macchina);
+              DaiCasa(file, macchina, QStringLiteral(CORVANA_DATA));
           }) {}
 
     OrologioADosi orologio;

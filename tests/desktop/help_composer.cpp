@@ -92,6 +92,30 @@ void ScegliVoce(Fotografo& f) {
     f.Scatta("composer-transpose", "Label5", "lblIDs1");
 }
 
+/// The picker for a voice, whose melody plays from there.
+void ScegliStrumento(Fotografo& f) {
+    f.Premi("pictCi");
+    f.Attendi("frmStrum");
+    f.Premi("VoceAttiva1");
+    Deve(Aspetta([&] { return f.Stato("VoceAttiva1").BackColor == Rgb(0, 255, 0); }));
+    f.Scatta("voice-instruments");
+    f.Premi("cmdEsci");
+    f.Attendi("frmComposer");
+}
+
+/// The melodies of a medium, two of them selected.
+void Importa(Fotografo& f) {
+    f.Scegli("mnuCopyFromA");
+    f.Attendi("frmCopyFromA");
+    auto& lista = f.Di("List1").Come<QListWidget>();
+    Deve(Aspetta([&] { return lista.count() > 4; }));
+    for (const int riga : {1, 4})
+        lista.item(riga)->setSelected(true);
+    f.Scatta("composer-import");
+    f.Premi("cmdChiudi");
+    f.Attendi("frmComposer");
+}
+
 void Passo(Fotografo& f) {
     f.Premi("lblTs");
     Deve(Aspetta([&] { return f.Di("frMetro").isVisible(); }));
@@ -125,6 +149,8 @@ void FinestraComposizione(Fotografo& f) {
     SuonaLeFile(f);
     Suona(f);
     ScegliVoce(f);
+    ScegliStrumento(f);
+    Importa(f);
     Passo(f);
     Riferimenti(f);
     f.Chiudi();

@@ -4,6 +4,7 @@
 
 #include "tests/desktop/help_composer.h"
 #include "tests/desktop/help_drills.h"
+#include "tests/desktop/memory_home.h"
 
 namespace {
 
@@ -80,7 +81,10 @@ void Promemoria(Fotografo& f) {
 int main(int argc, char** argv) {
     Applicazione applicazione(argc, argv);
     const QTemporaryDir stato;
-    const Macchina macchina = MacchinaMuta(QString::fromLocal8Bit(argv[2]), stato);
+    Macchina macchina = MacchinaMuta(QString::fromLocal8Bit(argv[2]), stato);
+    FileInMemoria file;
+    DaiCasa(file, macchina, QString::fromLocal8Bit(argv[2]));
+    RiempiSupporto(file);
     Scrivania& scrivania = applicazione.LaScrivania();
     scrivania.Avvia([&] { LogicaDelProgramma(applicazione, macchina); });
     Fotografo f(scrivania, argv[1]);

@@ -9,6 +9,7 @@
 
 #include "tests/desktop/composer_screenshots.h"
 #include "tests/desktop/keyboard_stage.h"
+#include "tests/desktop/memory_home.h"
 #include "tests/desktop/program_stage.h"
 
 namespace {
@@ -225,7 +226,10 @@ int main(int argc, char** argv) {
     const QString cartella = QString::fromLocal8Bit(argv[1]);
     QDir().mkpath(cartella);
     const QTemporaryDir stato;
-    const Macchina macchina = MacchinaMuta(QString::fromLocal8Bit(argv[2]), stato);
+    Macchina macchina = MacchinaMuta(QString::fromLocal8Bit(argv[2]), stato);
+    FileInMemoria file;
+    DaiCasa(file, macchina, QString::fromLocal8Bit(argv[2]));
+    RiempiSupporto(file);
     Scrivania& scrivania = applicazione.LaScrivania();
     scrivania.Avvia([&] { LogicaDelProgramma(applicazione, macchina); });
     AspettaFinestra(scrivania, "CorvanaMainF");
