@@ -45,6 +45,7 @@ void CompositoreDistratto::Vivi() {
 void CompositoreDistratto::Apri() {
     banco_ = std::make_unique<Palco>();
     Palco& b = *banco_;
+    PonDisco(b);
     b.suono.ApriMidi(-1);
     b.Quando(0.1, [this] {
         PonMelodia();
@@ -97,12 +98,14 @@ void CompositoreDistratto::Agisci() {
     banco_->riquadri.risposte = {Capita(700)};
     banco_->riquadri.testi = {nomiRiferimenti.at(static_cast<std::size_t>(Tra(0, 5)))};
     const int dado = Tra(0, 99);
-    if (dado < 30)
+    if (dado < 28)
         Mouse();
-    else if (dado < 60)
+    else if (dado < 56)
         Tasto();
-    else if (dado < 85)
+    else if (dado < 79)
         Abitudine();
+    else if (dado < 88)
+        Archivio();
     else if (dado < 99)
         Qualunque();
     else
@@ -140,6 +143,14 @@ void CompositoreDistratto::Abitudine() {
     }
     Manda(e, abitudiniComposer.at(
                  static_cast<std::size_t>(Tra(0, static_cast<int>(abitudiniComposer.size()) - 1))));
+}
+
+void CompositoreDistratto::Archivio() {
+    const auto tra = [this](int basso, int alto) { return Tra(basso, alto); };
+    CambiaDisco(banco_->file, tra);
+    banco_->riquadri.testi = {NomeScritto(tra)};
+    const auto [controllo, gesto] = GestoDiArchivio(tra);
+    Manda(gesto, controllo);
 }
 
 void CompositoreDistratto::Qualunque() {
@@ -189,12 +200,27 @@ void CompositoreDistratto::Controlla() {
           "the texts of a voice have parted");
     riferimenti += f.riferimenti.lstBookMark.List->size() > 2;
     incolla += f.incolla.lblIncolla.Visible();
+    ControllaArchivio();
     for (const std::string& testo : banco_->riquadri.messaggi) {
         trasporti += testo == "\n";
         Esigi(!testo.starts_with("51"), "a box: " + testo);
     }
     banco_->riquadri.messaggi.clear();
     if (banco_->uscita.NoteAccese().empty()) banco_->uscita.messaggi.clear();
+}
+
+void CompositoreDistratto::ControllaArchivio() {
+    const std::string difetto = DifettoArchivio(*banco_, banco_->finestra);
+    Esigi(difetto.empty(), difetto);
+    std::set<std::string> nomi = banco_->file.cartelle;
+    for (const auto& [nome, byte] : banco_->file.contenuti)
+        nomi.insert(nome);
+    for (const std::string& nome : nomi)
+        nati += !banco_->nomi.contains(nome);
+    for (const std::string& nome : banco_->nomi)
+        morti += !nomi.contains(nome);
+    caricate += !banco_->finestra.stato.melodia.nomeMelodia.empty();
+    banco_->nomi = std::move(nomi);
 }
 
 /// He holds nothing, and nothing goes on by itself but a play.

@@ -6,7 +6,9 @@
 #include <memory>
 #include <optional>
 #include <random>
+#include <set>
 
+#include "tests/composer/careless_files.h"
 #include "tests/composer/composer_rig.h"
 
 namespace corvana::prova {
@@ -25,12 +27,17 @@ public:
     int trasporti = 0;    ///< transpositions that were refused
     int riferimenti = 0;  ///< times that two bookmarks of his were seen
     int incolla = 0;      ///< times that a paste was seen waiting
-    double secondi = 0;   ///< virtual time that passed
-    std::string guasto;   ///< what was wrong, empty for nothing
+    int nati = 0;         ///< files and folders that came, and that went
+    int morti = 0;
+    int caricate = 0;    ///< times that a melody was seen with a name
+    double secondi = 0;  ///< virtual time that passed
+    std::string guasto;  ///< what was wrong, empty for nothing
 
 private:
     struct Palco : Banco {
         frmComposer finestra{Tutto(), {[] { return ""; }, [] { return ""; }, {}}};
+        /// The names of files and folders when they were last looked at.
+        std::set<std::string> nomi;
     };
 
     int Tra(int basso, int alto) { return std::uniform_int_distribution(basso, alto)(generatore_); }
@@ -45,6 +52,7 @@ private:
     void Mouse();
     void Tasto();
     void Abitudine();
+    void Archivio();
     void Qualunque();
     /// Lets go of all that he holds and waits for longer than anything goes on by itself.
     void Quieto();
@@ -52,6 +60,7 @@ private:
 
     void Esigi(bool vero, const std::string& cosa);
     void Controlla();
+    void ControllaArchivio();
     void ControllaQuieto();
     void ControllaChiusa();
 

@@ -20,6 +20,9 @@ TEST(CompositoreDistratto, NoHoldOutlivesItsButtonAndClosedNothingSounds) {
     EXPECT_GT(utente.trasporti, 10);
     EXPECT_GT(utente.riferimenti, 1000);
     EXPECT_GT(utente.incolla, 1000);
+    EXPECT_GT(utente.nati, 1000);
+    EXPECT_GT(utente.morti, 50);
+    EXPECT_GT(utente.caricate, 1000);
     EXPECT_GT(utente.secondi, 8 * 3600);
 }
 
