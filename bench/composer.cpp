@@ -11,14 +11,13 @@
 #include <atomic>
 #include <chrono>
 #include <cstdio>
-#include <mutex>
 #include <thread>
 
 #include "bench/figures.h"
+#include "bench/listener.h"
 #include "bench/long_voices.h"
 #include "bench/painted.h"
 #include "bench/process_figures.h"
-#include "bench/spy.h"
 #include "composer/play_panel.h"
 #include "core/real_files.h"
 #include "core/settings.h"
@@ -45,38 +44,6 @@ struct Brano {
 
 const std::array brani = {Brano{"mixed durations at 120", misura::stileMisto, 120},
                           Brano{"short durations at 250", misura::stileFitto, tempoMassimo}};
-
-/// What the logic's thread tells of the notes.
-class Ascolto {
-public:
-    void Senti(std::uint32_t messaggio, double istante) {
-        constexpr std::uint32_t notaAccesa = 0x90;
-        const bool spenta = messaggio >> 16 == 0;  // the velocity
-        if ((messaggio & 0xF0) != notaAccesa || spenta) return;
-        const double ora = orologio_.Adesso();
-        const std::scoped_lock blocco(blocco_);
-        ritardi_.push_back((ora - istante) * 1e3);
-        accesa_ = ora;
-    }
-    /// Milliseconds that the notes begun since the last call were late.
-    std::vector<double> Ritardi() {
-        const std::scoped_lock blocco(blocco_);
-        return std::exchange(ritardi_, {});
-    }
-    std::atomic<double>& Accesa() { return accesa_; }  ///< when the last note began
-
-private:
-    std::mutex blocco_;
-    std::vector<double> ritardi_;
-    std::atomic<double> accesa_{0};
-    OrologioReale orologio_;
-};
-
-std::unique_ptr<misura::Spia> Spiata(std::function<double()> istante, Ascolto& ascolto) {
-    return std::make_unique<misura::Spia>(std::move(istante), [&](auto messaggio, double quando) {
-        ascolto.Senti(messaggio, quando);
-    });
-}
 
 /// The melodies that are loaded, in a folder that the settings name as the last one used.
 class Archivio {
@@ -111,7 +78,7 @@ private:
 
 class Compositore {
 public:
-    Compositore(Scrivania& scrivania, Ascolto& ascolto, int secondi)
+    Compositore(Scrivania& scrivania, misura::Ascolto& ascolto, int secondi)
         : scrivania_(scrivania), ascolto_(ascolto), secondi_(secondi) {}
 
     void Componi() {
@@ -218,17 +185,18 @@ private:
     }
 
     Scrivania& scrivania_;
-    Ascolto& ascolto_;
+    misura::Ascolto& ascolto_;
     int secondi_;
     misura::Pitture pitture_;
     OrologioReale orologio_;
 };
 
 void SuonaSenzaFinestra(const Brano& brano, int secondi) {
-    Ascolto ascolto;
+    misura::Ascolto ascolto;
     OrologioReale orologio;
     FileInMemoria file;
-    PalcoMelodia palco(orologio, file, [&](auto istante) { return Spiata(istante, ascolto); });
+    PalcoMelodia palco(orologio, file,
+                       [&](auto istante) { return misura::Spiata(istante, ascolto); });
     double quarti = 0;
     for (const std::string_view durata : brano.stile.durate)
         quarti += std::atof(std::string(durata).c_str());
@@ -254,10 +222,10 @@ int main(int argc, char** argv) {
             SuonaSenzaFinestra(brano, secondi);
     }).join();
     const QTemporaryDir stato;
-    Ascolto ascolto;
+    misura::Ascolto ascolto;
     Macchina macchina = MacchinaMuta(QStringLiteral(CORVANA_DATA), stato);
     macchina.puntuale = PreferisciPuntualita;
-    macchina.uscite = [&](const auto& istante) { return Spiata(istante, ascolto); };
+    macchina.uscite = [&](const auto& istante) { return misura::Spiata(istante, ascolto); };
     const Archivio archivio(macchina);
     Compositore compositore(applicazione.LaScrivania(), ascolto, secondi);
     QTimer::singleShot(0, [&] { compositore.Componi(); });

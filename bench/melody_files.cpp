@@ -4,6 +4,7 @@
 
 #include "bench/figures.h"
 #include "bench/long_voices.h"
+#include "bench/row.h"
 #include "bench/stopwatch.h"
 #include "core/real_files.h"
 #include "forms/virtual_clock.h"
@@ -91,6 +92,12 @@ void MisuraSalvataggio(Banco& banco) {
                 [&] { banco.file.ScriviAtomico(banco.cartella.Di("altra.mel"), banco.byte); });
 }
 
+void MisuraSalvataggioOccupato(Banco& banco) {
+    const misura::ProgrammiOccupati occupati(true);
+    MisuraVolte("save of 4 x 32,767 notes beside busy programs", prove,
+                [&] { banco.palco.finestra.archivio.SalvaMelodia(nome); });
+}
+
 /// The last note of a voice is put behind the others, over and over.
 void MisuraInserimento(prova::PalcoMelodia& palco, long note) {
     std::vector<double> tempi;
@@ -118,6 +125,7 @@ int main() {
     std::printf("a melody file of %zu bytes\n", banco.byte.size());
     MisuraCaricamento(banco);
     MisuraSalvataggio(banco);
+    MisuraSalvataggioOccupato(banco);
     for (const long note : {1000L, noteMassime})
         MisuraInserimento(banco.palco, note);
     for (const std::string& messaggio : banco.palco.riquadri.messaggi)
