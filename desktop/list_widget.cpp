@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/key_map.h"
 #include "desktop/row_painter.h"
 #include "desktop/view.h"
 
@@ -74,6 +75,12 @@ void Elenco::RigaCambiata() {
 bool Elenco::event(QEvent* evento) {
     if (evento->type() == QEvent::Resize) Adatta();
     return QListWidget::event(evento);
+}
+
+void Elenco::keyPressEvent(QKeyEvent* tasto) {
+    if (!EInvio(tasto->key()) || !vista_.Stato().Ascolta(ascoltaDoppio))
+        return QListWidget::keyPressEvent(tasto);
+    if (currentRow() >= 0 && !tasto->isAutoRepeat()) vista_.Manda(Fatto::DblClick);
 }
 
 void Elenco::mousePressEvent(QMouseEvent* mouse) {

@@ -28,6 +28,8 @@ public:
 
 protected:
     bool event(QEvent* evento) override;
+    /// What a double click does to the chosen row, Enter does too.
+    void keyPressEvent(QKeyEvent* tasto) override;
     void mousePressEvent(QMouseEvent* mouse) override;
     void mouseReleaseEvent(QMouseEvent* mouse) override;
     void focusInEvent(QFocusEvent* evento) override;

@@ -41,6 +41,18 @@ TEST(Lista, TheArrowKeysSelect) {
     EXPECT_EQ(ListaDi(palco).currentRow(), 1);
 }
 
+TEST(Lista, EnterIsADoubleClickOnTheChosenRow) {
+    Palco palco;
+    ListaDi(palco).setFocus();
+    Batti(palco.scrivania, Qt::Key_Return);
+    EXPECT_EQ(palco.Diario(), (Righe{"giu 13", "su 13"}));
+    palco.NellaLogica([](FormDiProva& form) { form.lista.ListIndex = 3; });
+    Batti(palco.scrivania, Qt::Key_Return);
+    EXPECT_EQ(palco.Diario(), (Righe{"giu 13", "lista doppio", "su 13"}));
+    Batti(palco.scrivania, Qt::Key_Enter);
+    EXPECT_EQ(palco.Diario(), (Righe{"giu 13", "lista doppio", "su 13"}));
+}
+
 TEST(Lista, ASelectionByTheLogicIsShownAndNotToldBack) {
     Palco palco;
     palco.NellaLogica([](FormDiProva& form) { form.lista.ListIndex = 4; });
