@@ -54,6 +54,11 @@ void DipingiSceltaScheda(QPainter& p, const QRectF& area, double scala) {
     p.drawRoundedRect(riga, riga.height() / 2, riga.height() / 2);
 }
 
+/// What there is room for of a path: its end tells where one is.
+QString InFondo(const QString& percorso, const QPainter& p, double larghezza) {
+    return QFontMetricsF(p.font(), p.device()).elidedText(percorso, Qt::ElideLeft, larghezza);
+}
+
 }  // namespace
 
 void DipingiFondo(QPainter& p, const QRectF& area, const Aspetto& a, double scala,
@@ -100,9 +105,12 @@ void DipingiTesto(QPainter& p, const QRectF& area, const Aspetto& a, double scal
         InQt(a.ForeColor, a.Ha("piccolo") ? tinta::inchiostroTenue : tinta::inchiostro);
     p.setPen(abilitato ? proprio : tinta::spento);
     const double rientro = a.Ha("riquadro") ? rientroRiquadro * scala : 0;
-    p.drawText(area.adjusted(rientro, 0, -rientro, 0),
-               static_cast<int>(Allineamento(a.stile)) | Qt::TextWordWrap | Qt::TextHideMnemonic,
-               InQt(a.Caption));
+    const QRectF posto = area.adjusted(rientro, 0, -rientro, 0);
+    const int dove = static_cast<int>(Allineamento(a.stile));
+    if (a.Ha("percorso"))
+        p.drawText(posto, dove | Qt::TextSingleLine, InFondo(InQt(a.Caption), p, posto.width()));
+    else
+        p.drawText(posto, dove | Qt::TextWordWrap | Qt::TextHideMnemonic, InQt(a.Caption));
 }
 
 void DipingiTasto(QPainter& p, const QRectF& area, double scala) {

@@ -49,8 +49,9 @@ void DipingiTestoScelto(QPainter& p, const QStyleOptionComboBox& o, const Aspett
     const bool abilitata = o.state.testFlag(QStyle::State_Enabled);
     p.setPen(abilitata ? InQt(aspetto.ForeColor, tinta::inchiostro) : tinta::spento);
     const int spazio = static_cast<int>(posto.width());
+    const auto taglio = aspetto.Ha("percorso") ? Qt::ElideLeft : Qt::ElideRight;
     p.drawText(posto, Qt::AlignVCenter | Qt::AlignLeft,
-               o.fontMetrics.elidedText(o.currentText, Qt::ElideRight, spazio));
+               o.fontMetrics.elidedText(o.currentText, taglio, spazio));
 }
 
 void DipingiCasella(QPainter& p, const QRectF& area, const Aspetto& aspetto, double scala,

@@ -48,8 +48,11 @@ void ScriviRiga(QPainter& p, const QStyleOptionViewItem& o, Colore penna, double
     const QRect posto = o.rect.adjusted(rientro, 0, rientro - MargineDellaRiga(scala), 0);
     p.setPen(Scelta(o) ? tinta::suAccento : colore);
     p.setFont(o.font);
+    // A name may hold a line break, which the toolkit has made a separator of.
+    QString riga = o.text;
+    riga.replace(QChar::LineSeparator, QLatin1Char(' '));
     p.drawText(posto, Qt::AlignVCenter | Qt::AlignLeft,
-               o.fontMetrics.elidedText(o.text, Qt::ElideRight, posto.width()));
+               o.fontMetrics.elidedText(riga, Qt::ElideRight, posto.width()));
 }
 
 }  // namespace

@@ -53,6 +53,8 @@ const ParolaStile parole[] = {
     {"centro"},
     {"destra"},
     {"mezzo"},
+    // One line, of which the end is shown.
+    {"percorso"},
     // A painter draws something more.
     {"giuste"},
     {"sbagliate"},

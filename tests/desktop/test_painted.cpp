@@ -161,5 +161,19 @@ TEST(Etichetta, TheHelpButtonKeepsItsSignWhileItIsOn) {
     EXPECT_TRUE(HaColore(Fotografa(aiuto), tinta::accento));
 }
 
+/// The label as it looks when it says so.
+QImage Scritta(Palco& palco, const std::string& percorso) {
+    palco.NellaLogica([&](FormDiProva& form) { form.scritta.Caption = percorso; });
+    return Fotografa(Trova(palco.scrivania, "scritta"));
+}
+
+TEST(Etichetta, OfAPathThatIsTooLongShowsTheEndAndOfAnyTheSignsAsTheyAre) {
+    Palco palco([](FormDiProva& form) { form.scritta.stile = "percorso"; });
+    const std::string lungo(200, 'x');
+    EXPECT_NE(Scritta(palco, lungo + "/a/"), Scritta(palco, lungo + "/b/"));
+    EXPECT_EQ(Scritta(palco, "a" + lungo + "/a/"), Scritta(palco, "b" + lungo + "/a/"));
+    EXPECT_NE(Scritta(palco, "/a&b/"), Scritta(palco, "/ab/"));
+}
+
 }  // namespace
 }  // namespace corvana::prova
