@@ -63,6 +63,7 @@ void Apri(Fotografo& f, const QString& inizio) {
     Deve(Aspetta(
         [&] { return f.Di("Fr2").isVisible() && lista.currentRow() < 0 && lista.count() > 1; }));
     lista.setCurrentItem(lista.findItems(inizio, Qt::MatchStartsWith).at(0));
+    f.Scatta("composer-files", "Fr2", "Fr2");
     f.Premi("cmdEseguiFile");
     AspettaScritta(f, "cmdPlay", "Stop");
     f.Premi("cmdChiudi");
