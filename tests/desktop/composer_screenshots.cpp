@@ -59,9 +59,9 @@ void ScriviQualcosa(Seduta& s) {
 
 void ApriMelodia(Seduta& s, const QString& inizio, const char* nome) {
     s.Scegli("mnuApri");
-    Aspetta([&] { return s.Di("Fr2").isVisible(); });
     auto& lista = s.Di("List1").Come<QListWidget>();
-    Aspetta([&] { return lista.count() > 1; });
+    // The rows of the last time show until they are read anew, with none of them chosen.
+    Aspetta([&] { return s.Di("Fr2").isVisible() && lista.currentRow() < 0 && lista.count() > 1; });
     const auto righe = lista.findItems(inizio, Qt::MatchStartsWith);
     if (!righe.isEmpty()) lista.setCurrentItem(righe.front());
     s.Respira();
