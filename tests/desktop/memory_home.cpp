@@ -1,5 +1,6 @@
 #include "tests/desktop/memory_home.h"
 
+#include <QDir>
 #include <QDirIterator>
 #include <QFile>
 
@@ -24,7 +25,10 @@ void PrendiDati(FileInMemoria& file, const QString& dati) {
 }  // namespace
 
 void DaiCasa(FileInMemoria& file, Macchina& macchina, const QString& dati) {
-    PrendiDati(file, dati);
+    // In memory a path begins at the root.
+    const QString cartella = QDir(dati).absolutePath();
+    PrendiDati(file, cartella);
+    macchina.cartellaProgramma = cartella.toStdString();
     macchina.file = &file;
     macchina.cartellaUtente = "/casa/";
     macchina.cartellaDocumenti = "/casa/Documenti/";
