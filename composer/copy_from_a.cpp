@@ -7,11 +7,11 @@
 #include <optional>
 
 #include "composer/composer_rows.h"
+#include "composer/folder_steps.h"
 #include "composer/melody_files.h"
 #include "core/file_faults.h"
 #include "core/language.h"
 #include "forms/for_now.h"
-#include "melody/folder_steps.h"
 
 namespace corvana {
 

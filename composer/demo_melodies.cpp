@@ -1,6 +1,6 @@
 #include "composer/demo_melodies.h"
 
-#include "melody/folder_steps.h"
+#include "composer/folder_steps.h"
 #include "melody/names.h"
 
 namespace corvana {

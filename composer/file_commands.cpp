@@ -3,9 +3,9 @@
 #include <cerrno>
 
 #include "composer/file_panel.h"
+#include "composer/folder_steps.h"
 #include "core/file_faults.h"
 #include "core/text.h"
-#include "melody/folder_steps.h"
 #include "melody/names.h"
 
 namespace corvana {

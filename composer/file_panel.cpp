@@ -1,7 +1,7 @@
 #include "composer/file_panel.h"
 
+#include "composer/folder_steps.h"
 #include "core/text.h"
-#include "melody/folder_steps.h"
 
 namespace corvana {
 

@@ -2,8 +2,8 @@
 
 #include <array>
 
+#include "composer/folder_steps.h"
 #include "core/text.h"
-#include "melody/folder_steps.h"
 #include "tests/composer/mel_lines.h"
 
 namespace corvana::prova {

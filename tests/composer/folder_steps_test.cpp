@@ -1,5 +1,5 @@
 // The rows of a folder, what opening one leads to, and the roots.
-#include "melody/folder_steps.h"
+#include "composer/folder_steps.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "melody/folder_steps.h"
+#include "composer/folder_steps.h"
 
 #include <algorithm>
 #include <utility>
