@@ -58,7 +58,7 @@ public:
     int CreaCartella(const std::string& percorso) override {
         if (const int errore = Guasto(percorso)) return errore;
         for (std::string resto = SenzaSeparatore(percorso); !resto.empty();
-             resto.erase(std::min(resto.rfind('/'), resto.size())))
+             resto.resize(resto.find('/') != std::string::npos ? resto.rfind('/') : 0))
             cartelle.insert(resto);
         return 0;
     }
