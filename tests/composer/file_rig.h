@@ -8,6 +8,11 @@
 
 namespace corvana::prova {
 
+/// What can be wrong with a disk, and how the box that tells of it begins.
+inline const std::vector<std::pair<int, std::string>> guastiDisco = {
+    {EACCES, "13\r\n"}, {EROFS, "30\r\n"}, {ENOSPC, "61\r\n"},       {EDQUOT, "61\r\n"},
+    {EIO, "71\r\n"},    {ENOENT, "2\r\n"}, {ENAMETOOLONG, "36\r\n"}, {EPERM, "1\r\n"}};
+
 struct BancoFile : BancoComposer {
     BancoFile() {
         TestiLingua& testi = globali.testi;
