@@ -62,6 +62,7 @@ void frmComposer::RiprendiMelodia(const MelodiaTenuta& tenuta) {
     riferimenti.lstBookMark.List = tenuta.riferimenti;
     riferimenti.frBookMark.Visible = !tenuta.riferimenti.empty();
     mix.MandaStrumenti();
+    incolla.cmdPaste.Enabled = true;
     PerQuantoSiPuo([&] { play.PrendiTempo(std::to_string(tenuta.tempo)); });
     stato.lblModificato.Visible = true;
 }

@@ -92,6 +92,13 @@ TEST(MelodiaRipresa, ItPlaysAndIsEditedAsItWas) {
     EXPECT_EQ(b.Testi()[0], "60;62;64;60;");
 }
 
+TEST(MelodiaRipresa, ARangeOfItCanBePastedAtOnce) {
+    BancoRipreso b(Rimasta());
+    b.Tocca("cmdPaste");
+    b.Tocca("cmdPaste");
+    EXPECT_EQ(b.Testi()[0], "60;62;64;60;62;64;");
+}
+
 TEST(MelodiaRipresa, ItsInstrumentsAreSentAndShown) {
     BancoRipreso b(Rimasta());
     const auto mandati = b.Programmi();
