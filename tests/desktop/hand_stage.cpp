@@ -89,6 +89,7 @@ void PalcoAMano::Calma() {
         QCoreApplication::processEvents();
         if (limite.elapsed() > pazienza) throw std::logic_error("the program never comes to rest");
     }
+    if (dopo) dopo();
 }
 
 void PalcoAMano::Tocca(const std::string& nome) {

@@ -78,6 +78,7 @@ public:
     const std::string& Dice(const std::string& nome);
     /// Returns when the program has done all that it was told to, and shows it.
     void Calma();
+    std::function<void()> dopo;  ///< called then; may be empty
     void Tocca(const std::string& nome);
     /// At a place, in pixels of the control.
     void Tocca(const std::string& nome, QPoint dove);
