@@ -57,10 +57,14 @@ void frmComposer::Form_MouseDown(int Button) {
 }
 
 void frmComposer::mnuSs_Click() {
-    if (!stato.inEsecuzione && vicine_.frmStrum) vicine_.frmStrum();
+    if (stato.inEsecuzione) return;
+    // The releases of what is held will be that window's.
+    tasti.LasciaPiano();
+    if (vicine_.frmStrum) vicine_.frmStrum();
 }
 
 void frmComposer::mnuCopyFromA_Click() {
+    tasti.LasciaPiano();
     frmCopyFromA finestra(a_, *this, [this] { archivio.ListaFD(); });
     a_.finestre.MostraModale(finestra);
 }

@@ -31,6 +31,10 @@ void PannelloTasti::EsaminaPiano() {
     piano_.Esamina(a_.finestre.Tasti(), baseTastiera, a_.suono, MostraPiano());
 }
 
+void PannelloTasti::LasciaPiano() {
+    piano_.Esamina({}, baseTastiera, a_.suono, MostraPiano());
+}
+
 void PannelloTasti::PremiPiano(int codice) {
     piano_.Premi(codice, baseTastiera, a_.suono, MostraPiano());
 }

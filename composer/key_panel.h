@@ -35,6 +35,8 @@ public:
     /// A key of the piano that comes as an event; any other does nothing.
     void PremiPiano(int codice);
     void LasciaPiano(int codice);
+    /// No key of the piano is held any more.
+    void LasciaPiano();
     /// Raises the piano on the computer's keyboard by an octave, or brings it back to the lowest.
     void CambiaBase();
 

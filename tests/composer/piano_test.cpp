@@ -78,4 +78,16 @@ TEST(PianoDaTastiera, WithTheTieLitAPlayedKeySoundsAndTheActiveNoteStays) {
     EXPECT_EQ(b.inserimento.notaAttiva, 60);
 }
 
+TEST(PianoDaTastiera, AWindowThatOpensOverTheMelodyWindowTakesTheFingersOffIt) {
+    for (const char* voce : {"mnuCopyFromA", "mnuSs"}) {
+        BancoPiano b;
+        b.Passo('P', true);
+        b.Passo('L', true);
+        ASSERT_EQ(b.uscita.NoteAccese().size(), 2U);
+        b.Fine(b.pompa.Adesso() + 1);
+        b.SvolgiCopione([&] { b.Subito(Fatto::Click, voce); });
+        EXPECT_TRUE(b.uscita.NoteAccese().empty()) << voce;
+    }
+}
+
 }  // namespace corvana::prova
