@@ -16,9 +16,7 @@ using Avvisi = std::vector<std::string>;
 /// While it lives the disk lets this process do what it lets anybody do, and no more.
 class Chiunque {
 public:
-    Chiunque() {
-        EXPECT_EQ(seteuid(era_ == 0 ? nessuno : era_), 0);
-    }
+    Chiunque() { EXPECT_EQ(seteuid(era_ == 0 ? nessuno : era_), 0); }
     Chiunque(const Chiunque&) = delete;
     Chiunque& operator=(const Chiunque&) = delete;
     ~Chiunque() { EXPECT_EQ(seteuid(era_), 0); }
