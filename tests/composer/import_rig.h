@@ -53,4 +53,17 @@ struct BancoImporta : BancoComposer {
     bool Aperta() const { return finestre.Davanti() == &importa; }
 };
 
+/// So many melodies on the medium, whose names are in the order of their numbers.
+inline void Riempi(BancoImporta& b, int quante) {
+    for (int i = 0; i < quante; ++i)
+        b.Sul("m" + std::to_string(1000 + i) + ".mel", std::to_string(i));
+}
+
+inline int Copiati(const BancoImporta& b) {
+    int copiati = 0;
+    for (const auto& [nome, byte] : b.file.contenuti)
+        copiati += nome.starts_with(BancoImporta::mia) ? 1 : 0;
+    return copiati;
+}
+
 }  // namespace corvana::prova
