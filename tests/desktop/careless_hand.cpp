@@ -21,6 +21,7 @@ namespace corvana::prova {
 namespace {
 
 constexpr qint64 pazienza = 60'000;  ///< milliseconds, to end a hang
+constexpr double lungaAttesa = 60;   ///< seconds of the program's
 
 constexpr std::array tasti = {
     Qt::Key_A,     Qt::Key_D,      Qt::Key_P,     Qt::Key_Q,      Qt::Key_Z,     Qt::Key_2,
@@ -174,7 +175,12 @@ bool ManoDistratta::HaFinito() const {
 void ManoDistratta::Aspetta() {
     QElapsedTimer limite;
     limite.start();
-    sera_->orologio.Concedi(Capita(100) ? Tra(0, 4000) / 1000.0 : Tra(0, 50) / 1000.0);
+    // A note that is heard holds the program up: what he does meanwhile waits, and not much of it.
+    const bool pieno = sera_->orologio.Fermo() && !sera_->palco.scrivania.Coda().Vuota();
+    if (pieno && Capita(300))
+        sera_->orologio.Concedi(lungaAttesa);
+    else
+        sera_->orologio.Concedi(Capita(100) ? Tra(0, 4000) / 1000.0 : Tra(0, 50) / 1000.0);
     const bool frettolosa = Capita(200);
     do {
         QCoreApplication::processEvents();
