@@ -32,7 +32,7 @@ struct ChiudiCartella {
 
 /// Of what a link leads to; what leads nowhere is a file, which can't be opened.
 mode_t GenereDi(int cartella, const dirent& voce) {
-    if (voce.d_type != DT_LNK && voce.d_type != DT_UNKNOWN) return DTTOIF(voce.d_type);
+    if (voce.d_type != DT_LNK && voce.d_type != DT_UNKNOWN) return DTTOIF(mode_t{voce.d_type});
     struct stat dati {};
     return fstatat(cartella, voce.d_name, &dati, 0) == 0 ? dati.st_mode : S_IFREG;
 }
