@@ -54,6 +54,8 @@ std::string Lista::Scelta() const {
 
 ListaMultipla::ListaMultipla(Form& form, std::string nome, Controllo* padre)
     : Lista(form, std::move(nome), padre) {
+    // A property is made with its control, not with its value.
+    // cppcheck-suppress useInitializationList
     MultiSelect = true;
 }
 
