@@ -1,6 +1,7 @@
 // Evenings with the melody window, in the real windows and in real time, that end by SIGKILL at
 // random instants. Counts those after which something is gone that was there for more than five
 // seconds, whether it was saved or not.
+#include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -75,6 +76,8 @@ Vita Inizia(const char* programma, const std::string& cartella, double durata) {
     Vita vita{cartella, fork(), nullptr, Adesso() + durata};
     if (vita.figlio == 0) {
         dup2(tubo[1], STDOUT_FILENO);
+        // The platform without a screen complains of each window.
+        dup2(open("/dev/null", O_WRONLY), STDERR_FILENO);
         close(tubo[0]);
         execl(programma, programma, "--life", cartella.c_str(), nullptr);
         _exit(127);
@@ -100,9 +103,12 @@ std::vector<Istante> Detto(FILE* detto) {
     return istanti;
 }
 
-void Uccidi(const Vita& vita) {
+/// False when it had ended by itself.
+bool Uccidi(const Vita& vita) {
     kill(vita.figlio, SIGKILL);
-    waitpid(vita.figlio, nullptr, 0);
+    int esito = 0;
+    waitpid(vita.figlio, &esito, 0);
+    return WIFSIGNALED(esito) && WTERMSIG(esito) == SIGKILL;
 }
 
 struct Conto {
@@ -152,7 +158,7 @@ void Misura(const char* programma) {
         const auto prossima = std::min_element(
             vive.begin(), vive.end(), [](const Vita& a, const Vita& b) { return a.fine < b.fine; });
         usleep(static_cast<useconds_t>(std::max(prossima->fine - Adesso(), 0.0) * 1e6));
-        Uccidi(*prossima);
+        if (!Uccidi(*prossima)) std::puts("  an evening ended before it was killed");
         Guarda(*prossima, Adesso(), intera, conto);
         fclose(prossima->detto);
         vive.erase(prossima);
