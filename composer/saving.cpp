@@ -1,5 +1,6 @@
 // Saving: into the current folder, under a new name, and onto a removable medium.
 #include "composer/file_panel.h"
+#include "composer/melody_files.h"
 #include "core/file_faults.h"
 #include "core/text.h"
 #include "melody/names.h"
@@ -17,12 +18,10 @@ std::string NomeFile(const std::string& nome) {
 /// The file in the current folder that has the name, or that is to get it.
 std::string PannelloFile::Percorso(const std::string& nome) const {
     const std::string& cartella = a_.globali.percorsoCorrente;
-    std::string usuale = cartella + NomeFile(nome);
+    const std::string usuale = cartella + NomeFile(nome);
     if (a_.file.Esiste(usuale)) return usuale;
     // Files of older systems may bear their extension in capitals.
-    for (const VoceCartella& voce : a_.file.Elenca(cartella))
-        if (!voce.cartella && NomeDaFile(voce.nome) == nome) return cartella + voce.nome;
-    return usuale;
+    return MelodieInCartella(a_.file, cartella).Percorso(nome);
 }
 
 void PannelloFile::ScriviIn(const std::string& percorso) {
