@@ -18,7 +18,7 @@ std::string NomeFile(const std::string& nome) {
 /// The file in the current folder that has the name, or that is to get it.
 std::string PannelloFile::Percorso(const std::string& nome) const {
     const std::string& cartella = a_.globali.percorsoCorrente;
-    const std::string usuale = cartella + NomeFile(nome);
+    std::string usuale = cartella + NomeFile(nome);
     if (a_.file.Esiste(usuale)) return usuale;
     // Files of older systems may bear their extension in capitals.
     return MelodieInCartella(a_.file, cartella).Percorso(nome);
