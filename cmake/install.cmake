@@ -13,7 +13,8 @@ set(desktop ${PROJECT_SOURCE_DIR}/data/desktop)
 install(TARGETS corvana RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 # Where the program looks for it, from its own folder.
 install(TARGETS corvana_outputs_module LIBRARY DESTINATION ${CORVANA_MODULES})
-install(FILES ${laid}/langit.csv ${laid}/langen.csv DESTINATION ${CMAKE_INSTALL_DATADIR}/corvana)
+file(GLOB languages CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/data/lang??.csv)
+install(FILES ${languages} DESTINATION ${CMAKE_INSTALL_DATADIR}/corvana)
 install(FILES ${laid}/note/rok.wav ${laid}/note/rko.wav
         DESTINATION ${CMAKE_INSTALL_DATADIR}/corvana/note)
 install(DIRECTORY ${laid}/help DESTINATION ${CMAKE_INSTALL_DATADIR}/corvana OPTIONAL)

@@ -8,18 +8,17 @@ bool Main(const Ambiente& ambiente, bool altraIstanza,
         ambiente.riquadri.MsgBox("The program is already running !!!");
         return false;
     }
-    const bool inglese = ambiente.impostazioni.LeggiValore("Language") == "en";
-    if (inglese) ambiente.globali.NomiAnglo = true;
-    PonLingua(ambiente.globali, inglese);
+    const Lingua& lingua = LinguaDi(ambiente.impostazioni.LeggiValore("Language"));
+    if (lingua.nomiAnglo) ambiente.globali.NomiAnglo = true;
+    PonLingua(ambiente.globali, lingua);
     ambiente.globali.PercorsoNote = ambiente.globali.CartellaProgramma + "/note/";
     mostraPrincipale();
     return true;
 }
 
-void PonLingua(Globali& globali, bool inglese) {
-    const std::string& cartella = globali.CartellaProgramma;
-    globali.PercorsoLingua = cartella + (inglese ? "/langen.csv" : "/langit.csv");
-    globali.FileAiuto = cartella + (inglese ? "/corvanaen.chm" : "/corvana.chm");
+void PonLingua(Globali& globali, const Lingua& lingua) {
+    globali.PercorsoLingua = globali.CartellaProgramma + std::string(lingua.testi);
+    globali.FileAiuto = globali.CartellaProgramma + std::string(lingua.aiuto);
 }
 
 }  // namespace corvana

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "core/globals.h"
+#include "core/languages.h"
 
 namespace corvana {
 
@@ -12,7 +13,7 @@ namespace corvana {
 bool Main(const Ambiente& ambiente, bool altraIstanza,
           const std::function<void()>& mostraPrincipale);
 
-/// Points the texts and the help to Italian or English.
-void PonLingua(Globali& globali, bool inglese);
+/// Points the texts and the help to the language.
+void PonLingua(Globali& globali, const Lingua& lingua);
 
 }  // namespace corvana

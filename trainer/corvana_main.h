@@ -3,6 +3,8 @@
 // once (start and end, mode, language) is the window's own. Logic thread.
 #pragma once
 
+#include <string_view>
+
 #include "core/hover.h"
 #include "core/toolbar_panel.h"
 #include "trainer/answer_panel.h"
@@ -69,7 +71,7 @@ private:
 
     void PonModo(bool automatica);
     void PonNomiRisposte(bool anglo);
-    void CambiaLingua(bool inglese);
+    void CambiaLingua(std::string_view chiave);
     void PonPronto(bool pronto);
     void PonFermo(bool fermo);
     void FuocoAStart();

@@ -41,17 +41,18 @@ void CorvanaMainF::PonNomiRisposte(bool anglo) {
 }
 
 void CorvanaMainF::mnuIt_Click() {
-    CambiaLingua(false);
+    CambiaLingua("it");
 }
 
 void CorvanaMainF::mnuEn_Click() {
-    CambiaLingua(true);
+    CambiaLingua("en");
 }
 
-void CorvanaMainF::CambiaLingua(bool inglese) {
-    PonLingua(a_.globali, inglese);
-    a_.impostazioni.ScriviValore("Language", inglese ? "en" : "it");
-    PonNomiRisposte(inglese);
+void CorvanaMainF::CambiaLingua(std::string_view chiave) {
+    const Lingua& lingua = LinguaDi(chiave);
+    PonLingua(a_.globali, lingua);
+    a_.impostazioni.ScriviValore("Language", std::string(lingua.chiave));
+    PonNomiRisposte(lingua.nomiAnglo);
     if (FileLinguaEsiste(a_)) UpdateString(a_, *this, BersagliPrincipali());
     Apri(secondarie_.metronomo.cambiaLingua);
     automatico.MostraVelocità();

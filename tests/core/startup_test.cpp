@@ -90,10 +90,10 @@ TEST(Main, AllIsSetWhenTheMainWindowIsShownOnce) {
 TEST(PonLingua, PointsToTheFilesAndLeavesTheNoteNames) {
     Globali globali;
     globali.CartellaProgramma = "/x";
-    PonLingua(globali, true);
+    PonLingua(globali, LinguaDi("en"));
     EXPECT_EQ(globali.PercorsoLingua, "/x/langen.csv");
     EXPECT_FALSE(globali.NomiAnglo);
-    PonLingua(globali, false);
+    PonLingua(globali, LinguaDi("it"));
     EXPECT_EQ(globali.FileAiuto, "/x/corvana.chm");
 }
 
