@@ -16,8 +16,9 @@
 
 namespace corvana {
 
-/// Texts that the language file fills; empty until the rows of their window were applied.
-struct TestiLingua {
+/// Texts that the language file fills; empty until the rows of their window were applied, but for
+/// the desktop's words.
+struct TestiLingua : ParoleSchermo {
     std::string TxtRisposteEsatte, TxtRisposteErrate, TxtRisposteDate, TxtPercentuale;
     std::string TxtTempoImpiegato, TxtNoteMostrate, TxtVelocita;
     std::string TipX1, TipX2;

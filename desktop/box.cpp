@@ -14,7 +14,17 @@ namespace corvana {
 
 namespace {
 
-QDialog* CreaMessaggio(const ApriRiquadro& richiesta, QWidget* sopra) {
+/// The toolkit would write on them what it, or the desktop that it runs on, was translated to.
+void ScriviBottoni(const QMessageBox& riquadro, const ParoleSchermo& parole) {
+    const std::pair<QMessageBox::StandardButton, const std::string&> scritte[] = {
+        {QMessageBox::Yes, parole.parSi},
+        {QMessageBox::No, parole.parNo},
+        {QMessageBox::Ok, parole.parOk}};
+    for (const auto& [quale, scritta] : scritte)
+        if (QAbstractButton* bottone = riquadro.button(quale)) bottone->setText(InQt(scritta));
+}
+
+QDialog* CreaMessaggio(const ApriRiquadro& richiesta, const ParoleSchermo& parole, QWidget* sopra) {
     const bool domanda = richiesta.genere == GenereRiquadro::Domanda;
     auto* riquadro = new QMessageBox(sopra);
     riquadro->setTextFormat(Qt::PlainText);
@@ -25,14 +35,18 @@ QDialog* CreaMessaggio(const ApriRiquadro& richiesta, QWidget* sopra) {
         IconaDelProgramma(segno).pixmap(QSize(lato, lato), riquadro->devicePixelRatioF()));
     riquadro->setStandardButtons(domanda ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     if (domanda) riquadro->setEscapeButton(QMessageBox::No);
+    ScriviBottoni(*riquadro, parole);
     return riquadro;
 }
 
-QDialog* CreaImmissione(const ApriRiquadro& richiesta, QWidget* sopra) {
+QDialog* CreaImmissione(const ApriRiquadro& richiesta, const ParoleSchermo& parole,
+                        QWidget* sopra) {
     auto* riquadro = new QInputDialog(sopra);
     riquadro->setInputMode(QInputDialog::TextInput);
     riquadro->setLabelText(InQt(richiesta.testo));
     riquadro->setTextValue(InQt(richiesta.proposta));
+    riquadro->setOkButtonText(InQt(parole.parOk));
+    riquadro->setCancelButtonText(InQt(parole.parAnnulla));
     return riquadro;
 }
 
@@ -44,11 +58,11 @@ Risposta RispostaDi(const QDialog& riquadro, int esito) {
 
 }  // namespace
 
-QDialog* MostraRiquadro(const ApriRiquadro& richiesta, QWidget* sopra,
+QDialog* MostraRiquadro(const ApriRiquadro& richiesta, const ParoleSchermo& parole, QWidget* sopra,
                         const std::function<void(Risposta)>& risposta) {
     const bool immissione = richiesta.genere == GenereRiquadro::Immissione;
-    QDialog* riquadro =
-        immissione ? CreaImmissione(richiesta, sopra) : CreaMessaggio(richiesta, sopra);
+    QDialog* riquadro = immissione ? CreaImmissione(richiesta, parole, sopra)
+                                   : CreaMessaggio(richiesta, parole, sopra);
     riquadro->setAttribute(Qt::WA_DeleteOnClose);
     riquadro->setWindowRole(QStringLiteral("riquadro"));
     riquadro->setWindowTitle(richiesta.titolo.empty() ? QString::fromLatin1(nomeProgramma)

@@ -9,9 +9,9 @@
 
 namespace corvana {
 
-/// Opens the box over `sopra`, or alone when that is null. It deletes itself when it has been
-/// answered, after it told the answer.
-QDialog* MostraRiquadro(const ApriRiquadro& richiesta, QWidget* sopra,
+/// Opens the box over `sopra`, or alone when that is null, with `parole` on its buttons. It deletes
+/// itself when it has been answered, after it told the answer.
+QDialog* MostraRiquadro(const ApriRiquadro& richiesta, const ParoleSchermo& parole, QWidget* sopra,
                         const std::function<void(Risposta)>& risposta);
 
 }  // namespace corvana

@@ -10,6 +10,7 @@
 
 #include "forms/control.h"
 #include "forms/value.h"
+#include "forms/words.h"
 
 namespace corvana {
 
@@ -66,6 +67,12 @@ struct MostraAiuto {
     int contesto;
 };
 
+/// The words and the help of another language.
+struct CambiaLingua {
+    ParoleSchermo parole;
+    std::string aiuto;
+};
+
 enum class GenereRiquadro : std::uint8_t { Messaggio, Domanda, Immissione };
 
 struct ApriRiquadro {
@@ -77,7 +84,8 @@ struct ApriRiquadro {
 /// The logic has returned and says nothing more.
 struct FineLogica {};
 
-using Comando = std::variant<MostraFinestra, CambiaProprieta, DaiFuoco, ChiudiFinestra,
-                             TrascinaFinestra, ApriMenu, MostraAiuto, ApriRiquadro, FineLogica>;
+using Comando =
+    std::variant<MostraFinestra, CambiaProprieta, DaiFuoco, ChiudiFinestra, TrascinaFinestra,
+                 ApriMenu, MostraAiuto, CambiaLingua, ApriRiquadro, FineLogica>;
 
 }  // namespace corvana

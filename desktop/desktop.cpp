@@ -143,13 +143,19 @@ void Scrivania::Fai(const MostraAiuto& comando) {
     aiuto_->Mostra(InQt(comando.file), comando.contesto, davanti ? &davanti->Finestra() : nullptr);
 }
 
+void Scrivania::Fai(const CambiaLingua& comando) {
+    parole_ = comando.parole;
+    if (aiuto_) aiuto_->CambiaVolume(InQt(comando.aiuto));
+}
+
 void Scrivania::Fai(const ApriRiquadro& comando) {
     if (coda_.FineChiesta()) return;
     dipinta_.Avvenuta();
     QWidget* sopra = finestre_.empty() ? nullptr : &finestre_.back()->Finestra();
-    riquadro_ = MostraRiquadro(comando, sopra, [this, numero = comando.numero](Risposta risposta) {
-        specchio_.Rispondi(numero, std::move(risposta));
-    });
+    riquadro_ =
+        MostraRiquadro(comando, parole_, sopra, [this, numero = comando.numero](Risposta risposta) {
+            specchio_.Rispondi(numero, std::move(risposta));
+        });
 }
 
 void Scrivania::Fai(const FineLogica&) {

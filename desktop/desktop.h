@@ -17,6 +17,7 @@
 #include "desktop/help_window.h"
 #include "desktop/keyboard.h"
 #include "desktop/remote_mirror.h"
+#include "desktop/translator.h"
 #include "desktop/window_view.h"
 
 namespace corvana {
@@ -69,6 +70,7 @@ private:
     void Fai(const TrascinaFinestra& comando);
     void Fai(const ApriMenu& comando);
     void Fai(const MostraAiuto& comando);
+    void Fai(const CambiaLingua& comando);
     void Fai(const ApriRiquadro& comando);
     void Fai(const FineLogica& comando);
     VistaFinestra* Cerca(std::uint32_t identita);
@@ -78,6 +80,8 @@ private:
     Cassetta cassetta_;
     SpecchioRemoto specchio_{cassetta_};
     Tastiera tastiera_;
+    ParoleSchermo parole_;
+    Traduttore traduttore_{parole_};
     PrimaPittura dipinta_;
     std::vector<std::unique_ptr<VistaFinestra>> finestre_;
     std::unique_ptr<FinestraAiuto> aiuto_;

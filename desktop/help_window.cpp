@@ -108,19 +108,25 @@ void FinestraAiuto::CreaSbarra() {
 }
 
 void FinestraAiuto::Mostra(const QString& file, int contesto, const QWidget* accanto) {
-    const QFileInfo nome(file);
-    inglese_ = nome.completeBaseName().endsWith(QLatin1String("en"));
-    const Parole parole = NellaLingua(inglese_);
-    indietro_->setText(parole.indietro);
-    avanti_->setText(parole.avanti);
-    indice_->setText(parole.indice);
-    Vai(nome.path() + QStringLiteral("/help/") + nome.completeBaseName(), contesto);
+    Vai(QFileInfo(file), QString::number(contesto) + QStringLiteral(".html"));
     if (accanto && !isVisible()) Colloca(*accanto);
     if (isMinimized()) showNormal();
     show();
     raise();
     activateWindow();
     testo_->setFocus(Qt::OtherFocusReason);
+}
+
+void FinestraAiuto::CambiaVolume(const QString& file) {
+    if (isVisible()) Vai(QFileInfo(file), Pagina());
+}
+
+void FinestraAiuto::PonLingua(const QFileInfo& file) {
+    inglese_ = file.completeBaseName().endsWith(QLatin1String("en"));
+    const Parole parole = NellaLingua(inglese_);
+    indietro_->setText(parole.indietro);
+    avanti_->setText(parole.avanti);
+    indice_->setText(parole.indice);
 }
 
 void FinestraAiuto::Colloca(const QWidget& accanto) {
@@ -134,14 +140,14 @@ void FinestraAiuto::Colloca(const QWidget& accanto) {
     move(posto.topLeft());
 }
 
-void FinestraAiuto::Vai(const QString& cartella, int contesto) {
-    const QDir pagine(cartella);
-    QString scelta = QString::number(contesto) + QStringLiteral(".html");
-    if (!pagine.exists(scelta)) scelta = primaPagina;
-    const bool trovata = pagine.exists(scelta);
+void FinestraAiuto::Vai(const QFileInfo& file, QString pagina) {
+    PonLingua(file);
+    const QDir pagine(file.path() + QStringLiteral("/help/") + file.completeBaseName());
+    if (pagina.isEmpty() || !pagine.exists(pagina)) pagina = primaPagina;
+    const bool trovata = pagine.exists(pagina);
     indice_->setEnabled(trovata);
-    if (!trovata) return DiMancanza(cartella);
-    const QUrl indirizzo = QUrl::fromLocalFile(pagine.filePath(scelta));
+    if (!trovata) return DiMancanza(pagine.path());
+    const QUrl indirizzo = QUrl::fromLocalFile(pagine.filePath(pagina));
     const bool altroVolume = testo_->source().resolved(QUrl(".")) != indirizzo.resolved(QUrl("."));
     if (testo_->source() != indirizzo) testo_->setSource(indirizzo);
     if (altroVolume) testo_->clearHistory();

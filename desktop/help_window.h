@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <functional>
 
+class QFileInfo;
 class QTextBrowser;
 
 namespace corvana {
@@ -20,6 +21,9 @@ public:
     /// what is missing. It opens beside `accanto`, if that isn't null.
     void Mostra(const QString& file, int contesto, const QWidget* accanto = nullptr);
 
+    /// The same page of another file of pages, if any is being read.
+    void CambiaVolume(const QString& file);
+
     /// File name of the page that is shown; empty when none was found.
     QString Pagina() const;
     QTextBrowser& Testo() const { return *testo_; }
@@ -31,7 +35,8 @@ private:
     void CreaSbarra();
     void DisponiFoglio();
     void Colloca(const QWidget& accanto);
-    void Vai(const QString& cartella, int contesto);
+    void PonLingua(const QFileInfo& file);
+    void Vai(const QFileInfo& file, QString pagina);
     void DiMancanza(const QString& cartella);
     void MettiTitolo();
 

@@ -64,6 +64,10 @@ void SpecchioRemoto::Aiuto(const Form& form, const std::string& file) {
     cassetta_.Metti(MostraAiuto{file, form.HelpContextID});
 }
 
+void SpecchioRemoto::CambiaLingua(const ParoleSchermo& parole, const std::string& aiuto) {
+    cassetta_.Metti(corvana::CambiaLingua{parole, aiuto});
+}
+
 void SpecchioRemoto::Chiudi(const Form& form) {
     cassetta_.Metti(ChiudiFinestra{form.Identita()});
 }

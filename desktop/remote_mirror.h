@@ -29,6 +29,7 @@ public:
     void Trascina(const Form& form) override;
     void PopupMenu(const Controllo& menu) override;
     void Aiuto(const Form& form, const std::string& file) override;
+    void CambiaLingua(const ParoleSchermo& parole, const std::string& aiuto) override;
     void Chiudi(const Form& form) override;
 
     void MsgBox(const std::string& testo) override;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "forms/value.h"
+#include "forms/words.h"
 
 namespace corvana {
 
@@ -31,6 +32,12 @@ public:
     virtual void Aiuto(const Form& form, const std::string& file) {
         static_cast<void>(form);
         static_cast<void>(file);
+    }
+    /// The language is chosen: from now on the desktop uses these words, and the help's pages in
+    /// `aiuto`, those that the user is reading included.
+    virtual void CambiaLingua(const ParoleSchermo& parole, const std::string& aiuto) {
+        static_cast<void>(parole);
+        static_cast<void>(aiuto);
     }
     /// The form, which still has its identity, is gone; it may be destroyed when the call returns.
     virtual void Chiudi(const Form& form) = 0;

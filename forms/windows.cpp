@@ -188,4 +188,8 @@ void Finestre::ChiediAiuto() const {
     if (aiuto_ && Davanti()) aiuto_(*Davanti());
 }
 
+void Finestre::CambiaLingua(const ParoleSchermo& parole, const std::string& aiuto) const {
+    if (specchio_) specchio_->CambiaLingua(parole, aiuto);
+}
+
 }  // namespace corvana

@@ -40,6 +40,10 @@ public:
     /// Opens the help for the window in front, as F1 does.
     void ChiediAiuto() const;
 
+    /// Hands the desktop its words, and the name of the help's file, in the language that is
+    /// chosen.
+    void CambiaLingua(const ParoleSchermo& parole, const std::string& aiuto) const;
+
     const TastiPremuti& Tasti() const { return tasti_; }
     Form* Davanti() const { return aperte_.empty() ? nullptr : aperte_.back(); }
     /// The window that all others were opened over, or null.

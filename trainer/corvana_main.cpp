@@ -1,8 +1,6 @@
 #include "trainer/corvana_main.h"
 
-#include "core/language.h"
 #include "trainer/answer_keys.h"
-#include "trainer/main_rows.h"
 #include "trainer/shown_notes.h"
 #include "trainer/state.h"
 
@@ -53,7 +51,7 @@ PannelloBarra::Comandi CorvanaMainF::ComandiDellaBarra() {
 }
 
 void CorvanaMainF::Form_Load() {
-    if (FileLinguaEsiste(a_)) UpdateString(a_, *this, BersagliPrincipali());
+    LeggiLingua();
     stato.SuonoNota = true;
     PonNomiRisposte(a_.globali.NomiAnglo);
     frmMetro.Visible = false;

@@ -72,6 +72,7 @@ private:
     void PonModo(bool automatica);
     void PonNomiRisposte(bool anglo);
     void CambiaLingua(std::string_view chiave);
+    void LeggiLingua();
     void PonPronto(bool pronto);
     void PonFermo(bool fermo);
     void FuocoAStart();

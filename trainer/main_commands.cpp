@@ -53,10 +53,15 @@ void CorvanaMainF::CambiaLingua(std::string_view chiave) {
     PonLingua(a_.globali, lingua);
     a_.impostazioni.ScriviValore("Language", std::string(lingua.chiave));
     PonNomiRisposte(lingua.nomiAnglo);
-    if (FileLinguaEsiste(a_)) UpdateString(a_, *this, BersagliPrincipali());
+    LeggiLingua();
     Apri(secondarie_.metronomo.cambiaLingua);
     automatico.MostraVelocità();
     esercizio.punteggio.frmRisultati.Visible = false;
+}
+
+void CorvanaMainF::LeggiLingua() {
+    if (FileLinguaEsiste(a_)) UpdateString(a_, *this, BersagliPrincipali());
+    a_.finestre.CambiaLingua(a_.globali.testi, a_.globali.FileAiuto);
 }
 
 void CorvanaMainF::Esci_Click() {

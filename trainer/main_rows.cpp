@@ -82,6 +82,19 @@ constexpr std::array bersagliPrincipali = {
     Stringa(380, &T::TipContralto),
     Stringa(381, &T::TipTenore),
     Stringa(382, &T::TipBasso),
+    // The desktop's.
+    Stringa(384, &T::parSi),
+    Stringa(385, &T::parNo),
+    Stringa(386, &T::parOk),
+    Stringa(387, &T::parAnnulla),
+    Stringa(388, &T::parAnnullaModifica),
+    Stringa(389, &T::parRipeti),
+    Stringa(390, &T::parTaglia),
+    Stringa(391, &T::parCopia),
+    Stringa(392, &T::parCopiaIndirizzo),
+    Stringa(393, &T::parIncolla),
+    Stringa(394, &T::parElimina),
+    Stringa(395, &T::parSelezionaTutto),
 };
 
 }  // namespace

@@ -51,6 +51,9 @@ void Distinti(const Testi& testi, const std::vector<int>& ids) {
 const std::vector<int> menuPrincipale = {3, 37, 39};
 const std::vector<int> menuInto = {158, 164, 168};
 const std::vector<int> menuComposer = {246, 247};
+/// On the buttons of a question, and in the menu of a text.
+const std::vector<int> siNo = {384, 385};
+const std::vector<int> menuTesto = {388, 389, 390, 391, 392, 393, 394, 395};
 
 }  // namespace
 
@@ -100,14 +103,16 @@ TEST(FileLingue, ATextIsPaddedExactlyWhereSomethingIsJoinedToIt) {
         }
 }
 
-TEST(FileLingue, TopLevelMenusHaveEachTheirOwnMnemonicAndNothingElseHasOne) {
+TEST(FileLingue, WhatIsChosenByALetterHasItsOwnAndNothingElseHasOne) {
     for (const std::string& lingua : lingue) {
         SCOPED_TRACE(lingua);
         const Testi testi = PerId(lingua);
         MnemoniciDistinti(testi, menuPrincipale, true);
         MnemoniciDistinti(testi, menuInto, false);
         MnemoniciDistinti(testi, menuComposer, true);
-        const Insieme menu = {3, 37, 39, 158, 164, 168, 246, 247};
+        MnemoniciDistinti(testi, siNo, false);
+        MnemoniciDistinti(testi, menuTesto, false);
+        const Insieme menu = Insieme{3, 37, 39, 158, 164, 168, 246, 247, 384, 385} + Fra(388, 395);
         for (const auto& [id, testo] : testi)
             EXPECT_EQ(std::count(testo.begin(), testo.end(), '&'), menu.contains(id) ? 1 : 0) << id;
     }
@@ -173,8 +178,8 @@ TEST(FileLingue, ToolTipsAndPromptsFitOnOneLine) {
 }
 
 TEST(FileLingue, TheEnglishTextsAreEnglish) {
-    // What reads the same in both languages: names, signs, "Dim" and "Min", abbreviations.
-    const Insieme uguali = Fra(137, 142) + Fra(145, 148);
+    // What reads the same in both languages: names, signs, "Dim" and "Min", abbreviations, "No".
+    const Insieme uguali = Fra(137, 142) + Fra(145, 148) + Insieme{385, 386};
     const Testi italiano = PerId(lingue[0]);
     const Testi inglese = PerId(lingue[1]);
     Insieme trovati;

@@ -3,6 +3,7 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTest>
 
 #include "tests/desktop/stage.h"
 
@@ -63,6 +64,55 @@ TEST(Riquadri, AnInputBoxGivesItsTextOrNothing) {
         EXPECT_TRUE(
             Aspetta([&] { return Trova(palco.scrivania, "scritta").accessibleName() == attesa; }));
     }
+}
+
+ParoleSchermo ParoleInglesi() {
+    ParoleSchermo parole;
+    parole.parSi = "&Yes";
+    parole.parNo = "&Not";
+    parole.parOk = "Fine";
+    parole.parAnnulla = "Cancel";
+    return parole;
+}
+
+/// What stands on the buttons of the box that is up; it is then refused.
+QStringList Bottoni(Palco& palco) {
+    QStringList scritte;
+    if (!Aspetta([&] { return palco.scrivania.Riquadro() != nullptr; })) return {};
+    for (const auto* bottone : palco.scrivania.Riquadro()->findChildren<QPushButton*>())
+        scritte << bottone->text();
+    scritte.sort();
+    palco.scrivania.Riquadro()->reject();
+    Aspetta([&] { return palco.scrivania.Riquadro() == nullptr; });
+    return scritte;
+}
+
+void ControllaBottoni(Palco& palco, const QStringList& siNo, const QStringList& ok,
+                      const QStringList& okAnnulla) {
+    palco.Ordina([](FormDiProva& form) { form.riquadri.Domanda("Salvare?"); });
+    EXPECT_EQ(Bottoni(palco), siNo);
+    palco.Ordina([](FormDiProva& form) { form.riquadri.MsgBox("Ecco"); });
+    EXPECT_EQ(Bottoni(palco), ok);
+    palco.Ordina([](FormDiProva& form) { form.riquadri.InputBox("Nome?", "Voce", ""); });
+    EXPECT_EQ(Bottoni(palco), okAnnulla);
+}
+
+TEST(Riquadri, TheirButtonsSpeakItalianUntilAnotherLanguageIsChosen) {
+    Palco palco;
+    ControllaBottoni(palco, {"&No", QString::fromUtf8("&Sì")}, {"OK"}, {"Annulla", "OK"});
+    palco.scrivania.Schermo().CambiaLingua(ParoleInglesi(), "");
+    ControllaBottoni(palco, {"&Not", "&Yes"}, {"Fine"}, {"Cancel", "Fine"});
+}
+
+TEST(Riquadri, TheLetterOfAButtonIsItsKey) {
+    Palco palco;
+    palco.Ordina([](FormDiProva& form) {
+        form.scritta.Caption = form.riquadri.Domanda("Salvare?") ? "si" : "no";
+    });
+    QMessageBox& riquadro = Messaggio(palco);
+    QTest::keyClick(&riquadro, Qt::Key_S);
+    EXPECT_TRUE(
+        Aspetta([&] { return Trova(palco.scrivania, "scritta").accessibleName() == "si"; }));
 }
 
 TEST(Riquadri, AQuitWhileABoxIsOpenLetsTheLogicGo) {

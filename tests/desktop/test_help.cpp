@@ -3,11 +3,13 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QDir>
+#include <QMenu>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
 
 #include "desktop/help_window.h"
+#include "tests/desktop/dosed_clock.h"
 #include "tests/desktop/program_stage.h"
 
 namespace corvana::prova {
@@ -38,9 +40,13 @@ struct Aiuto {
     FinestraAiuto finestra{[this] { ++chiusure; }};
 };
 
-/// The whole program, with the help's pages beside it.
-struct ProgrammaConAiuto : PalcoProgramma {
-    ProgrammaConAiuto() : PalcoProgramma(dati) {}
+struct Tempo {
+    OrologioADosi orologio;
+};
+
+/// The whole program, with the help's pages beside it. Nobody waits for its opening signal.
+struct ProgrammaConAiuto : Tempo, PalcoProgramma {
+    ProgrammaConAiuto() : PalcoProgramma(dati, [this](Macchina& m) { m.orologio = &orologio; }) {}
 
     /// Waits for that page of the help.
     bool Mostra(const char* pagina) {
@@ -175,6 +181,7 @@ TEST(AiutoNelProgramma, AnAutomaticDrillChangesItsNotesWhileItIsRead) {
     TrovaVoce(s, "mnuAiuto").trigger();
     ASSERT_TRUE(p.Mostra("2.html"));
     const int prima = p.Risposte();
+    p.orologio.Concedi(10);
     EXPECT_TRUE(Aspetta([&] { return p.Risposte() > prima; }));
     EXPECT_TRUE(s.Aiuto()->isActiveWindow());
 }
@@ -214,15 +221,50 @@ TEST(AiutoNelProgramma, AModalWindowBlocksTheMainOneButNotTheHelp) {
     AspettaFinestra(s, "frmMidiTest");
 }
 
-TEST(AiutoNelProgramma, AChangeOfLanguageShowsAtTheNextOpening) {
+TEST(AiutoNelProgramma, AChangeOfLanguageTurnsThePageThatIsReadToTheSameInTheOther) {
     ProgrammaConAiuto p;
     Scrivania& s = p.scrivania;
     TrovaVoce(s, "mnuAiuto").trigger();
     ASSERT_TRUE(p.Mostra("2.html"));
-    EXPECT_TRUE(s.Aiuto()->windowTitle().startsWith("Lettura delle note"));
+    s.Aiuto()->Testo().setSource(s.Aiuto()->Testo().source().resolved(QUrl("40.html")));
+    EXPECT_TRUE(s.Aiuto()->windowTitle().startsWith("Strumenti e uscite MIDI"));
     TrovaVoce(s, "mnuEn").trigger();
+    EXPECT_TRUE(
+        Aspetta([&] { return s.Aiuto()->windowTitle().startsWith("Instruments and MIDI"); }));
+    EXPECT_EQ(s.Aiuto()->Pagina(), "40.html");
+    EXPECT_FALSE(s.Aiuto()->Testo().isBackwardAvailable());
+}
+
+TEST(AiutoNelProgramma, AChangeOfLanguageDoesntOpenWhatIsClosed) {
+    ProgrammaConAiuto p;
+    Scrivania& s = p.scrivania;
     TrovaVoce(s, "mnuAiuto").trigger();
-    EXPECT_TRUE(Aspetta([&] { return s.Aiuto()->windowTitle().startsWith("Note reading"); }));
+    ASSERT_TRUE(p.Mostra("2.html"));
+    s.Aiuto()->close();
+    TrovaVoce(s, "mnuEn").trigger();
+    ASSERT_TRUE(Aspetta([&] { return TrovaVoce(s, "Esci").text() == "Exit"; }));
+    EXPECT_FALSE(s.Aiuto()->isVisible());
+    TrovaVoce(s, "mnuAiuto").trigger();
+    ASSERT_TRUE(p.Mostra("2.html"));
+    EXPECT_TRUE(s.Aiuto()->windowTitle().startsWith("Note reading"));
+}
+
+TEST(AiutoNelProgramma, TheMenuOfAPageSpeaksTheLanguageThatIsChosen) {
+    ProgrammaConAiuto p;
+    Scrivania& s = p.scrivania;
+    TrovaVoce(s, "mnuAiuto").trigger();
+    ASSERT_TRUE(p.Mostra("2.html"));
+    const auto voci = [&] {
+        QStringList testi;
+        const std::unique_ptr<QMenu> menu(s.Aiuto()->Testo().createStandardContextMenu());
+        for (const QAction* voce : menu->actions())
+            if (!voce->isSeparator()) testi << voce->text().section('\t', 0, 0);
+        return testi;
+    };
+    EXPECT_EQ(voci(), (QStringList{"&Copia", "Copia i&ndirizzo", "&Seleziona tutto"}));
+    TrovaVoce(s, "mnuEn").trigger();
+    ASSERT_TRUE(Aspetta([&] { return TrovaVoce(s, "Esci").text() == "Exit"; }));
+    EXPECT_EQ(voci(), (QStringList{"&Copy", "Copy &link", "&Select all"}));
 }
 
 TEST(AiutoNelProgramma, ItClosesWithTheProgram) {

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
+#include <QContextMenuEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QTest>
 
 #include "desktop/text_box_view.h"
@@ -197,6 +199,55 @@ TEST(Casella, TheFocusThatWasTakenWhileTheWindowWasntActiveIsLostWhenItIsAgain) 
     palco.scrivania.Davanti()->Finestra().activateWindow();
     AspettaFinestra(palco.scrivania, "FormDiProva");
     EXPECT_EQ(palco.Diario(), (Righe{"casella lasciata"}));
+}
+
+/// The menu that the right button opens on it.
+QMenu& MenuDi(QWidget& widget) {
+    const QPoint dove = widget.rect().center();
+    QContextMenuEvent chiesto(QContextMenuEvent::Mouse, dove, widget.mapToGlobal(dove));
+    QApplication::sendEvent(&widget, &chiesto);
+    if (!Aspetta([] { return QApplication::activePopupWidget() != nullptr; }))
+        throw std::logic_error("no menu opened");
+    return dynamic_cast<QMenu&>(*QApplication::activePopupWidget());
+}
+
+/// Without the keys behind them; it is then closed.
+QStringList Voci(QMenu& menu) {
+    QStringList voci;
+    for (const QAction* voce : menu.actions())
+        if (!voce->isSeparator()) voci << voce->text().section('\t', 0, 0);
+    menu.close();
+    Aspetta([] { return QApplication::activePopupWidget() == nullptr; });
+    return voci;
+}
+
+TEST(MenuDelTesto, ItSpeaksTheLanguageThatIsChosen) {
+    Palco palco;
+    QLineEdit& casella = CasellaDi(palco);
+    EXPECT_EQ(Voci(MenuDi(casella)), (QStringList{"&Annulla", "&Ripeti", "&Taglia", "&Copia",
+                                                  "&Incolla", "&Elimina", "&Seleziona tutto"}));
+    ParoleSchermo inglesi;
+    inglesi.parAnnullaModifica = "1";
+    inglesi.parRipeti = "2";
+    inglesi.parTaglia = "3";
+    inglesi.parCopia = "4";
+    inglesi.parIncolla = "5";
+    inglesi.parElimina = "6";
+    inglesi.parSelezionaTutto = "7";
+    palco.scrivania.Schermo().CambiaLingua(inglesi, "");
+    palco.NellaLogica({});
+    EXPECT_EQ(Voci(MenuDi(casella)), (QStringList{"1", "2", "3", "4", "5", "6", "7"}));
+}
+
+TEST(MenuDelTesto, WhatItPastesIsToldToTheProgram) {
+    Palco palco;
+    QLineEdit& casella = CasellaDi(palco);
+    QGuiApplication::clipboard()->setText("42");
+    QMenu& menu = MenuDi(casella);
+    for (QAction* voce : menu.actions())
+        if (voce->text().startsWith("&Incolla")) voce->trigger();
+    menu.close();
+    palco.NellaLogica([](FormDiProva& form) { EXPECT_EQ(form.casella.Text(), "42"); });
 }
 
 }  // namespace

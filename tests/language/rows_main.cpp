@@ -72,6 +72,18 @@ constexpr auto righeMain = std::to_array<RigaAttesa>({
     {380, "", "Contralto", "Alto", &T::TipContralto},
     {381, "", "Tenore", "Tenor", &T::TipTenore},
     {382, "", "Basso", "Bass", &T::TipBasso},
+    {384, "", "&Sì", "&Yes", &T::parSi},
+    {385, "", "&No", "&No", &T::parNo},
+    {386, "", "OK", "OK", &T::parOk},
+    {387, "", "Annulla", "Cancel", &T::parAnnulla},
+    {388, "", "&Annulla", "&Undo", &T::parAnnullaModifica},
+    {389, "", "Ripeti", "Redo", &T::parRipeti},
+    {390, "", "Taglia", "Cu&t", &T::parTaglia},
+    {391, "", "&Copia", "&Copy", &T::parCopia},
+    {392, "", "i&ndirizzo", "&link", &T::parCopiaIndirizzo},
+    {393, "", "Incolla", "Paste", &T::parIncolla},
+    {394, "", "Elimina", "Delete", &T::parElimina},
+    {395, "", "Seleziona tutto", "Select all", &T::parSelezionaTutto},
 });
 
 }  // namespace

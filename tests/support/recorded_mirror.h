@@ -24,7 +24,8 @@ public:
     std::vector<std::string> chiuse;
     std::vector<std::string> trascinate;
     std::vector<std::string> menuAperti;
-    std::vector<std::string> aiuti;  ///< context and file of each help that was asked for
+    std::vector<std::string> aiuti;   ///< context and file of each help that was asked for
+    std::vector<std::string> lingue;  ///< Yes and No and the help's file of each that was chosen
     std::vector<std::uint32_t> identitaChiuse;  ///< as the closed windows had it at that moment
 
     void Mostra(const Form& form, bool modale) override {
@@ -38,6 +39,9 @@ public:
     void PopupMenu(const Controllo& menu) override { menuAperti.push_back(menu.Name); }
     void Aiuto(const Form& form, const std::string& file) override {
         aiuti.push_back(std::to_string(form.HelpContextID()) + ' ' + file);
+    }
+    void CambiaLingua(const ParoleSchermo& parole, const std::string& aiuto) override {
+        lingue.push_back(parole.parSi + ' ' + parole.parNo + ' ' + aiuto);
     }
     void Chiudi(const Form& form) override {
         chiuse.push_back(form.Name);

@@ -163,6 +163,24 @@ TEST(CambioLingua, WithoutItsFileTheTextsStayAndTheChoiceIsStored) {
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
+TEST(CambioLingua, TellsTheDesktopItsWordsAndTheHelpAtTheStartAndAtEachChange) {
+    BancoLingue b;
+    b.file.contenuti["/programma/langen.csv"] += "384;CorvanaMainF;&Yes\n385;CorvanaMainF;&Not\n";
+    b.file.contenuti["/programma/langit.csv"] += "384;CorvanaMainF;S\n385;CorvanaMainF;N\n";
+    b.PonLinguaScelta("en");
+    b.Clicca(3, "mnuIt");
+    b.Vai(4);
+    EXPECT_EQ(b.specchio.lingue, (std::vector<std::string>{"&Yes &Not /programma/corvanaen.chm",
+                                                           "S N /programma/corvana.chm"}));
+}
+
+TEST(CambioLingua, WithoutAFileTheDesktopSpeaksItalian) {
+    BancoLingue b;
+    b.file.contenuti.erase("/programma/langit.csv");
+    b.Vai(3);
+    EXPECT_EQ(b.specchio.lingue, (std::vector<std::string>{"&Sì &No /programma/corvana.chm"}));
+}
+
 TEST(CambioLingua, TellsTheMetronomesPanel) {
     BancoLingue b;
     b.Clicca(3, "mnuEn");
