@@ -121,6 +121,13 @@ TEST(CasualeFisso, TwoRunsDrawTheSameNumbersInTheSameOrder) {
         ASSERT_EQ(uno.Estrai(), due.Estrai());
 }
 
+TEST(CasualeFisso, BeginsWithTheSameNumbersAtEachStart) {
+    CasualeFisso casuale;
+    // What the generator gives without a seed, of which a draw has the upper 24 bits.
+    for (const std::uint32_t bit : {3499211612U, 581869302U, 3890346734U, 3586334585U, 545404204U})
+        EXPECT_EQ(casuale.Estrai(), (bit >> 8U) / 16777216.0);
+}
+
 TEST(CasualeFisso, DrawsFrom0IncludedTo1ExcludedInSinglePrecisionToo) {
     CasualeFisso casuale;
     double minimo = 1, massimo = 0;

@@ -190,6 +190,8 @@ TEST(Corsa, TheFirstNotesAfterAFreshStartRepeatFromOneStartToTheNext) {
     }
     ASSERT_EQ(corse[0].size(), 100U);
     EXPECT_EQ(corse[0], corse[1]);
+    corse[0].resize(5);
+    EXPECT_EQ(corse[0], (std::vector<int>{55, 20, 60, 56, 20})) << "as at any other start";
 }
 
 TEST(Corsa, InTheFiveOctavesNoMissingNumberEverComesUp) {
