@@ -116,6 +116,20 @@ TEST(PrimaAttivazione, TheSignalPlaysOncePerProcess) {
     EXPECT_EQ(b.uscita.aperture.size(), 1U);
 }
 
+TEST(PrimaAttivazione, ASignalThatHadNoDeviceIsntMadeUpForLater) {
+    BancoPrincipale b;
+    b.uscita.esitoOpen = 4;
+    b.Quando(3, [&] {
+        b.uscita.esitoOpen = 0;
+        b.finestra.Form_Activate();
+    });
+    b.Fine(10);
+    b.Avvia();
+    EXPECT_TRUE(b.uscita.aperture.empty());
+    EXPECT_TRUE(b.uscita.messaggi.empty());
+    EXPECT_EQ(b.riquadri.messaggi.size(), 1U);
+}
+
 TEST(PrimaAttivazione, WithADeviceOpenAlreadyNothingIsPlayed) {
     BancoPrincipale b;
     b.suono.ApriMidi(3);
