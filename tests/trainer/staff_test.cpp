@@ -78,6 +78,22 @@ TEST(NomeDellaNota, IsInPlaceTheMomentTheNoteAppearsVisibleOrNot) {
     EXPECT_EQ(b.finestra.pentagramma.lblnn.Caption(), "Si");
 }
 
+TEST(NomeDellaNota, IsInPlaceBesideTheNoteBeforeTheNoteSounds) {
+    BancoPrincipale b;
+    Nomi durante;
+    b.riquadri.durante = [&](const std::string&) {
+        EXPECT_TRUE(b.finestra.pentagramma.lblnn.Visible());
+        EXPECT_EQ(b.NoteInVista(), Note{43});
+        durante.push_back(b.finestra.pentagramma.lblnn.Caption());
+    };
+    b.Clicca(3, "lblMn");
+    b.Quando(3.5, [&] { b.uscita.esitoShortMsg = 67; });
+    b.Clicca(4, "Start");
+    b.Fine(5);
+    b.Avvia();
+    EXPECT_EQ(durante, (Nomi{"Si", "Si"})) << "while the boxes of the failed messages are up";
+}
+
 TEST(NomeDellaNota, TheLowestThreeAreNamedAndSoundedByTheirLowCodes) {
     BancoPentagramma b;
     const std::vector<std::tuple<int, std::string, int>> attese = {
