@@ -76,9 +76,9 @@ TEST(Pulsi, AfterTheEndAllThreeNotesAreReleasedInOrderAndTheLightsAreGrey) {
 TEST(Pulsi, ATempoChangedDuringARunChangesTheNextBeatWithoutRestartingThePattern) {
     BancoPulsi b;
     b.Clicca(4, "cmdSSmetro");
-    b.Slitta(5.5, "MetroTempoS", 120);
-    b.Vai(7.2);
-    const std::vector<std::pair<double, int>> attesi = {{5, 76}, {6, 85}, {6.5, 76}, {7, 85}};
+    b.Slitta(4.5, "MetroTempoS", 120);
+    b.Vai(6.7);
+    const std::vector<std::pair<double, int>> attesi = {{5, 76}, {5.5, 85}, {6, 76}, {6.5, 85}};
     const auto pulsi = b.Pulsi();
     ASSERT_EQ(pulsi.size(), attesi.size());
     for (std::size_t i = 0; i < attesi.size(); ++i) {
@@ -91,9 +91,14 @@ TEST(Pulsi, ACustomPatternOfTwentyLettersLightsAllTwentyLamps) {
     BancoPulsi b;
     b.Quando(3.5, [&] { b.stato.MetroSequenza = "abcabcabcabcabcabcab"; });
     b.Clicca(4, "cmdSSmetro");
-    b.Vai(4.5);
-    for (const Etichetta& luce : b.metronomo.lblPuls)
-        EXPECT_TRUE(luce.Visible());
+    const std::array colori = {Rgb(255, 0, 0), Rgb(0, 255, 0), Rgb(0, 0, 255)};
+    for (std::size_t i = 0; i < 20; ++i)
+        b.Quando(5.5 + static_cast<double>(i), [&, i] {
+            EXPECT_TRUE(b.metronomo.lblPuls[i].Visible()) << i;
+            EXPECT_EQ(b.Luce(i), colori.at(i % 3)) << i;
+        });
+    b.Vai(24.9);
+    EXPECT_EQ(b.Pulsi().size(), 20U);
 }
 
 TEST(Pulsi, TheLampsOfALongerPatternGoOutWhenAShorterOneStarts) {
@@ -114,9 +119,14 @@ TEST(Pulsi, TheTimeSignatureDoesNothingDuringARun) {
     BancoPulsi b;
     b.Clicca(4, "cmdSSmetro");
     b.Clicca(4.5, "lblTs");
+    b.Quando(5.5, [&] { EXPECT_EQ(b.Luce(0), Rgb(255, 0, 0)); });
     b.Vai(6.5);
     EXPECT_EQ(b.metronomo.lblTs.Caption(), "2/4");
+    EXPECT_EQ(b.stato.MetroTempo, "2/4");
     EXPECT_EQ(b.stato.MetroSequenza, "ab");
+    EXPECT_EQ(b.Luce(1), Rgb(0, 255, 0));
+    for (std::size_t i = 0; i < 20; ++i)
+        EXPECT_EQ(b.metronomo.lblPuls[i].Visible(), i < 2) << i;
 }
 
 TEST(Pulsi, ClosingTheWindowWhileItTicksHasNoEffect) {
