@@ -119,6 +119,13 @@ TEST(ConfMetro, TypedLettersAreTakenInEitherCaseAndOthersDropped) {
         EXPECT_EQ(frmConfMetro::txtPattern_KeyPress(altro), 0U);
 }
 
+TEST(ConfMetro, ThePatternsBoxAloneFiltersWhatIsTyped) {
+    BancoProgramma b;
+    const frmConfMetro conf(b.Tutto());
+    EXPECT_EQ(conf.txtPattern.Filtro, &frmConfMetro::txtPattern_KeyPress);
+    EXPECT_EQ(conf.txtTempo.Filtro, nullptr);
+}
+
 TEST(ConfMetro, TheBoxesHaveTheirLimits) {
     BancoProgramma b;
     const frmConfMetro conf(b.Tutto());
