@@ -208,6 +208,7 @@ TEST(TagliaAMano, ANoteOfOneCharacterCantBeDroppedAlone) {
     b.Tocca("cmdCanc");
     EXPECT_EQ(b.Testi()[0], "0;");
     EXPECT_FALSE(b.Modificata());
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 TEST(TagliaAMano, TextsThatAreNotParallelAreAFaultThatIsReportedAndChangesNothing) {

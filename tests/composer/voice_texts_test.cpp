@@ -30,6 +30,15 @@ TEST(MostraNoteVoce, With30NotesShowsNoMoreThan40CharactersFromTheMiddleOfASolSh
     EXPECT_EQ(b.finestra.voci.LblNoteString.Caption(), Ripetuto("Sol#;", 8));
 }
 
+TEST(MostraNoteVoce, Of41CharactersTheFirstIsCutOffAnd40AreShownWhole) {
+    BancoComposer b;
+    b.Voce(soprano, Ripetuto("68;60;", 5), "1");
+    EXPECT_EQ(b.finestra.voci.LblNoteString.Caption(), Ripetuto("Sol#;Do;", 5));
+    b.Voce(soprano, Ripetuto("67;", 5) + Ripetuto("60;", 7), "1");
+    EXPECT_EQ(b.finestra.voci.LblNoteString.Caption(),
+              "ol;" + Ripetuto("Sol;", 4) + Ripetuto("Do;", 7));
+}
+
 TEST(MostraNoteVoce, WithTheLastNoteBoxAt5OnAVoiceOf10NotesTheDisplayEndsAtTheFifthNote) {
     BancoComposer b;
     b.Voce(soprano, "60;62;64;65;67;69;71;72;74;76;", "1");
