@@ -23,6 +23,13 @@ struct BancoCaricato : BancoProgramma {
     }
 };
 
+std::string Scritta(const Controllo& controllo) {
+    for (const ProprietaBase* proprieta : controllo.ListaProprieta())
+        if (proprieta->NomeProprieta() == &Valori::Caption)
+            return std::get<std::string>(proprieta->Leggi());
+    return {};
+}
+
 }  // namespace
 
 TEST(LinguaAlCaricamento, TheMainWindowReadsIt) {
@@ -72,6 +79,38 @@ TEST(LinguaAlCaricamento, TheEarTrainerReadsIt) {
     frmInto finestra{b.Tutto(), {niente, niente, niente, {}}};
     b.Carica(finestra, "169;frmInto;letto");
     EXPECT_EQ(finestra.telaio.cmdEsci.Caption(), "letto");
+}
+
+TEST(LinguaAlCaricamento, AChangeInTheMainWindowReachesTheOthersAtTheirNextLoadOnly) {
+    struct Caso {
+        const char *voce, *controllo, *riga;
+    };
+    for (const auto& [voce, controllo, riga] :
+         {Caso{"cmdSetup", "Label1", "71;frmConfMetro;"},
+          {"mnuMidiTest", "Label1", "76;frmMidiTest;"},
+          {"mnuPromemoria", "cmdOK", "84;frmOptions;"},
+          {"mnuRac", "cmdEsci", "169;frmInto;"},
+          {"mnuComposer", "cmdInsPausa", "277;frmComposer;"}}) {
+        BancoProgramma b;
+        // The ear trainer stays open while its prompt is this one, also when both are empty.
+        const std::string invito = "182;frmInto;invito\n";
+        b.file.contenuti["/programma/langit.csv"] = invito + riga + "prima\n";
+        b.file.contenuti["/programma/langen.csv"] = invito + riga + "dopo\n";
+        const auto scritta = [&, nome = controllo] {
+            return Scritta(*b.finestre.Davanti()->Trova(nome));
+        };
+        b.Clicca(3, "mnuMetro");
+        b.Clicca(4, voce);
+        b.Quando(5, [&] {
+            EXPECT_EQ(scritta(), "prima") << riga;
+            b.finestra.mnuEn_Click();
+            EXPECT_EQ(scritta(), "prima") << riga;
+        });
+        b.Chiudi(6);
+        b.Clicca(7, voce);
+        b.Quando(8, [&] { EXPECT_EQ(scritta(), "dopo") << riga; });
+        b.Vai(9);
+    }
 }
 
 TEST(LinguaAlCaricamento, WithoutItsFileTheTextsOfTheDesignStayAndNothingIsTold) {

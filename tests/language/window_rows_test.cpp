@@ -122,4 +122,15 @@ TEST(RigheNelleFinestre, AnIdOutsideOfTheWindowsSetChangesNothing) {
     }
 }
 
+TEST(RigheNelleFinestre, AnIdOfAnotherWindowFiledUnderTheAboutBoxIsIgnored) {
+    BancoFinestra<frmAbout> b;
+    b.globali.PercorsoLingua = "/lang.csv";
+    for (int id = 0; id <= 400; ++id)
+        if (id < 79 || id > 82)
+            b.file.contenuti["/lang.csv"] += std::to_string(id) + ";frmAbout;nuovo\n";
+    UpdateString(b.Tutto(), b.finestra, BersagliDiFinestra("frmAbout"));
+    EXPECT_EQ(Leggono(b.finestra, "nuovo"), Luoghi{});
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
+}
+
 }  // namespace corvana::prova
