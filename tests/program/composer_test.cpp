@@ -148,8 +148,8 @@ TEST(StrumentiComposer, MnuSsDuringAPlayOpensNothing) {
     for (const char* comando : {"mnuSs", "mnuSsCont", "pictCi", "ToolButton2"})
         b.Clicca(7, comando);
     b.Quando(8, [&] {
+        ASSERT_EQ(b.finestre.Davanti()->Name, "frmComposer");
         EXPECT_TRUE(b.Composer().stato.inEsecuzione);
-        EXPECT_EQ(b.finestre.Davanti()->Name, "frmComposer");
     });
     EXPECT_TRUE(b.Vai(9));
 }
@@ -168,6 +168,15 @@ TEST(StrumentiComposer, ThePianosBaseDoesntSurviveAVisitToThePicker) {
             << "the poll goes on";
     });
     EXPECT_TRUE(b.Vai(9));
+}
+
+TEST(Copione, AnErrorOfItsOwnIsNoFaultOfTheHandlerInWhichItHappens) {
+    BancoComposizione b;
+    b.Clicca(3, "mnuComposer");
+    b.Clicca(4, "mnuSs");
+    b.Clicca(5, "nowhere");
+    EXPECT_THROW(b.Vai(6), std::logic_error);
+    EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
 }  // namespace corvana::prova

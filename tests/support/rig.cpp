@@ -1,5 +1,8 @@
 #include "tests/support/rig.h"
 
+#include <stdexcept>
+#include <utility>
+
 namespace corvana::prova {
 
 namespace {
@@ -11,11 +14,26 @@ Evento EventoTasto(Fatto fatto, int codice) {
     return e;
 }
 
+/// What the program doesn't take for a fault of its own.
+struct ErroreCopione {
+    std::string cosa;
+};
+
 }  // namespace
 
 Banco::Banco() {
     globali.CartellaProgramma = "/programma";
     impostazioni.Prepara();
+}
+
+void Banco::Quando(double t, OrologioVirtuale::Passo passo) {
+    orologio.Quando(t, [passo = std::move(passo)] {
+        try {
+            passo();
+        } catch (const std::exception& errore) {
+            throw ErroreCopione{errore.what()};
+        }
+    });
 }
 
 Evento Banco::Fatta(Evento evento, const std::string& controllo) const {
@@ -79,6 +97,8 @@ bool Banco::SvolgiCopione(const std::function<void()>& logica) {
         return false;
     } catch (const FineCopione&) {
         return true;
+    } catch (const ErroreCopione& errore) {
+        throw std::logic_error(errore.cosa);
     }
 }
 

@@ -63,8 +63,9 @@ struct Banco {
                 impostazioni, altri, altra,    &custode};
     }
 
-    /// At the instant `t` of the script (seconds): anything, or an event of the window in front.
-    void Quando(double t, OrologioVirtuale::Passo passo) { orologio.Quando(t, std::move(passo)); }
+    /// At the instant `t` of the script (seconds): anything, or an event of the window in front. An
+    /// exception of the script's own ends the run: it is no fault of the program's.
+    void Quando(double t, OrologioVirtuale::Passo passo);
     void Clicca(double t, const std::string& controllo, int valore = 0);
     void Premi(double t, int codice);
     void Lascia(double t, int codice);
