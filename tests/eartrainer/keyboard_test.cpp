@@ -54,7 +54,26 @@ TEST(TastieraInto, HoldingZOnTheTonalityPageLightsItsKeyAndAClickOnThatKeyDoesNo
     b.Vai(3);
     EXPECT_EQ(b.Accesi(), Tasti{12});
     EXPECT_EQ(b.Punti(), "0 0 0");
+    EXPECT_TRUE(b.Segnati().empty());
     EXPECT_EQ(b.Note(1), Suonati{"0.0 48 90"});
+}
+
+TEST(TastieraInto, OnThePagesOfIntervalsAndTonalityAClickOnAKeyIsNeitherALimitNorAnAnswer) {
+    for (const P pagina : {P::Intervalli, P::Tonalita})
+        for (const bool daIntonazione : {false, true}) {
+            BancoInto b{pagina};
+            b.suono.IntoAttesa = true;
+            if (daIntonazione) b.globali.PaginaInto.front() = true;
+            std::string passo;
+            b.Quando(1, [&] { passo = b.Passo(); });
+            for (const int tasto : {12, 24, 52, b.into.IntoNota + 0})
+                b.Tasto(2, tasto);
+            b.Vai(3);
+            EXPECT_EQ(b.Passo(), passo);
+            EXPECT_EQ(b.Punti(), "0 0 0");
+            EXPECT_TRUE(b.Segnati().empty() && b.Visibile("cmdEsci"));
+            EXPECT_TRUE(b.Note(1).empty() && b.riquadri.messaggi.empty());
+        }
 }
 
 TEST(TastieraInto, ADoubleClickOnThePercentageOrOnMiddleCMovesThePianoByOctaves) {
