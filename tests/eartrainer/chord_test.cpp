@@ -172,22 +172,30 @@ TEST(Accordi, ExcludingEveryTypeDuringARunLeavesTheChordAndNothingAnswersUntilSt
     EXPECT_TRUE(b.uscita.NoteAccese().empty());
 }
 
-TEST(Accordi, StartWithNothingAdmittedSoundsNothingAndHidesTheButtonsUntilTheSecondClick) {
+TEST(Accordi, StartWithNothingAdmittedClearsTheScoreAndHidesTheButtonsUntilTheSecondClick) {
     BancoAccordi b;
-    for (int tipo = 0; tipo < 4; ++tipo)
-        b.Clicca(2.5, "EsclTa" + std::to_string(tipo));
+    b.Chiedi(1, 12);
     b.Clicca(3, "ComdRacStart");
-    b.Quando(4, [&] {
+    b.Clicca(4, "TipoAcc0");
+    b.Clicca(5, "ComdRacStart");
+    b.Quando(6, [&] {
+        EXPECT_TRUE(b.Visibile("cmdEsci") && b.Visibile("cmdRes"));
+        EXPECT_EQ(b.Punti(), "0 1 0.00%");
+    });
+    for (int tipo = 0; tipo < 4; ++tipo)
+        b.Clicca(6.5, "EsclTa" + std::to_string(tipo));
+    b.Clicca(7, "ComdRacStart");
+    b.Quando(8, [&] {
         EXPECT_EQ(b.Testo("ComdRacStart"), "Stop");
         EXPECT_FALSE(b.Visibile("cmdEsci"));
         EXPECT_FALSE(b.Visibile("cmdRes"));
         EXPECT_EQ(b.Punti(), "0 0 0");
     });
-    b.Clicca(5, "ComdRacStart");
-    b.Vai(6);
+    b.Clicca(9, "ComdRacStart");
+    b.Quando(8.9, [&] { EXPECT_TRUE(b.Note(6).empty()); });
+    b.Vai(10);
     EXPECT_EQ(b.Testo("ComdRacStart"), "Start");
-    EXPECT_TRUE(b.Visibile("cmdEsci"));
-    EXPECT_TRUE(b.Note(2.5).empty());
+    EXPECT_TRUE(b.Visibile("cmdEsci") && b.Visibile("cmdRes"));
 }
 
 TEST(Accordi, AnInstrumentChosenInARunTakesTheRangeAndNoChordOutsideOfTheKeysIsStruck) {
