@@ -1,0 +1,150 @@
+#include "tests/desktop/visit.h"
+
+#include <QAction>
+#include <QMainWindow>
+
+namespace corvana::prova {
+
+Visita::Visita()
+    : PalcoAMano({}, [this](Macchina& macchina) {
+          DaiCasa(casa, macchina, QStringLiteral(CORVANA_DATA));
+          macchina.uscite = [this](std::function<double()> istante) {
+              auto fatta = std::make_unique<Registratore>(std::move(istante));
+              suonato = fatta.get();
+              return fatta;
+          };
+      }) {
+    Calma();
+}
+
+void Visita::Scegli(const std::string& voce) {
+    QAction& scelta = TrovaVoce(scrivania, QString::fromStdString(voce));
+    if (!scelta.isEnabled()) throw std::logic_error(voce + " can't be chosen");
+    scelta.trigger();
+    Calma();
+}
+
+void Visita::Attendi(const std::string& finestra) {
+    AspettaFinestra(scrivania, QString::fromStdString(finestra));
+    Calma();
+}
+
+void Visita::TornaA(const std::string& finestra) {
+    scrivania.Davanti()->Finestra().close();
+    Attendi(finestra);
+}
+
+void Visita::Guarda() {
+    if (guarda) guarda(scrivania.Davanti()->Finestra().objectName().toStdString());
+}
+
+void Visita::Tutto() {
+    Principale();
+    Piccole();
+    Orecchio();
+    Composer();
+    Promemoria();
+}
+
+void Visita::Principale() {
+    Guarda();
+    Scegli("mnuAutomatico");
+    Guarda();
+    Scegli("mnuNormale");
+    Scegli("mnuMetro");
+    Guarda();
+    Tocca("lblX12");
+    Guarda();
+    Tocca("lblX12");
+    Tocca("lblCloseMetro");
+}
+
+void Visita::Sopra(const std::function<void()>& apri, const std::string& finestra,
+                   const std::string& sotto) {
+    apri();
+    Attendi(finestra);
+    Guarda();
+    TornaA(sotto);
+}
+
+void Visita::Piccole() {
+    for (const auto& [voce, finestra] : {std::pair{"mnuVersione", "frmAbout"},
+                                         {"mnuSs", "frmStrum"},
+                                         {"mnuMidiTest", "frmMidiTest"}})
+        Sopra([this, v = voce] { Scegli(v); }, finestra, "CorvanaMainF");
+    Scegli("mnuMetro");
+    Sopra([this] { Tocca("cmdSetup"); }, "frmConfMetro", "CorvanaMainF");
+    Tocca("lblCloseMetro");
+}
+
+void Visita::ToccaTasto(const std::string& nome) {
+    Tocca(nome, QPoint(Di(nome).width() / 2, Di(nome).height() * 9 / 10));
+}
+
+void Visita::Prova(const std::string& start, const std::string& aiuto) {
+    Tocca(start);
+    if (!aiuto.empty()) Tocca(aiuto);
+    Guarda();
+    if (!aiuto.empty()) Tocca(aiuto);
+    Tocca(start);
+    Guarda();
+}
+
+void Visita::Orecchio() {
+    Scegli("mnuRac");
+    Attendi("frmInto");
+    Guarda();
+    ToccaTasto("lb12");
+    ToccaTasto("lb36");
+    Prova("ComdRacStart", {});
+    Scegli("mnuNotA");
+    Guarda();
+    Prova("IntoStart", "lblIntoSh");
+    Scegli("mnuRint");
+    Tocca("lblFv");
+    Guarda();
+    Tocca("lblFv");
+    Prova("CmdIntStart", "lblIntSh");
+    Scegli("mnuRicTasto");
+    Prova("cmdRicTasto", {});
+    Scegli("mnuRicTo");
+    Prova("cmdT", "lblTsh");
+    Sopra([this] { Scegli("mnuSs"); }, "frmStrum", "frmInto");
+    TornaA("CorvanaMainF");
+}
+
+void Visita::Composer() {
+    Scegli("mnuComposer");
+    Attendi("frmComposer");
+    Guarda();
+    Tocca("lblTs");
+    Guarda();
+    Tocca("lblTs");
+    Tocca("cmdInsNota");
+    Tocca("lblStep1");
+    Guarda();
+    Tocca("cmdAddBm");
+    Rispondi("uno");
+    Guarda();
+    Sopra([this] { Tocca("pictCi"); }, "frmStrum", "frmComposer");
+    Scegli("mnuApri");
+    Guarda();
+    Sopra([this] { Scegli("mnuCopyFromA"); }, "frmCopyFromA", "frmComposer");
+    scrivania.Davanti()->Finestra().close();
+    Calma();
+    Decidi(true);
+    Attendi("CorvanaMainF");
+}
+
+void Visita::Promemoria() {
+    Scegli("mnuPromemoria");
+    Attendi("frmOptions");
+    Guarda();
+    for (const char* bottone : {"cmdSel1", "Ton16", "cmdSel2"}) {
+        Tocca(bottone);
+        Guarda();
+    }
+    TornaA("CorvanaMainF");
+}
+
+}  // namespace corvana::prova

@@ -1,0 +1,47 @@
+// A visit of the whole program: every window, every page and panel of it that can be brought to the
+// front, one after the other. Files are in memory. GUI thread.
+#pragma once
+
+#include "sound/recorder.h"
+#include "tests/desktop/hand_stage.h"
+#include "tests/desktop/memory_home.h"
+
+namespace corvana::prova {
+
+struct CasaDiMemoria {
+    FileInMemoria casa;
+    Registratore* suonato = nullptr;  ///< as long as the logic runs; to be read while it waits
+};
+
+class Visita : public CasaDiMemoria, public PalcoAMano {
+public:
+    Visita();
+
+    /// Called in each place, with the name of the window.
+    std::function<void(const std::string&)> guarda;
+
+    /// From the main window, at rest, and back to it.
+    void Tutto();
+
+    void Scegli(const std::string& voce);
+    /// The window that is to come to the front.
+    void Attendi(const std::string& finestra);
+    /// Closes the window in front; that one lies beneath.
+    void TornaA(const std::string& finestra);
+
+private:
+    void Guarda();
+    void Principale();
+    void Piccole();
+    void Orecchio();
+    void Composer();
+    void Promemoria();
+    /// Of a white key the part that no black one covers.
+    void ToccaTasto(const std::string& nome);
+    /// A drill with its answer shown, if `aiuto` isn't empty, and ended.
+    void Prova(const std::string& start, const std::string& aiuto);
+    void Sopra(const std::function<void()>& apri, const std::string& finestra,
+               const std::string& sotto);
+};
+
+}  // namespace corvana::prova
