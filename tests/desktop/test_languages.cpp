@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <algorithm>
 #include <fstream>
 
 #include "core/text.h"
@@ -11,19 +12,6 @@
 
 namespace corvana::prova {
 namespace {
-
-/// What was read, by window and place: in one place it may change with what the window does.
-using Lette = std::map<std::string, std::map<std::string, std::set<std::string>>>;
-
-Lette LeggiTutto(Visita& visita) {
-    Lette lette;
-    visita.guarda = [&](const std::string& finestra) {
-        for (const auto& [posto, testo] : LeggiFinestra(visita.scrivania))
-            lette[finestra][posto].insert(testo);
-    };
-    visita.Tutto();
-    return lette;
-}
 
 bool Legge(const std::set<std::string>& testi, std::string_view parole) {
     return std::ranges::any_of(
@@ -109,14 +97,77 @@ void ControllaCambio(const Letture& prima, const Letture& dopo, const Traduzioni
     }
 }
 
+/// What a window says in one state or another, in the words of a row.
+struct Stato {
+    const char *finestra, *posto;
+    int riga;
+};
+
+constexpr Stato stati[] = {{"CorvanaMainF", "lblX12.tip", 54},
+                           {"CorvanaMainF", "lblX12.tip", 55},
+                           {"frmStrum", "VoceAttiva1.tip", 380},
+                           {"frmStrum", "VoceAttiva2.tip", 381},
+                           {"frmStrum", "VoceAttiva3.tip", 382},
+                           {"frmConfMetro", "Text1", 73},
+                           {"frmConfMetro", "Text1", 74},
+                           {"frmInto", "ToolButton1.tip", 6},
+                           {"frmInto", "ToolButton2.tip", 160},
+                           {"frmInto", "ToolButton3.tip", 161},
+                           {"frmInto", "ToolButton4.tip", 163},
+                           {"frmInto", "ToolButton5.tip", 162},
+                           {"frmInto", "ToolButton6.tip", 78},
+                           {"frmInto", "ToolButton7.tip", 49},
+                           {"frmInto", "lblMod.tip", 175},
+                           {"frmInto", "lblModo.tip", 188},
+                           {"frmInto", "lblStep", 183},
+                           {"frmInto", "lblStep", 215},
+                           {"frmInto", "lblStep", 216},
+                           {"frmInto", "lblStep", 241},
+                           {"frmInto", "Il3.tip", 205},
+                           {"frmInto", "Il1.tip", 206},
+                           {"frmInto", "lblFv", 208},
+                           {"frmInto", "lblFv", 209},
+                           {"frmInto", "EsclTa0.tip", 220},
+                           {"frmInto", "lblVt", 224},
+                           {"frmInto", "lblVt.tip", 226},
+                           {"frmInto", "lblT(0).tip", 237},
+                           {"frmInto", "lblT(1).tip", 238},
+                           {"frmInto", "lblSolotb.tip", 239},
+                           {"frmInto", "lblSolotb.tip", 240},
+                           {"frmInto", "lblMod.tip", 176},
+                           {"frmInto", "lblModo.tip", 189},
+                           {"frmInto", "lblModo.tip", 190},
+                           {"frmInto", "lblVt", 225},
+                           {"frmInto", "lblVt.tip", 227},
+                           {"frmInto", "lblSceltaTasti", 240},
+                           {"frmInto", "lblSceltaTasti", 239},
+                           {"frmComposer", "mnuPiano", 43},
+                           {"frmComposer", "mnuOrgano", 42},
+                           {"frmComposer", "lstBookMark[0]", 356}};
+
+std::string_view ParoleDi(int id, std::string_view RigaAttesa::*parole) {
+    for (const FinestraAttesa& finestra : FinestreAttese())
+        for (const RigaAttesa& riga : finestra.righe)
+            if (riga.id == id) return riga.*parole;
+    throw std::logic_error("no row " + std::to_string(id));
+}
+
+void ControllaStati(Lette& lette, std::string_view RigaAttesa::*parole) {
+    for (const Stato& stato : stati)
+        EXPECT_TRUE(Legge(lette[stato.finestra][stato.posto], ParoleDi(stato.riga, parole)))
+            << stato.finestra << ' ' << stato.posto << ' ' << stato.riga;
+}
+
 TEST(LingueNelleFinestre, EachRowIsReadWhereItBelongsInTheLanguageThatIsChosen) {
     Visita visita;
-    Lette italiano = LeggiTutto(visita);
+    Lette italiano = visita.LeggiTutto();
     ControllaRighe(italiano, &RigaAttesa::italiano);
+    ControllaStati(italiano, &RigaAttesa::italiano);
     ControllaAssenti(italiano, "langit.csv", "langen.csv");
     visita.Scegli("mnuEn");
-    Lette inglese = LeggiTutto(visita);
+    Lette inglese = visita.LeggiTutto();
     ControllaRighe(inglese, &RigaAttesa::inglese);
+    ControllaStati(inglese, &RigaAttesa::inglese);
     ControllaAssenti(inglese, "langen.csv", "langit.csv");
 }
 

@@ -46,6 +46,16 @@ void Visita::Tutto() {
     Promemoria();
 }
 
+Lette Visita::LeggiTutto() {
+    Lette lette;
+    guarda = [&](const std::string& finestra) {
+        for (const auto& [posto, testo] : LeggiFinestra(scrivania))
+            lette[finestra][posto].insert(testo);
+    };
+    Tutto();
+    return lette;
+}
+
 void Visita::Principale() {
     Guarda();
     Scegli("mnuAutomatico");
@@ -53,9 +63,7 @@ void Visita::Principale() {
     Scegli("mnuNormale");
     Scegli("mnuMetro");
     Guarda();
-    Tocca("lblX12");
-    Guarda();
-    Tocca("lblX12");
+    Rigira("lblX12", 2);
     Tocca("lblCloseMetro");
 }
 
@@ -81,6 +89,13 @@ void Visita::ToccaTasto(const std::string& nome) {
     Tocca(nome, QPoint(Di(nome).width() / 2, Di(nome).height() * 9 / 10));
 }
 
+void Visita::Rigira(const std::string& nome, int volte) {
+    for (int volta = 0; volta < volte; ++volta) {
+        Tocca(nome);
+        Guarda();
+    }
+}
+
 void Visita::Prova(const std::string& start, const std::string& aiuto) {
     Tocca(start);
     if (!aiuto.empty()) Tocca(aiuto);
@@ -94,18 +109,21 @@ void Visita::Orecchio() {
     Scegli("mnuRac");
     Attendi("frmInto");
     Guarda();
+    Rigira("lblVt", 2);
     ToccaTasto("lb12");
     ToccaTasto("lb36");
     Prova("ComdRacStart", {});
     Scegli("mnuNotA");
     Guarda();
+    Rigira("lblMod", 2);
+    Rigira("lblSolotb", 2);
     Prova("IntoStart", "lblIntoSh");
     Scegli("mnuRint");
-    Tocca("lblFv");
-    Guarda();
-    Tocca("lblFv");
+    Rigira("lblFv", 2);
+    Rigira("lblModo", 4);
     Prova("CmdIntStart", "lblIntSh");
     Scegli("mnuRicTasto");
+    Rigira("lblSceltaTasti", 2);
     Prova("cmdRicTasto", {});
     Scegli("mnuRicTo");
     Prova("cmdT", "lblTsh");

@@ -5,6 +5,7 @@
 #include "sound/recorder.h"
 #include "tests/desktop/hand_stage.h"
 #include "tests/desktop/memory_home.h"
+#include "tests/desktop/readings.h"
 
 namespace corvana::prova {
 
@@ -12,6 +13,9 @@ struct CasaDiMemoria {
     FileInMemoria casa;
     Registratore* suonato = nullptr;  ///< as long as the logic runs; to be read while it waits
 };
+
+/// What was read, by window and place: in one place it changes with what the window does.
+using Lette = std::map<std::string, std::map<std::string, std::set<std::string>>>;
 
 class Visita : public CasaDiMemoria, public PalcoAMano {
 public:
@@ -22,6 +26,7 @@ public:
 
     /// From the main window, at rest, and back to it.
     void Tutto();
+    Lette LeggiTutto();
 
     void Scegli(const std::string& voce);
     /// The window that is to come to the front.
@@ -38,6 +43,8 @@ private:
     void Promemoria();
     /// Of a white key the part that no black one covers.
     void ToccaTasto(const std::string& nome);
+    /// Clicks what has so many states, until it is back in the first.
+    void Rigira(const std::string& nome, int volte);
     /// A drill with its answer shown, if `aiuto` isn't empty, and ended.
     void Prova(const std::string& start, const std::string& aiuto);
     void Sopra(const std::function<void()>& apri, const std::string& finestra,
