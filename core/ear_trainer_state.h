@@ -3,9 +3,20 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 namespace corvana {
+
+/// The pages, in the order of their flags, in which the flagged ones are entered: the last one
+/// stays in front.
+enum class PaginaInto : std::uint8_t { Intonazione, Intervalli, Accordi, Tasti, Tonalita };
+
+constexpr std::array pagineInto = {PaginaInto::Intonazione, PaginaInto::Intervalli,
+                                   PaginaInto::Accordi, PaginaInto::Tasti, PaginaInto::Tonalita};
+
+/// Which pages the ear trainer is to open on.
+using BandiereInto = std::array<bool, pagineInto.size()>;
 
 /// A range that wasn't chosen.
 constexpr std::int16_t limiteAssente = -1;

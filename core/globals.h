@@ -79,8 +79,8 @@ struct Globali {
     bool PickerAperto = false;
     StatoMetronomo metronomo;
     StatoInto into;
-    std::int32_t ContestoInto = 0;     ///< help page that the ear trainer opens with
-    std::array<bool, 5> PaginaInto{};  ///< the page that the ear trainer opens on
+    std::int32_t ContestoInto = 0;  ///< help page that the ear trainer opens with
+    BandiereInto PaginaInto{};      ///< the page that the ear trainer opens on
     TestiLingua testi;
 };
 

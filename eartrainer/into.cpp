@@ -102,11 +102,9 @@ void frmInto::Form_Activate() {
     telaio.punti.NascondiEsito();
     // The flags change as the pages are entered: a page whose flag another one clears before its
     // turn isn't entered, and the last one stays in front.
-    constexpr std::array ingressi = {&frmInto::mnuNotA_Click, &frmInto::mnuRint_Click,
-                                     &frmInto::mnuRicTa_Click, &frmInto::mnuRicTasto_Click,
-                                     &frmInto::mnuRicTo_Click};
-    for (std::size_t i = 0; i < ingressi.size(); ++i)
-        if (a_.globali.PaginaInto.at(i)) (this->*ingressi.at(i))();
+    const auto fogli = Fogli();
+    for (std::size_t i = 0; i < fogli.size(); ++i)
+        if (a_.globali.PaginaInto.at(i)) (this->*fogli.at(i).entra)();
     BaseTastiera = baseDiPartenza;
 }
 

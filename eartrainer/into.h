@@ -76,6 +76,13 @@ private:
     void PonConsigli();
     void PonStrumento(std::int32_t programma);
     void PonNomi(bool anglo);
+    /// A page as the window sees it: its frame, and the entry to it.
+    struct Foglio {
+        Cornice& cornice;
+        void (frmInto::*entra)();
+    };
+    /// In the order of their flags.
+    std::array<Foglio, pagineInto.size()> Fogli();
     /// What entering any page does: its frame in front, its help, its flag.
     void MostraPagina(PaginaInto pagina);
     bool PuoChiudersi() const;

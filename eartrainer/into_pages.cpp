@@ -3,15 +3,21 @@
 
 namespace corvana {
 
+std::array<frmInto::Foglio, pagineInto.size()> frmInto::Fogli() {
+    return {{{intonazione.frmInto2, &frmInto::mnuNotA_Click},
+             {intervalli.FrmIntervalli, &frmInto::mnuRint_Click},
+             {accordi.frmRacc, &frmInto::mnuRicTa_Click},
+             {tasti.frmRicTasto, &frmInto::mnuRicTasto_Click},
+             {tonalita.frmTo, &frmInto::mnuRicTo_Click}}};
+}
+
 void frmInto::MostraPagina(PaginaInto pagina) {
     telaio.tastiera.SpegniBarre();
     a_.globali.PaginaInto = DopoIngresso(a_.globali.PaginaInto, pagina);
     HelpContextID = AiutoDi(pagina);
-    const std::array<Cornice*, pagineInto.size()> cornici = {
-        &intonazione.frmInto2, &intervalli.FrmIntervalli, &accordi.frmRacc, &tasti.frmRicTasto,
-        &tonalita.frmTo};
+    const auto fogli = Fogli();
     for (const PaginaInto altra : pagineInto)
-        cornici.at(static_cast<std::size_t>(altra))->Visible = altra == pagina;
+        fogli.at(static_cast<std::size_t>(altra)).cornice.Visible = altra == pagina;
     if (pagina != PaginaInto::Intonazione) intonazione.Nascondi();
     if (pagina != PaginaInto::Tonalita) telaio.punti.Azzera();
 }

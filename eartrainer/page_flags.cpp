@@ -6,16 +6,17 @@ namespace {
 
 struct RigaPagina {
     int aiuto;
-    std::array<bool, pagineInto.size()> spegne;  ///< flags that entering it clears
+    BandiereInto spegne;  ///< flags that entering it clears
 };
 
-constexpr std::array<RigaPagina, pagineInto.size()> righePagine = {{
-    {3, {}},
-    {5, {true}},
-    {7, {true, true, false, true, true}},
-    {20, {false, false, false, false, true}},
-    {30, {}},
-}};
+constexpr std::array righePagine = {
+    RigaPagina{3, {}},
+    RigaPagina{5, {true}},
+    RigaPagina{7, {true, true, false, true, true}},
+    RigaPagina{20, {false, false, false, false, true}},
+    RigaPagina{30, {}},
+};
+static_assert(righePagine.size() == pagineInto.size(), "a row for each page");
 
 const RigaPagina& RigaDiPagina(PaginaInto pagina) {
     return righePagine.at(static_cast<std::size_t>(pagina));

@@ -40,7 +40,8 @@ CorvanaMainF::CorvanaMainF(const Ambiente& ambiente, Secondarie secondarie)
 
 PannelloBarra::Comandi CorvanaMainF::ComandiDellaBarra() {
     std::function<void()> into;
-    if (secondarie_.frmInto) into = [this] { ApriInto(a_.globali, secondarie_, 3, 0); };
+    if (secondarie_.frmInto)
+        into = [this] { ApriInto(a_.globali, secondarie_, 3, PaginaInto::Intonazione); };
     return {{into, &menu.es},
             {secondarie_.frmComposer, &menu.Risorse},
             {secondarie_.metronomo.alterna, &menu.Risorse, false},

@@ -11,14 +11,14 @@ MenuPrincipale::MenuPrincipale(Form& finestra, const Ambiente& ambiente,
                                const Secondarie& secondarie, StatoEsercizio& stato)
     : finestra_(finestra), a_(ambiente), secondarie_(secondarie), stato_(stato) {
     mnuNormale.Checked = true;
-    const auto into = [this](std::optional<std::int32_t> contesto, std::size_t pagina) {
+    const auto into = [this](std::optional<std::int32_t> contesto, PaginaInto pagina) {
         return [=, this] { ApriInto(a_.globali, secondarie_, contesto, pagina); };
     };
-    Intonazione.Click = into(3, 0);
-    mnuRint.Click = into(5, 1);
-    mnuRac.Click = into(7, 2);
-    mnuRicTasto.Click = into(std::nullopt, 3);
-    mnuRicTo.Click = into(std::nullopt, 4);
+    Intonazione.Click = into(3, PaginaInto::Intonazione);
+    mnuRint.Click = into(5, PaginaInto::Intervalli);
+    mnuRac.Click = into(7, PaginaInto::Accordi);
+    mnuRicTasto.Click = into(std::nullopt, PaginaInto::Tasti);
+    mnuRicTo.Click = into(std::nullopt, PaginaInto::Tonalita);
     mnuComposer.Click = [this] { Apri(secondarie_.frmComposer); };
     mnuMetro.Click = [this] { Apri(secondarie_.metronomo.apri); };
     mnuPromemoria.Click = [this] { Apri(secondarie_.frmOptions); };

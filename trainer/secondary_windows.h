@@ -31,9 +31,9 @@ inline void Apri(const std::function<void()>& finestra) {
 
 /// Opens the ear trainer on that page, and its help at `contesto`, or where it was.
 inline void ApriInto(Globali& globali, const Secondarie& secondarie,
-                     std::optional<std::int32_t> contesto, std::size_t pagina) {
+                     std::optional<std::int32_t> contesto, PaginaInto pagina) {
     if (contesto) globali.ContestoInto = *contesto;
-    globali.PaginaInto.at(pagina) = true;
+    globali.PaginaInto.at(static_cast<std::size_t>(pagina)) = true;
     Apri(secondarie.frmInto);
 }
 

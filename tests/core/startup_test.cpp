@@ -41,7 +41,7 @@ TEST(Main, EnglishGivesAngloNamesAndTheEnglishFiles) {
 }
 
 TEST(Main, AnyOtherLanguageGivesTheItalianFilesAndLatinNames) {
-    for (const char* lingua : {"it", "", "fr", "EN", " en", "english"}) {
+    for (const char* lingua : {"it", "", "xx", "EN", " en", "english"}) {
         BancoAvvio b;
         b.PonLinguaScelta(lingua);
         EXPECT_TRUE(b.Parti()) << lingua;
@@ -103,7 +103,7 @@ TEST(Globali, StartWithTheOrganAndLatinNames) {
     EXPECT_FALSE(globali.NomiAnglo);
     EXPECT_FALSE(globali.ComposerAperto);
     EXPECT_EQ(globali.ContestoInto, 0);
-    EXPECT_EQ(globali.PaginaInto, (std::array<bool, 5>{}));
+    EXPECT_EQ(globali.PaginaInto, (BandiereInto{}));
     EXPECT_EQ(globali.testi.TxtRisposteEsatte, "");
 }
 

@@ -58,7 +58,7 @@ void AscoltatoreDistratto::Apri() {
     if (Capita(50)) b.PonStato("10;40;60");
     for (bool& bandiera : b.globali.PaginaInto)
         bandiera = Capita(250);
-    b.globali.PaginaInto.at(static_cast<std::size_t>(Tra(0, 4))) = true;
+    b.globali.PaginaInto.at(static_cast<std::size_t>(Tra(0, pagineInto.size() - 1))) = true;
     b.Quando(0, [this] { Passo(); });
     bool chiusa = false;
     b.SvolgiCopione([&] {

@@ -140,8 +140,10 @@ bool ModelloPunti::Chiede(P pagina) const {
             return !mai_ && (altezza_ == Altezza::Pronta || altezza_ == Altezza::Corre);
         case P::Intervalli: return intervalli_ && Qualcuno(dimensioni_);
         case P::Accordi: return Corre(pagina) && Qualcuno(tipi_);
-        default: return Corre(pagina);
+        case P::Tasti:
+        case P::Tonalita: return Corre(pagina);
     }
+    return false;
 }
 
 void ModelloPunti::Conta(bool esatta) {
@@ -208,8 +210,9 @@ std::optional<std::string> ModelloPunti::Giusto() const {
         case P::Accordi:
             return tipo_ ? std::optional("TipoAcc" + std::to_string(*tipo_)) : std::nullopt;
         case P::Tasti: return "lb" + std::to_string(24 + classe_);
-        default: return "T" + std::to_string(cella_);
+        case P::Tonalita: return "T" + std::to_string(cella_);
     }
+    return {};
 }
 
 std::string ModelloPunti::Punti() const {

@@ -49,7 +49,7 @@ private:
 
     PaginaInto davanti_;
     BandiereInto bandiere_{};
-    std::array<bool, 5> corre_{};  ///< the Start button reads "Stop"
+    BandiereInto corre_{};  ///< the Start button reads "Stop"
     int giuste_ = 0, sbagliate_ = 0;
     char segno_ = ' ';
     bool domanda_ = false;  ///< the last click asks or asks again

@@ -100,7 +100,7 @@ TEST(Menu, EachExerciseOpensTheEarTrainerOnItsPageWithItsHelp) {
         b.Scegli({voce});
         EXPECT_EQ(b.aperte, Nomi{"frmInto"}) << voce;
         EXPECT_EQ(b.globali.ContestoInto, contesto) << voce;
-        std::array<bool, 5> pagine{};
+        BandiereInto pagine{};
         pagine.at(static_cast<std::size_t>(pagina)) = true;
         EXPECT_EQ(b.globali.PaginaInto, pagine) << voce;
     }
