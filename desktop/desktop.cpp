@@ -136,7 +136,7 @@ void Scrivania::Fai(const ApriMenu& comando) {
 
 void Scrivania::Fai(const MostraAiuto& comando) {
     if (!aiuto_)
-        aiuto_ = std::make_unique<FinestraAiuto>([this] {
+        aiuto_ = std::make_unique<FinestraAiuto>(parole_, [this] {
             if (VistaFinestra* davanti = Davanti()) davanti->Finestra().activateWindow();
         });
     VistaFinestra* davanti = Davanti();

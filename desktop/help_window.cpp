@@ -9,6 +9,7 @@
 #include <QToolBar>
 #include <QWindow>
 
+#include "desktop/aspect.h"
 #include "desktop/look.h"
 #include "desktop/placement.h"
 #include "desktop/theme.h"
@@ -24,26 +25,6 @@ constexpr QSize misura(740, 680);
 /// Narrower the lines would be too short to read well.
 constexpr int larghezzaMinima = 420;
 constexpr QLatin1String primaPagina("index.html");
-
-struct Parole {
-    QString titolo, indietro, avanti, indice, manca;
-};
-
-Parole ParoleItaliane() {
-    return {QStringLiteral("Aiuto"), QStringLiteral("‹ Indietro"), QStringLiteral("Avanti ›"),
-            QStringLiteral("Indice"),
-            QStringLiteral("Le pagine dell'aiuto non si trovano. Dovrebbero essere in:")};
-}
-
-Parole ParoleInglesi() {
-    return {QStringLiteral("Help"), QStringLiteral("‹ Back"), QStringLiteral("Forward ›"),
-            QStringLiteral("Contents"),
-            QStringLiteral("The pages of the help were not found. They should be in:")};
-}
-
-Parole NellaLingua(bool inglese) {
-    return inglese ? ParoleInglesi() : ParoleItaliane();
-}
 
 /// The pages and their pictures, these as sharp as the screen can show them.
 class Pagine final : public QTextBrowser {
@@ -66,8 +47,8 @@ public:
 
 }  // namespace
 
-FinestraAiuto::FinestraAiuto(std::function<void()> chiusa)
-    : chiusa_(std::move(chiusa)), testo_(new Pagine(this)) {
+FinestraAiuto::FinestraAiuto(const ParoleSchermo& parole, std::function<void()> chiusa)
+    : parole_(parole), chiusa_(std::move(chiusa)), testo_(new Pagine(this)) {
     setObjectName(QStringLiteral("FinestraAiuto"));
     setWindowRole(objectName());
     DisponiFoglio();
@@ -121,12 +102,10 @@ void FinestraAiuto::CambiaVolume(const QString& file) {
     if (isVisible()) Vai(QFileInfo(file), Pagina());
 }
 
-void FinestraAiuto::PonLingua(const QFileInfo& file) {
-    inglese_ = file.completeBaseName().endsWith(QLatin1String("en"));
-    const Parole parole = NellaLingua(inglese_);
-    indietro_->setText(parole.indietro);
-    avanti_->setText(parole.avanti);
-    indice_->setText(parole.indice);
+void FinestraAiuto::ScriviBottoni() {
+    indietro_->setText(InQt(parole_.parIndietro));
+    avanti_->setText(InQt(parole_.parAvanti));
+    indice_->setText(InQt(parole_.parIndice));
 }
 
 void FinestraAiuto::Colloca(const QWidget& accanto) {
@@ -141,7 +120,7 @@ void FinestraAiuto::Colloca(const QWidget& accanto) {
 }
 
 void FinestraAiuto::Vai(const QFileInfo& file, QString pagina) {
-    PonLingua(file);
+    ScriviBottoni();
     const QDir pagine(file.path() + QStringLiteral("/help/") + file.completeBaseName());
     if (pagina.isEmpty() || !pagine.exists(pagina)) pagina = primaPagina;
     const bool trovata = pagine.exists(pagina);
@@ -157,7 +136,7 @@ void FinestraAiuto::DiMancanza(const QString& cartella) {
     testo_->setSource(QUrl());
     testo_->clearHistory();
     testo_->setHtml(QStringLiteral("<p>%1</p><p><b>%2</b></p>")
-                        .arg(NellaLingua(inglese_).manca.toHtmlEscaped(),
+                        .arg(InQt(parole_.parAiutoManca).toHtmlEscaped(),
                              QDir::toNativeSeparators(cartella).toHtmlEscaped()));
     MettiTitolo();
 }
@@ -168,7 +147,7 @@ QString FinestraAiuto::Pagina() const {
 
 void FinestraAiuto::MettiTitolo() {
     const QString pagina = testo_->documentTitle();
-    const QString titolo = pagina.isEmpty() ? NellaLingua(inglese_).titolo : pagina;
+    const QString titolo = pagina.isEmpty() ? InQt(parole_.parAiuto) : pagina;
     setWindowTitle(titolo + QStringLiteral(" – ") + QString::fromLatin1(nomeProgramma));
 }
 

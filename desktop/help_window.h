@@ -5,6 +5,8 @@
 #include <QMainWindow>
 #include <functional>
 
+#include "forms/words.h"
+
 class QFileInfo;
 class QTextBrowser;
 
@@ -12,8 +14,9 @@ namespace corvana {
 
 class FinestraAiuto final : public QMainWindow {
 public:
-    /// `chiusa` is called when the user has closed the window.
-    explicit FinestraAiuto(std::function<void()> chiusa);
+    /// `parole`, which must outlive the window, may change: they are read at each page that is
+    /// shown. `chiusa` is called when the user has closed the window.
+    FinestraAiuto(const ParoleSchermo& parole, std::function<void()> chiusa);
 
     /// Shows the page of that context in front. `file` is the help's name, without need of a file
     /// there: "/x/corvana.chm" has its pages in "/x/help/corvana", "7.html" for the context 7. The
@@ -35,17 +38,17 @@ private:
     void CreaSbarra();
     void DisponiFoglio();
     void Colloca(const QWidget& accanto);
-    void PonLingua(const QFileInfo& file);
+    void ScriviBottoni();
     void Vai(const QFileInfo& file, QString pagina);
     void DiMancanza(const QString& cartella);
     void MettiTitolo();
 
+    const ParoleSchermo& parole_;
     std::function<void()> chiusa_;
     QTextBrowser* testo_;
     QAction* indietro_;
     QAction* avanti_;
     QAction* indice_;
-    bool inglese_ = false;
 };
 
 }  // namespace corvana

@@ -95,6 +95,11 @@ constexpr std::array bersagliPrincipali = {
     Stringa(393, &T::parIncolla),
     Stringa(394, &T::parElimina),
     Stringa(395, &T::parSelezionaTutto),
+    Stringa(409, &T::parAiuto),
+    Stringa(410, &T::parIndietro),
+    Stringa(411, &T::parAvanti),
+    Stringa(412, &T::parIndice),
+    Stringa(413, &T::parAiutoManca),
 };
 
 }  // namespace

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "core/languages.h"
+
 namespace corvana::prova {
 namespace {
 
@@ -16,7 +18,13 @@ namespace fs = std::filesystem;
 constexpr std::uintmax_t figuraMassima = 60'000;  ///< bytes
 
 const fs::path radice = fs::path(CORVANA_DATA_SOURCE) / "help";
-const std::vector<std::string> volumi = {"corvana", "corvanaen"};
+/// A folder for each language, the Italian one first.
+const std::vector<std::string> volumi = [] {
+    std::vector<std::string> nomi;
+    for (const Lingua& lingua : lingue)
+        nomi.push_back(fs::path(lingua.aiuto).stem());
+    return nomi;
+}();
 
 std::set<std::string> NomiFile(const std::string& volume, const char* estensione) {
     std::set<std::string> nomi;

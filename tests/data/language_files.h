@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/language_targets.h"
+#include "core/languages.h"
 
 namespace corvana::prova {
 
@@ -20,7 +21,13 @@ struct RigaFile {
     std::string testo;
 };
 
-inline const std::vector<std::string> lingue = {"langit.csv", "langen.csv"};
+/// The names of the files, the Italian one first.
+inline const std::vector<std::string> lingue = [] {
+    std::vector<std::string> nomi;
+    for (const Lingua& lingua : corvana::lingue)
+        nomi.emplace_back(lingua.testi.substr(1));
+    return nomi;
+}();
 
 Insieme Fra(int primo, int ultimo);
 Insieme operator+(Insieme a, const Insieme& b);

@@ -92,7 +92,7 @@ int main(int argc, char** argv) {
     Deve(Aspetta([&] { return f.Di("Start").isEnabled(); }));
     const bool inglese = QByteArray(argv[3]) == "en";
     f.Scegli(inglese ? "mnuEn" : "mnuIt");
-    Deve(Aspetta([&] { return f.Testo("pdo") == (inglese ? "C" : "DO"); }));
+    Deve(Aspetta([&] { return f.Testo("cmdEsci") == (inglese ? "Exit" : "Esci"); }));
     Esercizio(f);
     Automatico(f);
     Metronomo(f);

@@ -37,7 +37,8 @@ QStringList Rimandi(const QTextDocument& pagina, bool figure) {
 
 struct Aiuto {
     int chiusure = 0;
-    FinestraAiuto finestra{[this] { ++chiusure; }};
+    ParoleSchermo parole;
+    FinestraAiuto finestra{parole, [this] { ++chiusure; }};
 };
 
 struct Tempo {
@@ -85,8 +86,9 @@ TEST(FinestraAiuto, WithoutItsPagesItSaysWhereTheyShouldBeInTheLanguage) {
     EXPECT_EQ(a.finestra.Pagina(), "");
     EXPECT_TRUE(a.finestra.Testo().toPlainText().contains("non si trovano"));
     EXPECT_TRUE(a.finestra.Testo().toPlainText().contains(vuota.path()));
+    a.parole.parAiutoManca = "They aren't in:";
     a.finestra.Mostra(vuota.filePath("corvanaen.chm"), 2);
-    EXPECT_TRUE(a.finestra.Testo().toPlainText().contains("not found"));
+    EXPECT_TRUE(a.finestra.Testo().toPlainText().contains("They aren't in:"));
     a.finestra.Mostra(italiano, 2);
     EXPECT_EQ(a.finestra.Pagina(), "2.html");
 }
@@ -99,12 +101,12 @@ TEST(FinestraAiuto, TheButtonsLeadBackAndToTheContents) {
             if (azione->text().contains(QLatin1String(testo))) return azione;
         throw std::logic_error("no such button");
     };
-    EXPECT_FALSE(bottone("Back")->isEnabled());
-    bottone("Contents")->trigger();
+    EXPECT_FALSE(bottone("Indietro")->isEnabled());
+    bottone("Indice")->trigger();
     EXPECT_EQ(a.finestra.Pagina(), "index.html");
-    bottone("Back")->trigger();
+    bottone("Indietro")->trigger();
     EXPECT_EQ(a.finestra.Pagina(), "2.html");
-    bottone("Forward")->trigger();
+    bottone("Avanti")->trigger();
     EXPECT_EQ(a.finestra.Pagina(), "index.html");
 }
 
@@ -233,6 +235,10 @@ TEST(AiutoNelProgramma, AChangeOfLanguageTurnsThePageThatIsReadToTheSameInTheOth
         Aspetta([&] { return s.Aiuto()->windowTitle().startsWith("Instruments and MIDI"); }));
     EXPECT_EQ(s.Aiuto()->Pagina(), "40.html");
     EXPECT_FALSE(s.Aiuto()->Testo().isBackwardAvailable());
+    QStringList bottoni;
+    for (const QAction* azione : s.Aiuto()->findChildren<QAction*>())
+        if (!azione->text().isEmpty()) bottoni << azione->text();
+    EXPECT_EQ(bottoni, QStringList({"‹ Back", "Forward ›", "Contents"}));
 }
 
 TEST(AiutoNelProgramma, AChangeOfLanguageDoesntOpenWhatIsClosed) {

@@ -84,6 +84,11 @@ constexpr auto righeMain = std::to_array<RigaAttesa>({
     {393, "", "Incolla", "Paste", &T::parIncolla},
     {394, "", "Elimina", "Delete", &T::parElimina},
     {395, "", "Seleziona tutto", "Select all", &T::parSelezionaTutto},
+    {409, "", "Aiuto", "Help", &T::parAiuto},
+    {410, "", "‹ Indietro", "‹ Back", &T::parIndietro},
+    {411, "", "Avanti ›", "Forward ›", &T::parAvanti},
+    {412, "", "Indice", "Contents", &T::parIndice},
+    {413, "", "non si trovano", "not found", &T::parAiutoManca},
 });
 
 }  // namespace
