@@ -1,5 +1,6 @@
 #include "tests/desktop/hand_stage.h"
 
+#include <QAction>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QElapsedTimer>
@@ -175,6 +176,28 @@ void PalcoAMano::Decidi(bool si) {
 void PalcoAMano::Prosegui() {
     orologio.Riprendi();
     Calma();
+}
+
+void PalcoAMano::LasciaPassare(double secondi) {
+    FermaDopo(secondi);
+    Calma();
+}
+
+void PalcoAMano::Scegli(const std::string& voce) {
+    QAction& scelta = TrovaVoce(scrivania, QString::fromStdString(voce));
+    if (!scelta.isEnabled()) throw std::logic_error(voce + " can't be chosen");
+    scelta.trigger();
+    Calma();
+}
+
+void PalcoAMano::Attendi(const std::string& finestra) {
+    AspettaFinestra(scrivania, QString::fromStdString(finestra));
+    Calma();
+}
+
+void PalcoAMano::TornaA(const std::string& finestra) {
+    scrivania.Davanti()->Finestra().close();
+    Attendi(finestra);
 }
 
 PalcoAMano::Udito PalcoAMano::Suona() {

@@ -108,6 +108,15 @@ public:
     /// So many seconds later the program is held up in its next wait, until it may go on.
     void FermaDopo(double secondi) { orologio.FermaA(orologio.Adesso() + secondi); }
     void Prosegui();
+    /// So many seconds pass, and it is held up there.
+    void LasciaPassare(double secondi);
+
+    /// Chooses the entry of a menu; throws when it can't be chosen.
+    void Scegli(const std::string& voce);
+    /// The window of that name is to come to the front.
+    void Attendi(const std::string& finestra);
+    /// Closes the window in front; that one lies beneath.
+    void TornaA(const std::string& finestra);
 
 private:
     QDialog& RiquadroAperto();

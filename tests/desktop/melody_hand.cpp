@@ -12,9 +12,9 @@
 namespace corvana::prova {
 
 PalcoMelodia::PalcoMelodia(const std::string& cartella,
-                           const std::function<void(Macchina&)>& prepara)
+                           const std::function<void(Macchina&)>& prepara, bool aperta)
     : PalcoAMano(cartella, prepara) {
-    ApriComposer();
+    if (aperta) ApriComposer();
 }
 
 void PalcoMelodia::ApriComposer() {

@@ -11,9 +11,9 @@ namespace corvana::prova {
 
 class PalcoMelodia : public PalcoAMano {
 public:
-    /// With that window open, whose current folder is `cartella`.
+    /// With that window open, whose current folder is `cartella`; or not yet.
     explicit PalcoMelodia(const std::string& cartella,
-                          const std::function<void(Macchina&)>& prepara = {});
+                          const std::function<void(Macchina&)>& prepara = {}, bool aperta = true);
 
     /// From the main window.
     void ApriComposer();

@@ -1,37 +1,21 @@
 #include "tests/desktop/visit.h"
 
-#include <QAction>
 #include <QMainWindow>
 
 namespace corvana::prova {
 
-Visita::Visita()
-    : PalcoAMano({}, [this](Macchina& macchina) {
-          DaiCasa(casa, macchina, QStringLiteral(CORVANA_DATA));
-          macchina.uscite = [this](std::function<double()> istante) {
-              auto fatta = std::make_unique<Registratore>(std::move(istante));
-              suonato = fatta.get();
-              return fatta;
-          };
-      }) {
-    Calma();
+void CasaDiMemoria::Prepara(Macchina& macchina) {
+    DaiCasa(casa, macchina, QStringLiteral(CORVANA_DATA));
+    macchina.percorsoImpostazioni = "/casa/.config/corvana";
+    macchina.uscite = [this](std::function<double()> istante) {
+        auto fatta = std::make_unique<Registratore>(std::move(istante));
+        suonato = fatta.get();
+        return fatta;
+    };
 }
 
-void Visita::Scegli(const std::string& voce) {
-    QAction& scelta = TrovaVoce(scrivania, QString::fromStdString(voce));
-    if (!scelta.isEnabled()) throw std::logic_error(voce + " can't be chosen");
-    scelta.trigger();
+Visita::Visita() : PalcoAMano({}, [this](Macchina& macchina) { Prepara(macchina); }) {
     Calma();
-}
-
-void Visita::Attendi(const std::string& finestra) {
-    AspettaFinestra(scrivania, QString::fromStdString(finestra));
-    Calma();
-}
-
-void Visita::TornaA(const std::string& finestra) {
-    scrivania.Davanti()->Finestra().close();
-    Attendi(finestra);
 }
 
 void Visita::Guarda() {

@@ -9,9 +9,12 @@
 
 namespace corvana::prova {
 
+/// The files and the outputs that the program finds.
 struct CasaDiMemoria {
     FileInMemoria casa;
     Registratore* suonato = nullptr;  ///< as long as the logic runs; to be read while it waits
+
+    void Prepara(Macchina& macchina);
 };
 
 /// What was read, by window and place: in one place it changes with what the window does.
@@ -27,12 +30,6 @@ public:
     /// From the main window, at rest, and back to it.
     void Tutto();
     Lette LeggiTutto();
-
-    void Scegli(const std::string& voce);
-    /// The window that is to come to the front.
-    void Attendi(const std::string& finestra);
-    /// Closes the window in front; that one lies beneath.
-    void TornaA(const std::string& finestra);
 
 private:
     void Guarda();

@@ -1,0 +1,73 @@
+// One who is shown around the whole program and tries what he is shown, with the mouse and the
+// keyboard in the real windows. What he sees he reads from the windows, what he hears from a record
+// of the output. What the program waits for takes no time, unless he lets it pass. GUI thread.
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "tests/desktop/melody_hand.h"
+#include "tests/desktop/visit.h"
+
+namespace corvana::prova {
+
+class Giro : public PalcoMelodia {
+public:
+    explicit Giro(CasaDiMemoria& casa);
+
+    CasaDiMemoria& casa;
+
+    /// From now on, what is asked for is what was heard since.
+    void Ascolta();
+    /// Numbers of the notes that were struck on the channel, 1 to 16, in order; with their
+    /// velocities; their instants.
+    std::vector<int> Note(int canale = 1) const;
+    std::vector<int> Forze(int canale = 1) const;
+    std::vector<double> Istanti(int canale = 1) const;
+    /// What instruments were chosen: channel and program.
+    std::vector<std::pair<int, int>> Strumenti() const;
+    /// The wave files, without their folders.
+    std::vector<std::string> Onde() const;
+
+    /// The positions that are to be seen on the staff.
+    std::vector<int> SulPentagramma();
+    /// The lit keys of the keyboard on the screen, 0 to 59.
+    std::vector<int> TastiAccesi();
+    void ToccaTasto(int indice);
+
+    std::string Titolo() { return scrivania.Davanti()->Finestra().windowTitle().toStdString(); }
+    bool Vede(const std::string& nome) { return Di(nome).isVisible(); }
+    bool Usabile(const std::string& nome) { return Di(nome).isEnabled(); }
+    /// What stands on a button, or in a box, of the window in front.
+    std::string Bottone(const std::string& nome) { return Scritta(nome.c_str()).toStdString(); }
+    std::string Casella(const std::string& nome) { return Testo(nome.c_str()).toStdString(); }
+    int Numero(const std::string& casella) { return Testo(casella.c_str()).toInt(); }
+    int Colore(const std::string& nome) {
+        return StatoDi(scrivania, QString::fromStdString(nome)).BackColor;
+    }
+    /// The text of the box that is up, which is then answered.
+    std::string Messaggio(bool si = true);
+    /// The arrow keys bring a list to the row that begins so.
+    void ScegliRiga(const std::string& lista, const std::string& inizio);
+    double Ora() const { return orologio.Adesso(); }
+    /// Brings a slider to one of its ends.
+    void AllEstremo(const std::string& barra, bool massimo);
+
+private:
+    std::vector<Registratore::Voce> Battute(int canale) const;
+    std::size_t daMessaggio_ = 0, daOnda_ = 0;
+};
+
+/// A stop of the tour, in the words of the one who leads it.
+struct Tappa {
+    const char* nome;
+    void (*fai)(Giro&);
+};
+
+std::vector<Tappa> TappeDellaLettura();
+std::vector<Tappa> TappeDellaMelodia();
+std::vector<Tappa> TappeDellOrecchio();
+std::vector<Tappa> TappeDegliAttrezzi();
+
+}  // namespace corvana::prova
