@@ -20,6 +20,7 @@ TEST(UnGiroDelProgramma, EverythingWorksOneAfterTheOther) {
     Guida(giro, TappeDellaLettura());
     Guida(giro, TappeDellaMelodia());
     Guida(giro, TappeDellOrecchio());
+    Guida(giro, TappeDegliAttrezzi());
 }
 
 }  // namespace

@@ -42,15 +42,15 @@ std::vector<Registratore::Voce> Giro::Battute(int canale) const {
     return battute;
 }
 
-std::vector<int> Giro::Note(int canale) const {
-    std::vector<int> note;
+Interi Giro::Note(int canale) const {
+    Interi note;
     for (const auto& battuta : Battute(canale))
         note.push_back(static_cast<int>(battuta.messaggio >> 8U & 0xFFU));
     return note;
 }
 
-std::vector<int> Giro::Forze(int canale) const {
-    std::vector<int> forze;
+Interi Giro::Forze(int canale) const {
+    Interi forze;
     for (const auto& battuta : Battute(canale))
         forze.push_back(static_cast<int>(battuta.messaggio >> 16U & 0xFFU));
     return forze;
@@ -81,8 +81,8 @@ std::vector<std::string> Giro::Onde() const {
     return onde;
 }
 
-std::vector<int> Giro::SulPentagramma() {
-    std::vector<int> posizioni;
+Interi Giro::SulPentagramma() {
+    Interi posizioni;
     for (int posizione = 11; posizione <= 64; ++posizione) {
         if (posizione > 31 && posizione < 40) continue;
         const auto& stato = StatoDi(scrivania, QStringLiteral("n%1").arg(posizione));
@@ -91,8 +91,8 @@ std::vector<int> Giro::SulPentagramma() {
     return posizioni;
 }
 
-std::vector<int> Giro::TastiAccesi() {
-    std::vector<int> accesi;
+Interi Giro::TastiAccesi() {
+    Interi accesi;
     for (int tasto = 0; tasto < 60; ++tasto)
         if (StatoDi(scrivania, QStringLiteral("lb%1").arg(tasto)).BackStyle == fondoOpaco)
             accesi.push_back(tasto);

@@ -12,6 +12,11 @@
 
 namespace corvana::prova {
 
+using Interi = std::vector<int>;
+
+/// Of the voice that is written in.
+constexpr Colore verde = Rgb(0, 255, 0);
+
 class Giro : public PalcoMelodia {
 public:
     explicit Giro(CasaDiMemoria& casa);
@@ -22,8 +27,8 @@ public:
     void Ascolta();
     /// Numbers of the notes that were struck on the channel, 1 to 16, in order; with their
     /// velocities; their instants.
-    std::vector<int> Note(int canale = 1) const;
-    std::vector<int> Forze(int canale = 1) const;
+    Interi Note(int canale = 1) const;
+    Interi Forze(int canale = 1) const;
     std::vector<double> Istanti(int canale = 1) const;
     /// What instruments were chosen: channel and program.
     std::vector<std::pair<int, int>> Strumenti() const;
@@ -31,9 +36,9 @@ public:
     std::vector<std::string> Onde() const;
 
     /// The positions that are to be seen on the staff.
-    std::vector<int> SulPentagramma();
+    Interi SulPentagramma();
     /// The lit keys of the keyboard on the screen, 0 to 59.
-    std::vector<int> TastiAccesi();
+    Interi TastiAccesi();
     void ToccaTasto(int indice);
 
     std::string Titolo() { return scrivania.Davanti()->Finestra().windowTitle().toStdString(); }

@@ -11,8 +11,6 @@ namespace corvana::prova {
 
 namespace {
 
-using Interi = std::vector<int>;
-
 /// The three highest notes of a chord above its root.
 const std::map<std::pair<int, int>, int> accordi = {
     {{3, 7}, 0}, {{4, 7}, 1}, {{3, 6}, 2}, {{4, 8}, 3}};
@@ -84,6 +82,11 @@ void Altezze(Giro& g) {
     g.ToccaTasto(Ultime(g, 1).front() - 36 == 24 ? 26 : 24);
     Punti(g, 3, 1);
     g.Tocca("IntoStart");
+    g.TornaA("CorvanaMainF");
+    const std::string& memoria = g.casa.casa.contenuti.at("/casa/.config/corvana");
+    EXPECT_NE(memoria.find("24;36;64"), std::string::npos) << memoria;
+    g.Scegli("Intonazione");
+    g.Attendi("frmInto");
 }
 
 void Intervalli(Giro& g) {
@@ -160,8 +163,6 @@ void Tonalita(Giro& g) {
     Punti(g, 3, 0);
     g.Tocca("cmdT");
     g.TornaA("CorvanaMainF");
-    EXPECT_NE(g.casa.casa.contenuti.at("/casa/.config/corvana").find("24;36;64"),
-              std::string::npos);
 }
 
 }  // namespace

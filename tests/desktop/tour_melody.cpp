@@ -9,10 +9,6 @@ namespace corvana::prova {
 
 namespace {
 
-using Interi = std::vector<int>;
-
-constexpr Colore verde = Rgb(0, 255, 0);
-
 /// The user's own copies of the melodies that come with the program.
 const std::string demo = "/casa/Documenti/Corvana/Melodie/Demo/";
 const std::string serata = demo + "Serata/";

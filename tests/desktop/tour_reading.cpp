@@ -14,7 +14,6 @@ namespace corvana::prova {
 
 namespace {
 
-using Interi = std::vector<int>;
 using Testi = std::vector<std::string>;
 
 /// Of the seven notes from the middle Do on, by their positions on the upper staff.
