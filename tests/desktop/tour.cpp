@@ -99,6 +99,10 @@ Interi Giro::TastiAccesi() {
     return accesi;
 }
 
+const std::string& Giro::Salvata(const std::string& nome) const {
+    return casa.casa.contenuti.at("/casa/Documenti/Corvana/Melodie/Demo/" + nome + ".mel");
+}
+
 void Giro::ToccaTasto(int indice) {
     const std::string nome = "lb" + std::to_string(indice);
     Tocca(nome, NelTasto(nome));

@@ -22,6 +22,8 @@ public:
     explicit Giro(CasaDiMemoria& casa);
 
     CasaDiMemoria& casa;
+    Interi primeNote;  ///< that the first drills showed, by their positions
+    Interi luci;       ///< colours of the metronome's first two as it was last stopped
 
     /// From now on, what is asked for is what was heard since.
     void Ascolta();
@@ -55,6 +57,8 @@ public:
     std::string Messaggio(bool si = true);
     /// The arrow keys bring a list to the row that begins so.
     void ScegliRiga(const std::string& lista, const std::string& inizio);
+    /// What a melody's file holds, of those in the user's folder of melodies.
+    const std::string& Salvata(const std::string& nome) const;
     double Ora() const { return orologio.Adesso(); }
     /// Brings a slider to one of its ends.
     void AllEstremo(const std::string& barra, bool massimo);

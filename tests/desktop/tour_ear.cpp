@@ -3,7 +3,9 @@
 
 #include <QTest>
 #include <QWindow>
+#include <algorithm>
 #include <map>
+#include <set>
 
 #include "tests/desktop/tour.h"
 
@@ -83,7 +85,7 @@ void Altezze(Giro& g) {
     Punti(g, 3, 1);
     g.Tocca("IntoStart");
     g.TornaA("CorvanaMainF");
-    const std::string& memoria = g.casa.casa.contenuti.at("/casa/.config/corvana");
+    const std::string& memoria = g.casa.casa.contenuti.at(CasaDiMemoria::impostazioni);
     EXPECT_NE(memoria.find("24;36;64"), std::string::npos) << memoria;
     g.Scegli("Intonazione");
     g.Attendi("frmInto");
@@ -137,15 +139,35 @@ void Accordi(Giro& g) {
     g.Tocca("ComdRacStart");
 }
 
+/// What the twelve keys of an octave may be called.
+const std::vector<std::set<std::string>> nomi = {{"Do", "Si#"},   {"Do#", "Reb"}, {"Re"},
+                                                 {"Re#", "Mib"},  {"Mi", "Fab"},  {"Fa", "Mi#"},
+                                                 {"Fa#", "Solb"}, {"Sol"},        {"Sol#", "Lab"},
+                                                 {"La"},          {"La#", "Sib"}, {"Si", "Dob"}};
+
+std::string NomeChiesto(Giro& g) {
+    const std::string prima = "Fai clic su un ";
+    const std::string domanda = g.Dice("lblStep");
+    return domanda.substr(prima.size(), domanda.find(" sulla tastiera") - prima.size());
+}
+
 /// The name asked for is the name of the note that is heard, in one spelling or another.
 void TastiDaTrovare(Giro& g) {
     g.Scegli("mnuRicTasto");
     g.Tocca("lblSceltaTasti");
     g.Ascolta();
     g.Tocca("cmdRicTasto");
-    for (int domanda = 0; domanda < 5; ++domanda)
-        g.ToccaTasto(Ultime(g, 1).front() % 12 + 24);
-    Punti(g, 5, 0);
+    std::set<std::string> chiesti;
+    for (int domanda = 0; domanda < 12; ++domanda) {
+        const int nota = Ultime(g, 1).front();
+        chiesti.insert(NomeChiesto(g));
+        EXPECT_TRUE(nomi.at(static_cast<std::size_t>(nota % 12)).contains(NomeChiesto(g)))
+            << nota << ": " << NomeChiesto(g);
+        g.ToccaTasto(nota % 12 + 12 * (domanda % 5));
+    }
+    Punti(g, 12, 0);
+    EXPECT_TRUE(
+        std::ranges::any_of(chiesti, [](const std::string& nome) { return nome.ends_with('b'); }));
     g.Tocca("cmdRicTasto");
     g.Tocca("lblSceltaTasti");
 }

@@ -75,8 +75,13 @@ void NoteDiOgniSpecie(Giro& g) {
     g.Tocca("cmdSimbNote1");
     g.ToccaTasto(24);
     g.Tocca("cmdInsNota");
+    g.Tocca("cmdSimbNote2");
+    g.Tocca("cmdAttrNota2");
+    g.Tocca("cmdInsNota");
+    EXPECT_EQ(g.Note(1), (Interi{60, 60, 60}));
     g.Tocca("cmdSimbNote3");
     g.Tocca("cmdInsPausa");
+    EXPECT_EQ(g.Note(10), Interi{81});
     g.Tocca("cmdAttrNota0");
     g.ToccaDueVolte("lb26", g.NelTasto("lb26"));
     g.Tocca("cmdAttrNota1");
@@ -86,7 +91,6 @@ void NoteDiOgniSpecie(Giro& g) {
     for (const char* tasto : {"lb29", "lb31", "lb33"})
         g.ToccaDueVolte(tasto, g.NelTasto(tasto));
     EXPECT_EQ(g.Dice("LblNoteString"), "Do;P;Re;Mi;Fa;Sol;La;");
-    EXPECT_FALSE(g.Note(1).empty());
     EXPECT_TRUE(g.Vede("lblModificato"));
 }
 
@@ -97,13 +101,15 @@ void SalvataERiletta(Giro& g) {
     EXPECT_FALSE(g.Vede("lblModificato"));
     const std::string& byte = g.casa.casa.contenuti.at(demo + "giro.mel");
     const std::string terzo = "0.333333333333333;";
-    EXPECT_TRUE(byte.starts_with("60;00;62;64;65;67;69;\r\n2;0.5;0.75;0.5;" + terzo + terzo +
+    EXPECT_TRUE(byte.starts_with("60;00;62;64;65;67;69;\r\n3;0.5;0.75;0.5;" + terzo + terzo +
                                  terzo + "\r\nn;p;n;s;a;n;n;\r\n"))
         << byte;
     g.Tocca("cmdReset");
     g.Ascolta();
     g.Apri("giro");
     EXPECT_EQ(g.Note(1), (Interi{60, 62, 64, 65, 67, 69}));
+    // The accented one is louder.
+    EXPECT_GT(g.Forze(1).at(3), g.Forze(1).at(0));
     EXPECT_EQ(g.Dice("lblNome"), "giro");
     g.SalvaConNome("copia");
     EXPECT_EQ(g.casa.casa.contenuti.at(demo + "copia.mel"), byte);
@@ -114,6 +120,7 @@ void CartelleEFile(Giro& g) {
     g.Rispondi("Serata");
     g.ToccaRigaDueVolte("» Serata");
     EXPECT_EQ(g.Righe(), std::vector<std::string>{"» .."});
+    EXPECT_GE(g.Di("cmbDrive").Come<QComboBox>().findText("/media/penna/"), 0);
     g.SalvaConNome("prima");
     g.SalvaConNome("seconda");
     g.ToccaRiga("prima");
@@ -139,7 +146,8 @@ void DomandaAllaChiusura(Giro& g) {
     g.Tocca("cmdCm");
     g.Decidi(true);
     g.Attendi("CorvanaMainF");
-    EXPECT_NE(g.casa.casa.contenuti.at("/casa/.config/corvana").find("Serata"), std::string::npos);
+    EXPECT_NE(g.casa.casa.contenuti.at(CasaDiMemoria::impostazioni).find("Serata"),
+              std::string::npos);
     g.ApriComposer();
     EXPECT_EQ(g.Dice("LblNoteString"), "");
     g.Apri("terza");

@@ -84,6 +84,7 @@ void NotaSulPentagramma(Giro& g) {
     g.Ascolta();
     g.Tocca("Start");
     EXPECT_EQ(g.Note(), Interi{Mostrata(g).midi});
+    g.primeNote = g.SulPentagramma();
     EXPECT_FALSE(g.Vede("lblnn"));
     g.Tocca("lblMn");
     EXPECT_TRUE(g.Vede("lblnn"));
@@ -94,6 +95,7 @@ void NotaSulPentagramma(Giro& g) {
     g.Tocca("Start");
     EXPECT_EQ(g.Onde(), Testi{"rok.wav"});
     EXPECT_EQ(g.Note(), Interi{});
+    g.primeNote.push_back(g.SulPentagramma().front());
     g.Tocca("Start");
     QMenu& suoni = *TrovaVoce(g.scrivania, "Suono2").menu();
     suoni.popup(QPoint());
@@ -112,6 +114,10 @@ void EsercizioNormale(Giro& g) {
     EXPECT_EQ(g.Casella("conta"), "1");
     EXPECT_EQ(g.Casella("er"), "3");
     EXPECT_EQ(g.Casella("PercEs"), "25.00%");
+    const auto& barra = StatoDi(g.scrivania, "PercMet");
+    const auto& fondo = StatoDi(g.scrivania, "PercBg");
+    EXPECT_EQ(barra.Height, fondo.Height / 4);
+    EXPECT_EQ(barra.Top + barra.Height, fondo.Top + fondo.Height);
     g.Tocca("Start");
     EXPECT_TRUE(g.Vede("frmRisultati"));
     EXPECT_EQ(g.Dice("Lresatte"), "Risposte esatte: 1");
@@ -154,6 +160,7 @@ Interi Batti(Giro& g, double secondi) {
     g.FermaDopo(secondi);
     g.Tocca("cmdSSmetro");
     const Interi pulsi = g.Note(10);
+    g.luci = {g.Colore("lblPuls0"), g.Colore("lblPuls1")};
     EXPECT_FALSE(g.Usabile("lblCloseMetro"));
     g.Tocca("cmdSSmetro");
     g.Prosegui();
@@ -164,6 +171,7 @@ Interi Batti(Giro& g, double secondi) {
 void Metronomo(Giro& g) {
     g.Scegli("mnuMetro");
     EXPECT_EQ(Batti(g, 4.5), (Interi{76, 85, 76, 85}));
+    EXPECT_EQ(g.luci, (Interi{Rgb(170, 170, 170), Rgb(0, 255, 0)}));
     for (const int luci : {3, 4, 6, 2}) {
         g.Tocca("lblTs");
         EXPECT_EQ(LuciInVista(g), luci);
@@ -173,6 +181,9 @@ void Metronomo(Giro& g) {
     EXPECT_EQ(Batti(g, 2.25).size(), 4U);
     EXPECT_EQ(g.Forze(10).front(), 127);
     g.Tocca("lblX12");
+    g.AllEstremo("MetroVol", false);
+    EXPECT_EQ(Batti(g, 1.5), Interi{}) << "without a volume none is heard";
+    g.AllEstremo("MetroVol", true);
     g.AllEstremo("MetroTempoS", false);
     EXPECT_EQ(g.Dice("lblTempo"), "20");
     g.AllEstremo("MetroTempoS", true);

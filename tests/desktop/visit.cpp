@@ -6,7 +6,8 @@ namespace corvana::prova {
 
 void CasaDiMemoria::Prepara(Macchina& macchina) {
     DaiCasa(casa, macchina, QStringLiteral(CORVANA_DATA));
-    macchina.percorsoImpostazioni = "/casa/.config/corvana";
+    macchina.percorsoImpostazioni = impostazioni;
+    macchina.percorsoBlocco = Blocco();
     macchina.uscite = [this](std::function<double()> istante) {
         auto fatta = std::make_unique<Registratore>(std::move(istante));
         suonato = fatta.get();

@@ -13,6 +13,11 @@ namespace corvana::prova {
 struct CasaDiMemoria {
     FileInMemoria casa;
     Registratore* suonato = nullptr;  ///< as long as the logic runs; to be read while it waits
+    QTemporaryDir disco;              ///< for the lock, which is no file of the user's
+
+    static constexpr const char* impostazioni = "/casa/.config/corvana";
+
+    std::string Blocco() const { return disco.filePath(QStringLiteral("lock")).toStdString(); }
 
     void Prepara(Macchina& macchina);
 };
