@@ -1,5 +1,4 @@
-// The keys of the computer's keyboard that come as events; those that are polled are tested where
-// a window polls them.
+// The keys of the computer's keyboard, polled and as events.
 #include "piano/computer_piano.h"
 
 #include <gtest/gtest.h>
@@ -19,6 +18,10 @@ struct BancoPianoSolo : BancoSuono {
         return
             [this](std::int16_t nota, bool acceso) { mostrati.push_back(acceso ? nota : -nota); };
     }
+    void Gira(int codice, bool premuto, int base) {
+        tasti.Segna(codice, premuto);
+        piano.Esamina(tasti, static_cast<std::int16_t>(base), suono, Mostra());
+    }
     void Premi(int codice) {
         tasti.Segna(codice, true);
         piano.Premi(codice, 48, suono, Mostra());
@@ -30,6 +33,21 @@ struct BancoPianoSolo : BancoSuono {
 };
 
 }  // namespace
+
+TEST(TastiDelGiro, AreTwoManualsFromZAndFromQAnOctaveHigherAndOnlyTheLastSoundsAt100) {
+    for (const int base : {36, 48, 60}) {
+        auto nota = static_cast<std::uint32_t>(base);
+        for (const char tasto : std::string("ZSXDCVGBHNJMQ2W3ER5T6Y7UI9O0P")) {
+            BancoPianoSolo b;
+            b.Gira(tasto, true, base);
+            b.Gira(tasto, false, base);
+            EXPECT_EQ(b.Messaggi(), (Pacchetti{Nota(nota, tasto == 'P' ? 100 : 90), Nota(nota, 0)}))
+                << tasto;
+            EXPECT_EQ(b.mostrati, (std::vector{static_cast<int>(nota), -static_cast<int>(nota)}));
+            ++nota;
+        }
+    }
+}
 
 TEST(TastiAdEventi, EachHasItsPlaceAboveTheNoteOfZ) {
     const std::vector<std::pair<int, std::uint32_t>> tasti = {{188, 60}, {76, 61},  {190, 62},
