@@ -60,7 +60,7 @@ TEST(AggiungiRiferimento, TheFirstOnAMelodyOf12NotesWithRange5To8BringsTheWholeM
 TEST(AggiungiRiferimento, OfANameOf20Characters12AreKept) {
     BancoRiferimenti b;
     b.Aggiungi("  12345678901234567890");
-    EXPECT_EQ(b.Elenco().back(), "1 ÷ 12 ÷ 123456789012");
+    EXPECT_EQ(b.Elenco(), (Righe{"1 ÷ 12 ÷Tutta", "1 ÷ 12 ÷ 123456789012"}));
 }
 
 TEST(AggiungiRiferimento, RaisesTheFlagAndOpensTheListEvenWhenTheQuestionIsCancelled) {
@@ -102,9 +102,8 @@ TEST(AggiungiRiferimento, ANameWithASemicolonOrTheMarkIsRefusedWithAWord) {
 TEST(AggiungiRiferimento, WhatWasCutOffIsntCheckedAndOtherSignsAreTaken) {
     BancoRiferimenti b;
     b.Aggiungi("123456789012;÷");
-    EXPECT_EQ(b.Elenco().back(), "1 ÷ 12 ÷ 123456789012");
     b.Aggiungi("a.b,c:?*");
-    EXPECT_EQ(b.Elenco().back(), "1 ÷ 12 ÷ a.b,c:?*");
+    EXPECT_EQ(b.Elenco(), (Righe{"1 ÷ 12 ÷Tutta", "1 ÷ 12 ÷ 123456789012", "1 ÷ 12 ÷ a.b,c:?*"}));
 }
 
 TEST(AggiungiRiferimento, ARangeThatReachesBeyondTheVoiceAsksNothing) {
