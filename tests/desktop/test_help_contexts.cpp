@@ -46,7 +46,15 @@ void Pagine::GuardaTutte() {
     }
     v.TornaA("CorvanaMainF");
     apri("mnuPromemoria", "frmOptions", "50.html");
-    apri("mnuComposer", "frmComposer", "60.html");
+    v.Scegli("mnuComposer");
+    Guarda("frmComposer", "60.html");
+    v.Scegli("mnuCopyFromA");
+    Guarda("frmCopyFromA", "67.html");
+    v.TornaA("frmComposer");
+    v.Tocca("pictCi");
+    Guarda("frmStrum", "40.html");
+    v.TornaA("frmComposer");
+    v.TornaA("CorvanaMainF");
     apri("mnuSs", "frmStrum", "40.html");
     apri("mnuMidiTest", "frmMidiTest", "40.html");
     apri("mnuVersione", "frmAbout", "index.html");
