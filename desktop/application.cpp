@@ -42,6 +42,7 @@ struct Applicazione::Interno {
     Interno(int& argc, char** argv)
         : qt(qApp ? nullptr : std::make_unique<QApplication>(argc, argv)) {
         if (!qt) return;
+        caratteri.Aspetta();
         VestiProgramma(*qt);
         scrivania.Dipinta().PonPoi(PonIconaProgramma);
     }
@@ -51,6 +52,7 @@ struct Applicazione::Interno {
     /// The same when there is no screen any more.
     [[noreturn]] void FinisciAlBuio();
 
+    const CaratteriDelSistema caratteri;
     std::unique_ptr<QApplication> qt;
     Scrivania scrivania;
     QObject attesa;  ///< what still waits goes with it

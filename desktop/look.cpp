@@ -1,11 +1,14 @@
 #include "desktop/look.h"
 
+#include <fontconfig/fontconfig.h>
+
 #include <QApplication>
 #include <QFontDatabase>
 #include <QThreadPool>
 
 #include "desktop/face_reader.h"
 #include "desktop/icon_painter.h"
+#include "desktop/music_font.h"
 #include "desktop/style.h"
 #include "desktop/theme.h"
 
@@ -13,16 +16,22 @@ namespace corvana {
 
 namespace {
 
-/// The list of the system's fonts takes longer than a window's making, which needs none of it
-/// before its first letter: it is read beside it.
-void LeggiCaratteri() {
-    QThreadPool::globalInstance()->start([] { QFontDatabase::families(); });
+/// The toolkit's list of fonts, and the signs that are drawn from one, are made beside the first
+/// window, which needs none of them before it paints.
+void PreparaCaratteri() {
+    QThreadPool::globalInstance()->start([] {
+        QFontDatabase::families();
+        TracciaSegno(Segno::ChiaveViolino);
+    });
 }
 
 }  // namespace
 
+CaratteriDelSistema::CaratteriDelSistema()
+    : letti_(std::async(std::launch::async, [] { FcInit(); })) {}
+
 void VestiProgramma(QApplication& qt) {
-    LeggiCaratteri();
+    PreparaCaratteri();
     QApplication::setApplicationName(QStringLiteral("corvana"));
     QApplication::setDesktopFileName(QStringLiteral("org.corvana.Corvana"));
     QApplication::setQuitOnLastWindowClosed(false);

@@ -2,7 +2,8 @@
 # ./measure, scripts/package and .ci/run.
 
 build_packages=(g++ cmake ninja-build ccache mold pkg-config qt6-base-dev qt6-svg-dev libxcb1-dev
-    libsdl2-dev libsystemd-dev libfluidsynth-dev librtmidi-dev libasound2-dev libjack-jackd2-dev)
+    libfontconfig-dev libsdl2-dev libsystemd-dev libfluidsynth-dev librtmidi-dev libasound2-dev
+    libjack-jackd2-dev)
 run_packages=("${build_packages[@]}" timgm6mb-soundfont fonts-inter fonts-oflb-euterpe)
 screen_packages=(xvfb openbox xdotool scrot)
 test_packages=("${run_packages[@]}" libgtest-dev librapidcheck-dev locales pulseaudio
