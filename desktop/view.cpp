@@ -29,6 +29,8 @@ void Vista::PonWidgetMuto(QWidget& widget) {
     widget_ = &widget;
     widget.setObjectName(aspetto_.nome);
     PonAspetto(widget, aspetto_);
+    // Before it may be shown: the toolkit would measure its letters for a size of its own.
+    widget.setGeometry(InPixel(aspetto_.Twips(), scala_));
     for (const auto& [nome, valore] : copia_.proprieta)
         RinfrescaComune(nome);
 }
