@@ -1,5 +1,7 @@
 #include "sound/outputs/font_loading.h"
 
+#include <malloc.h>
+
 #include <utility>
 
 namespace corvana {
@@ -16,6 +18,8 @@ bool CaricaMotore(MotoreSonoro& motore, const ImpostazioniUscite& impostazioni) 
     auto synth = Sintetizzatore::Carica(impostazioni.font);
     if (!synth) return false;
     motore.mescolatore.PonSintetizzatore(std::move(synth));
+    // The library reads the file's lists into memory of which it drops the most again.
+    malloc_trim(0);
     return true;
 }
 
