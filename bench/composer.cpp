@@ -111,7 +111,7 @@ private:
             Aspetta([this] { return !Acceso(12); });
             Passa(riposo);
         }
-        misura::Stampa("key of the computer's piano to its message", ritardi, "ms");
+        misura::Stampa("key of the computer's piano to its message", ritardi, "ms", {0.99, 0.3});
     }
 
     /// The number of notes is painted while the new one sounds, which isn't waited for. What was
@@ -132,7 +132,7 @@ private:
         }
         Aspetta([&] { return Note() == note; });
         misura::Stampa("insertion behind " + std::to_string(note) + " notes to its number painted",
-                       tempi, "ms");
+                       tempi, "ms", {0.99, 20});
     }
 
     void Suona(const Brano& brano) {
@@ -144,7 +144,7 @@ private:
         const double quota = (SecondiGui() - prima) / secondi_ * 100;
         const std::string titolo = std::string("play, ") + brano.nome + ", in the window, ";
         misura::Stampa(titolo + "notes late", ascolto_.Ritardi(), "ms");
-        std::printf("%-52s %6.3f %%\n", (titolo + "GUI thread").c_str(), quota);
+        misura::StampaMeta(titolo + "GUI thread", quota, 15, "%");
         Ferma();
     }
 
@@ -175,7 +175,7 @@ private:
     long Note() { return std::atol(StatoDi(scrivania_, QStringLiteral("lblNfine")).Text.c_str()); }
     /// What this thread has run so far: the process bears its number.
     static double SecondiGui() {
-        return misura::LeggiFili().lower_bound(std::to_string(getpid()) + " ")->second;
+        return misura::LeggiFili().lower_bound(std::to_string(getpid()) + " ")->second.secondi;
     }
     static void Passa(std::chrono::milliseconds tempo) {
         bool passato = false;

@@ -76,7 +76,8 @@ private:
             Lascia(scrivania_, Qt::Key_Z);
             Aspetta([this] { return !Acceso(); });
         }
-        misura::Stampa("key of the computer's piano to lit key painted", accensioni, "ms");
+        misura::Stampa("key of the computer's piano to lit key painted", accensioni, "ms",
+                       {0.99, 20});
     }
     bool Acceso() { return StatoDi(scrivania_, QStringLiteral("lb12")).BackStyle == fondoOpaco; }
 

@@ -1,6 +1,6 @@
 // Evenings with the melody window, in the real windows and in real time, that end by SIGKILL at
 // random instants. Counts those after which something is gone that was there for more than five
-// seconds, whether it was saved or not.
+// seconds, whether it was saved or not. Usage: bench_evening [KILLS]
 #include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -19,6 +19,7 @@
 #include <sstream>
 
 #include "bench/evening_view.h"
+#include "bench/figures.h"
 #include "desktop/look.h"
 #include "tests/core/temporary_folder.h"
 
@@ -27,7 +28,6 @@ namespace {
 using namespace corvana;
 using misura::Veduta;
 
-constexpr int uccisioni = 200;
 constexpr std::size_t insieme = 20;  ///< evenings at a time
 constexpr unsigned seme = 20261122;
 constexpr double promessa = 5;  ///< seconds after which a change is kept
@@ -142,7 +142,7 @@ void Guarda(const Vita& vita, double morte, const std::vector<Istante>& intera, 
     conto.perse += trovata ? 0 : 1;
 }
 
-void Misura(const char* programma) {
+void Misura(const char* programma, int uccisioni) {
     const prova::CartellaProvvisoria cartella;
     const Vita prima = Inizia(programma, cartella.Di("intera"), 0);
     const std::vector<Istante> intera = Detto(prima.detto);
@@ -163,8 +163,8 @@ void Misura(const char* programma) {
         fclose(prossima->detto);
         vive.erase(prossima);
     }
-    std::printf("melodies lost of %d evenings killed, seed %u %15d\n", uccisioni, seme,
-                conto.perse);
+    misura::StampaMeta("melodies lost of " + std::to_string(uccisioni) + " evenings killed",
+                       conto.perse, 0, "");
     std::printf(
         "  an evening takes %.1f s; %d had something older than %.0f s, %d left a melody "
         "to bring back\n",
@@ -179,5 +179,5 @@ int main(int argc, char** argv) {
         VestiProgramma(qt);
         return Vivi(argv[2]);
     }
-    Misura(argv[0]);
+    Misura(argv[0], argc > 1 ? std::atoi(argv[1]) : 200);
 }

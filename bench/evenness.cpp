@@ -70,30 +70,33 @@ std::vector<double> Attacchi(std::span<const float> mono) {
     return attacchi;
 }
 
-void StampaMessaggi(const std::string& titolo, const std::vector<double>& istanti,
-                    const std::vector<double>& richiesti, double periodo) {
+Uniformita StampaMessaggi(const std::string& titolo, const std::vector<double>& istanti,
+                          const std::vector<double>& richiesti, double periodo) {
     if (istanti.size() < 4) {
         std::printf("%-44s only %zu pulses\n", titolo.c_str(), istanti.size());
-        return;
+        return {};
     }
     std::vector<double> ritardi;
     for (std::size_t i = 0; i < istanti.size(); ++i)
         ritardi.push_back((istanti[i] - (richiesti[0] + static_cast<double>(i) * periodo)) * 1e3);
     std::sort(ritardi.begin(), ritardi.end());
     const double chiesti = richiesti.back() - richiesti.front();
+    const double media = (PeriodoMediano(istanti) / periodo - 1) * 1e6;
     const double persi = chiesti - static_cast<double>(richiesti.size() - 1) * periodo;
     std::printf(
         "%-44s n %4zu   mean %+8.3f ppm   lost %6.4f   late: median %6.4f   p99 %6.4f   "
         "worst %6.4f ms\n",
-        titolo.c_str(), istanti.size(), (PeriodoMediano(istanti) / periodo - 1) * 1e6, persi * 1e3,
-        Quantile(ritardi, 0.5), Quantile(ritardi, 0.99), ritardi.back());
+        titolo.c_str(), istanti.size(), media, persi * 1e3, Quantile(ritardi, 0.5),
+        Quantile(ritardi, 0.99), ritardi.back());
     std::fflush(stdout);
+    return {istanti.size(), media, Quantile(ritardi, 0.99), ritardi.back()};
 }
 
-void StampaPulsi(const std::string& titolo, const std::vector<double>& istanti, double periodo) {
+Uniformita StampaPulsi(const std::string& titolo, const std::vector<double>& istanti,
+                       double periodo) {
     if (istanti.size() < 4) {
         std::printf("%-44s only %zu pulses\n", titolo.c_str(), istanti.size());
-        return;
+        return {};
     }
     const double misurato = Periodo(istanti);
     auto scarti = Scarti(istanti, misurato);
@@ -108,6 +111,7 @@ void StampaPulsi(const std::string& titolo, const std::vector<double>& istanti, 
                 std::sqrt(quadrati / static_cast<double>(scarti.size())), Quantile(scarti, 0.99),
                 scarti.back());
     std::fflush(stdout);
+    return {istanti.size(), (misurato / periodo - 1) * 1e6, Quantile(scarti, 0.99), scarti.back()};
 }
 
 }  // namespace corvana::misura

@@ -82,7 +82,8 @@ private:
 
     void Finisci(QWidget& finestra) {
         turno_.stop();
-        misura::Stampa("key press to MIDI message, in the running window", ritardi_, "ms");
+        misura::Stampa("key press to MIDI message, in the running window", ritardi_, "ms",
+                       {0.99, 0.5});
         finestra.close();
     }
 

@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <random>
 
+#include "bench/figures.h"
 #include "bench/long_voices.h"
 #include "core/real_files.h"
 #include "forms/virtual_clock.h"
@@ -106,8 +107,8 @@ int main() {
         }
         Conta(conto, prima, seconda, cartella.Di("melodia.mel"));
     }
-    std::printf("melodies lost of %d saved under SIGKILL, seed %u %15d\n", uccisioni, seme,
-                conto.perse);
+    misura::StampaMeta("melodies lost of " + std::to_string(uccisioni) + " saved under SIGKILL",
+                       conto.perse, 0, "");
     std::printf("  kills within a write %d; the one melody was found %d times, the other %d\n",
                 conto.aMeta, conto.dellaPrima, conto.dellaSeconda);
 }

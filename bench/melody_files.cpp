@@ -55,21 +55,26 @@ double Carica(Banco& banco) {
 }
 
 template <class Azione>
-void MisuraVolte(const std::string& titolo, int volte, const Azione& azione) {
+std::vector<double> Cronometra(int volte, const Azione& azione) {
     std::vector<double> tempi;
     for (int i = 0; i < volte; ++i) {
         const misura::Cronometro cronometro;
         azione();
         tempi.push_back(cronometro.Millisecondi());
     }
-    misura::Stampa(titolo, tempi, "ms");
+    return tempi;
+}
+
+template <class Azione>
+void MisuraVolte(const std::string& titolo, int volte, const Azione& azione) {
+    misura::Stampa(titolo, Cronometra(volte, azione), "ms");
 }
 
 void MisuraCaricamento(Banco& banco) {
     std::vector<double> tempi(prove);
     for (double& tempo : tempi)
         tempo = Carica(banco);
-    misura::Stampa("load of 4 x 32,767 notes, to the first tick", tempi, "ms");
+    misura::Stampa("load of 4 x 32,767 notes, to the first tick", tempi, "ms", {1, 50});
     MisuraVolte("  reading the file", prove, [&] {
         std::string letti;
         banco.file.Leggi(banco.cartella.Di("lunga.mel"), letti);
@@ -83,8 +88,9 @@ void MisuraCaricamento(Banco& banco) {
 
 void MisuraSalvataggio(Banco& banco) {
     const frmComposer& finestra = banco.palco.finestra;
-    MisuraVolte("save of 4 x 32,767 notes", prove,
-                [&] { banco.palco.finestra.archivio.SalvaMelodia(nome); });
+    misura::Stampa("save of 4 x 32,767 notes",
+                   Cronometra(prove, [&] { banco.palco.finestra.archivio.SalvaMelodia(nome); }),
+                   "ms", {1, 50});
     MisuraVolte("  ScriviMel", prove, [&] {
         ScriviMel({finestra.stato.melodia.voci, 60, {}, {}});
     });

@@ -104,7 +104,7 @@ void Suona(prova::PalcoMelodia& palco, OrologioMisurato& orologio, long tick,
     palco.finestra.pulsi.DurataPulsazioni.PonTesto("16");
     palco.finestra.play.cmdPlay_Click();
     misura::Stampa(titolo + ", by the clock", orologio.passati, "us");
-    misura::Stampa(titolo + ", processor", orologio.lavorati, "us");
+    misura::Stampa(titolo + ", processor", orologio.lavorati, "us", {0.99, 200});
     for (const std::string& messaggio : palco.riquadri.messaggi)
         std::printf("a message box: %s\n", messaggio.c_str());
 }

@@ -1,5 +1,6 @@
 // How late waits of timed sound end, against the instant asked for and by the clock, and what a
 // long row of them loses. Usage: bench_waits [SECONDS]
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -33,7 +34,11 @@ void Misura(Intorno intorno, double attesa, double secondi) {
     std::snprintf(titolo, sizeof titolo, "waits of %.0f ms, %s", attesa * 1e3,
                   misura::Titolo(intorno, misura::Puntuale()).c_str());
     misura::Stampa(titolo, ritardi, "ms late");
-    std::printf("%-52s %.6f ms\n", "  lost in all", persi);
+    misura::StampaMeta(std::string(titolo) + ", lost in all", persi, 0.001, "ms");
+    if (!misura::Puntuale() || intorno == Intorno::Fermato) return;
+    std::sort(ritardi.begin(), ritardi.end());
+    misura::StampaMeta(std::string(titolo) + ", late, p99", misura::Quantile(ritardi, 0.99), 0.3,
+                       "ms");
 }
 
 }  // namespace

@@ -54,7 +54,8 @@ std::unique_ptr<PiattaformaMidi> CaricaUscite(const std::string& modulo,
 
 }  // namespace
 
-Macchina QuestaMacchina(const Applicazione& applicazione, const std::string& qui) {
+Macchina QuestaMacchina(const Applicazione& applicazione, const std::string& qui,
+                        ImpostazioniUscite uscite) {
     FileReali file;
     Macchina macchina;
     macchina.cartellaProgramma = CercaCartellaProgramma(file, qui);
@@ -64,12 +65,12 @@ Macchina QuestaMacchina(const Applicazione& applicazione, const std::string& qui
     macchina.percorsoRecupero = PercorsoRecupero();
     macchina.cartellaUtente = CartellaSua(QStandardPaths::HomeLocation);
     macchina.cartellaDocumenti = CartellaSua(QStandardPaths::DocumentsLocation);
-    const ImpostazioniUscite impostazioni{.cartellaSegnali = macchina.cartellaProgramma + "/note",
-                                          .puntuale = PreferisciPuntualita};
+    uscite.cartellaSegnali = macchina.cartellaProgramma + "/note";
+    uscite.puntuale = PreferisciPuntualita;
     macchina.uscite = [=, &applicazione](const std::function<double()>& istante) {
         return std::make_unique<UsciteDifferite>([=, &applicazione] {
             applicazione.AspettaDipinta(attesaDipinta);
-            return CaricaUscite(qui + CORVANA_OUTPUTS, istante, impostazioni);
+            return CaricaUscite(qui + CORVANA_OUTPUTS, istante, uscite);
         });
     };
     macchina.puntuale = PreferisciPuntualita;
