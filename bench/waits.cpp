@@ -1,6 +1,7 @@
 // How late waits of timed sound end, against the instant asked for and by the clock, and what a
 // long row of them loses. Usage: bench_waits [SECONDS]
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 
@@ -34,7 +35,7 @@ void Misura(Intorno intorno, double attesa, double secondi) {
     std::snprintf(titolo, sizeof titolo, "waits of %.0f ms, %s", attesa * 1e3,
                   misura::Titolo(intorno, misura::Puntuale()).c_str());
     misura::Stampa(titolo, ritardi, "ms late");
-    misura::StampaMeta(std::string(titolo) + ", lost in all", persi, 0.001, "ms");
+    misura::StampaMeta(std::string(titolo) + ", lost in all", std::fabs(persi), 0.001, "ms");
     if (!misura::Puntuale() || intorno == Intorno::Fermato) return;
     std::sort(ritardi.begin(), ritardi.end());
     misura::StampaMeta(std::string(titolo) + ", late, p99", misura::Quantile(ritardi, 0.99), 0.3,
