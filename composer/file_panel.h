@@ -82,6 +82,9 @@ private:
     /// The answer without outer blanks; empty when the box was cancelled.
     std::string Chiedi(const std::string& domanda, const std::string& titolo,
                        const std::string& proposta);
+    using Scrittura = std::function<void(const std::string& percorso)>;
+    void SalvaNuova(const std::string& nome);
+    void Salva(const std::string& nome, const Scrittura& scrivi);
     void ScriviIn(const std::string& percorso);
     std::string ChiediNome(const std::string& proposta);
     void ScriviSulSupporto(const std::string& nomeFile);

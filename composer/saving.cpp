@@ -29,9 +29,20 @@ void PannelloFile::ScriviIn(const std::string& percorso) {
 }
 
 void PannelloFile::SalvaMelodia(const std::string& nome) {
+    Salva(nome, [this](const std::string& percorso) { ScriviIn(percorso); });
+}
+
+/// Under a name that seemed to be nobody's. If it is somebody's all the same, he keeps it.
+void PannelloFile::SalvaNuova(const std::string& nome) {
+    Salva(nome, [this](const std::string& percorso) {
+        Controlla(a_.file.ScriviSeLibero(percorso, vicine_.byte()));
+    });
+}
+
+void PannelloFile::Salva(const std::string& nome, const Scrittura& scrivi) {
     if (nome.empty() || !a_.file.EsisteCartella(a_.globali.percorsoCorrente)) return;
     try {
-        ScriviIn(Percorso(nome));
+        scrivi(Percorso(nome));
         stato_.lblModificato.Visible = false;
         stato_.lblNome.Caption = "Salvato: " + nome;
         ListaFD();
@@ -58,12 +69,11 @@ void PannelloFile::mnuSaveAs_Click() {
         a_.riquadri.MsgBox(a_.globali.testi.msgNomeMelodiaErrato);
         return;
     }
+    if (!a_.file.Esiste(Percorso(melodia_.nomeMelodia))) return SalvaNuova(melodia_.nomeMelodia);
     const TestiLingua& testi = a_.globali.testi;
-    if (a_.file.Esiste(Percorso(melodia_.nomeMelodia)) &&
-        !a_.riquadri.Domanda(testi.msgMelodiaEsiste + melodia_.nomeMelodia + "\r\n" +
-                             testi.msgSostituirla))
-        return;
-    SalvaMelodia(melodia_.nomeMelodia);
+    if (a_.riquadri.Domanda(testi.msgMelodiaEsiste + melodia_.nomeMelodia + "\r\n" +
+                            testi.msgSostituirla))
+        SalvaMelodia(melodia_.nomeMelodia);
 }
 
 std::string PannelloFile::ChiediNome(const std::string& proposta) {

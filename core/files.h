@@ -2,6 +2,7 @@
 // have '/' between their parts. Logic thread.
 #pragma once
 
+#include <cerrno>
 #include <cstddef>
 #include <limits>
 #include <string>
@@ -38,6 +39,11 @@ public:
     /// Replaces the file: whatever interrupts it, the old or the new content is there, whole.
     /// Returns 0 or the errno of what failed.
     virtual int ScriviAtomico(const std::string& percorso, const std::string& contenuto) = 0;
+    /// The same, but the name must be nobody's, else it returns EEXIST.
+    virtual int ScriviSeLibero(const std::string& percorso, const std::string& contenuto) {
+        return Esiste(percorso) || EsisteCartella(percorso) ? EEXIST
+                                                            : ScriviAtomico(percorso, contenuto);
+    }
     /// Gives the file or folder another name; a file, or an empty folder, that had it before is
     /// gone. Returns 0 or the errno.
     virtual int Rinomina(const std::string& percorso, const std::string& nuovo) = 0;

@@ -43,10 +43,25 @@ bool ScriviTutto(int descrittore, std::string_view resto) {
     while (!resto.empty()) {
         const ssize_t scritti = write(descrittore, resto.data(), resto.size());
         if (scritti < 0 && errno == EINTR) continue;
-        if (scritti < 0) return false;
+        // What takes nothing now takes nothing later either.
+        if (scritti == 0) errno = EIO;
+        if (scritti <= 0) return false;
         resto.remove_prefix(static_cast<std::size_t>(scritti));
     }
     return true;
+}
+
+/// What came before an error is in `contenuto`.
+int LeggiTutto(int descrittore, std::string& contenuto, std::size_t limite) {
+    std::array<char, 65536> pezzo{};
+    for (;;) {
+        const ssize_t letti = read(descrittore, pezzo.data(), pezzo.size());
+        if (letti == 0) return 0;
+        if (letti < 0 && errno == EINTR) continue;
+        if (letti < 0) return errno;
+        if (static_cast<std::size_t>(letti) > limite - contenuto.size()) return EFBIG;
+        contenuto.append(pezzo.data(), static_cast<std::size_t>(letti));
+    }
 }
 
 bool Deposita(const std::string& percorso, const std::string& contenuto) {
@@ -82,18 +97,9 @@ int FileReali::Leggi(const std::string& percorso, std::string& contenuto, std::s
     const Descrittore file(percorso, O_RDONLY);
     if (!file.Aperto()) return errno;
     if (const int errore = NonLeggibile(file.Numero())) return errore;
-    std::array<char, 65536> pezzo{};
-    for (;;) {
-        const ssize_t letti = read(file.Numero(), pezzo.data(), pezzo.size());
-        if (letti == 0) return 0;
-        if (letti < 0 && errno == EINTR) continue;
-        if (letti < 0) return errno;
-        if (static_cast<std::size_t>(letti) > limite - contenuto.size()) {
-            contenuto.clear();
-            return EFBIG;
-        }
-        contenuto.append(pezzo.data(), static_cast<std::size_t>(letti));
-    }
+    const int errore = LeggiTutto(file.Numero(), contenuto, limite);
+    if (errore != 0) contenuto.clear();
+    return errore;
 }
 
 int FileReali::Rinomina(const std::string& percorso, const std::string& nuovo) {
@@ -110,13 +116,22 @@ int FileReali::RinominaSeLibero(const std::string& percorso, const std::string& 
 }
 
 int FileReali::ScriviAtomico(const std::string& percorso, const std::string& contenuto) {
+    return Scrivi(percorso, contenuto, &FileReali::Rinomina);
+}
+
+int FileReali::ScriviSeLibero(const std::string& percorso, const std::string& contenuto) {
+    return Scrivi(percorso, contenuto, &FileReali::RinominaSeLibero);
+}
+
+int FileReali::Scrivi(const std::string& percorso, const std::string& contenuto,
+                      Nominare nominare) {
     const std::string provvisorio = percorso + ".nuovo";
-    if (Deposita(provvisorio, contenuto) && rename(provvisorio.c_str(), percorso.c_str()) == 0) {
+    const int errore =
+        Deposita(provvisorio, contenuto) ? (this->*nominare)(provvisorio, percorso) : errno;
+    if (errore == 0)
         FissaCartella(percorso);
-        return 0;
-    }
-    const int errore = errno;
-    unlink(provvisorio.c_str());
+    else
+        unlink(provvisorio.c_str());
     return errore;
 }
 

@@ -20,6 +20,7 @@ public:
     int Leggi(const std::string& percorso, std::string& contenuto,
               std::size_t limite = senzaLimite) override;
     int ScriviAtomico(const std::string& percorso, const std::string& contenuto) override;
+    int ScriviSeLibero(const std::string& percorso, const std::string& contenuto) override;
     int Rinomina(const std::string& percorso, const std::string& nuovo) override;
     int RinominaSeLibero(const std::string& percorso, const std::string& nuovo) override;
     int CreaCartella(const std::string& percorso) override;
@@ -30,6 +31,9 @@ public:
     std::vector<std::string> Supporti() override;
 
 private:
+    using Nominare = int (FileReali::*)(const std::string& percorso, const std::string& nuovo);
+    int Scrivi(const std::string& percorso, const std::string& contenuto, Nominare nominare);
+
     std::vector<std::string> radiciSupporti_;
 };
 

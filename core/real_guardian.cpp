@@ -43,6 +43,8 @@ struct CustodeReale::Posto {
     /// False when it is worth another try.
     bool Fai(const std::function<std::string()>& questi) const;
     int Scrivi(const std::string& contenuto) const;
+    /// Without waiting for its time, and what failed once anew.
+    void Affretta();
 
     const std::unique_ptr<ArchivioFile> file;
     const std::string percorso;
@@ -87,8 +89,8 @@ bool CustodeReale::Posto::AspettaLavoro(std::unique_lock<std::mutex>& guardia) {
 
 bool CustodeReale::Posto::Fai(const std::function<std::string()>& questi) const {
     if (!questi) {
-        file->Elimina(percorso);
-        return true;
+        const int errore = file->Elimina(percorso);
+        return errore == 0 || errore == ENOENT;
     }
     try {
         return Scrivi(questi()) == 0;
@@ -104,6 +106,13 @@ int CustodeReale::Posto::Scrivi(const std::string& contenuto) const {
     return file->ScriviAtomico(percorso, contenuto);
 }
 
+void CustodeReale::Posto::Affretta() {
+    if (!turno.Atteso()) return;
+    if (fatte == chieste) ++chieste;
+    turno.Affretta();
+    lavoro.notify_one();
+}
+
 CustodeReale::CustodeReale(std::unique_ptr<ArchivioFile> file, std::string percorso,
                            TempiCustode tempi)
     : posto_(std::make_shared<Posto>(std::move(file), std::move(percorso), tempi)) {}
@@ -112,6 +121,7 @@ CustodeReale::~CustodeReale() {
     if (!filo_.joinable()) return;
     std::unique_lock guardia(posto_->blocco);
     posto_->fine = true;
+    posto_->Affretta();
     posto_->lavoro.notify_one();
     const bool finito = posto_->fatto.wait_for(guardia, Secondi(posto_->tempi.pazienza),
                                                [this] { return posto_->finito; });
@@ -142,12 +152,7 @@ void CustodeReale::Lascia() {
 
 void CustodeReale::Fissa() {
     std::unique_lock guardia(posto_->blocco);
-    if (posto_->turno.Atteso()) {
-        // What failed once is asked for anew.
-        if (posto_->fatte == posto_->chieste) ++posto_->chieste;
-        posto_->turno.Affretta();
-        posto_->lavoro.notify_one();
-    }
+    posto_->Affretta();
     posto_->fatto.wait_for(guardia, Secondi(posto_->tempi.pazienza),
                            [this] { return posto_->fatte == posto_->chieste; });
 }

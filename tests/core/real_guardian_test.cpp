@@ -7,6 +7,7 @@
 
 #include "core/real_files.h"
 #include "tests/core/temporary_folder.h"
+#include "tests/support/faulty_files.h"
 #include "tests/support/memory_files.h"
 
 namespace corvana::prova {
@@ -117,6 +118,48 @@ TEST(CustodeReale, WhatIsLetGoIsTakenAwayWithoutBeingAskedForTwice) {
     EXPECT_EQ(b.Contenuto(), "no such file");
     std::string byte;
     EXPECT_EQ(b.custode.Ritrova(byte), ENOENT);
+}
+
+/// A kept melody whose file can't be taken away for now.
+struct CustodeOstinato {
+    std::shared_ptr<RegistroFile> registro = std::make_shared<RegistroFile>();
+    FileInMemoria file;
+    std::optional<CustodeReale> custode;
+
+    CustodeOstinato() {
+        registro->quale = 1;
+        registro->guasto = GuastoIniettato{EIO};
+        custode.emplace(std::make_unique<FileConGuasti>(file, registro), "/melodia",
+                        TempiCustode{maiDaSe, pazienza});
+        custode->Tieni(Byte("prima"));
+        custode->Fissa();
+        custode->Lascia();
+        custode->Fissa();
+        EXPECT_TRUE(file.Esiste("/melodia"));
+    }
+};
+
+TEST(CustodeReale, WhatCantBeTakenAwayIsTriedAgainWhenItIsFixed) {
+    CustodeOstinato ostinato;
+    ostinato.custode->Fissa();
+    EXPECT_FALSE(ostinato.file.Esiste("/melodia"));
+}
+
+TEST(CustodeReale, WhatCantBeTakenAwayIsTriedAgainAtTheEnd) {
+    CustodeOstinato ostinato;
+    ostinato.custode.reset();
+    EXPECT_FALSE(ostinato.file.Esiste("/melodia"));
+}
+
+TEST(CustodeReale, ThatNothingIsThereToBeTakenAwayIsNoFailure) {
+    auto registro = std::make_shared<RegistroFile>();
+    FileInMemoria file;
+    CustodeReale custode(std::make_unique<FileConGuasti>(file, registro), "/melodia",
+                         {maiDaSe, pazienza});
+    custode.Lascia();
+    custode.Fissa();
+    custode.Fissa();
+    EXPECT_EQ(registro->chiamate.size(), 1U);
 }
 
 TEST(CustodeReale, WhatIsLetGoBeforeItWasWrittenIsNeverWritten) {

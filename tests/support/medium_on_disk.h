@@ -20,6 +20,9 @@ public:
     int ScriviAtomico(const std::string& percorso, const std::string& contenuto) override {
         return veri_.ScriviAtomico(percorso, contenuto);
     }
+    int ScriviSeLibero(const std::string& percorso, const std::string& contenuto) override {
+        return veri_.ScriviSeLibero(percorso, contenuto);
+    }
     int Rinomina(const std::string& percorso, const std::string& nuovo) override {
         return veri_.Rinomina(percorso, nuovo);
     }
