@@ -77,6 +77,8 @@ TEST(SuonaNota, FourHundredIsAnIndexAndAnyMoreALowCode) {
     BancoSuono b;
     b.suono.SuonaNota(400);
     EXPECT_EQ(b.suono.UltimoMessaggio, (100 * 256 + 436) * 256 + 0x90);
+    b.suono.SuonaNota(401);
+    EXPECT_EQ(b.suono.UltimoMessaggio, (100 * 256 - 64) * 256 + 0x90);
     b.suono.SuonaNota(466);
     EXPECT_EQ(b.suono.UltimoMessaggio, (100 * 256 + 1) * 256 + 0x90);
 }
