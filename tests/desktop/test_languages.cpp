@@ -145,13 +145,6 @@ constexpr Stato stati[] = {{"CorvanaMainF", "lblX12.tip", 54},
                            {"frmComposer", "mnuOrgano", 42},
                            {"frmComposer", "lstBookMark[0]", 356}};
 
-std::string_view ParoleDi(int id, std::string_view RigaAttesa::*parole) {
-    for (const FinestraAttesa& finestra : FinestreAttese())
-        for (const RigaAttesa& riga : finestra.righe)
-            if (riga.id == id) return riga.*parole;
-    throw std::logic_error("no row " + std::to_string(id));
-}
-
 void ControllaStati(Lette& lette, std::string_view RigaAttesa::*parole) {
     for (const Stato& stato : stati)
         EXPECT_TRUE(Legge(lette[stato.finestra][stato.posto], ParoleDi(stato.riga, parole)))

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <sstream>
+#include <stdexcept>
 
 namespace corvana::prova {
 
@@ -16,6 +17,13 @@ RigheAttese RigheDi(std::string_view finestra) {
     for (const FinestraAttesa& attesa : FinestreAttese())
         if (attesa.nome == finestra) return attesa.righe;
     return {};
+}
+
+std::string_view ParoleDi(int id, std::string_view RigaAttesa::*parole) {
+    for (const FinestraAttesa& finestra : FinestreAttese())
+        for (const RigaAttesa& riga : finestra.righe)
+            if (riga.id == id) return riga.*parole;
+    throw std::logic_error("no row " + std::to_string(id));
 }
 
 Luoghi LuoghiDi(const RigaAttesa& riga) {

@@ -44,6 +44,9 @@ RigheAttese RigheInto();
 RigheAttese RigheComposer();
 RigheAttese RigheCopyFromA();
 
+/// The words of a row in the one language or the other; throws when there is no such row.
+std::string_view ParoleDi(int id, std::string_view RigaAttesa::*parole);
+
 using Luoghi = std::set<std::string>;
 
 /// The targets of a row, one by one, an element of an array under its own name: "VoceAttiva1".
