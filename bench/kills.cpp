@@ -1,12 +1,13 @@
 // A process that saves melodies without pause is killed at random instants. Counts the melodies
 // that don't read, whole, as one of those that were saved. A kill is no power failure: what the
-// system has taken over, it still brings to the disk.
+// system has taken over, it still brings to the disk. Usage: bench_kills [KILLS]
 #include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <random>
 
 #include "bench/figures.h"
@@ -21,7 +22,6 @@ namespace {
 
 using namespace corvana;
 
-constexpr int uccisioni = 200;
 constexpr unsigned seme = 20240607;
 constexpr double attesaMassima = 0.04;  // seconds
 constexpr const char* nome = "melodia";
@@ -93,7 +93,8 @@ void Conta(Conto& conto, Banco& prima, Banco& seconda, const std::string& percor
 
 }  // namespace
 
-int main() {
+int main(int argc, char** argv) {
+    const int uccisioni = argc > 1 ? std::atoi(argv[1]) : 200;
     const prova::CartellaProvvisoria cartella;
     Banco prima(cartella.Di(""), 32'767, 0);
     Banco seconda(cartella.Di(""), 20'000, 5);
