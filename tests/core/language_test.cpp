@@ -5,6 +5,7 @@
 
 #include <array>
 
+#include "tests/core/language_check.h"
 #include "tests/support/rig.h"
 
 namespace corvana::prova {
@@ -183,6 +184,13 @@ TEST(UpdateString, AFileFarTooLongIsToldAndNothingOfItIsApplied) {
     b.Applica(lungo);
     EXPECT_EQ(b.finestra.cmdEsci.Caption(), "Esci");
     EXPECT_EQ(b.riquadri.messaggi.size(), 1U);
+}
+
+RC_GTEST_PROP(UpdateString, AnyBytesAreReadAsFarAsTheyAreRows, (std::string byte)) {
+    RC_ASSERT(ControllaLingua(byte) == "");
+    for (char& c : byte)
+        c = "0123;frmLetta\r\n"[static_cast<unsigned char>(c) % 15];
+    RC_ASSERT(ControllaLingua("1;frmLetta;a\n" + byte) == "");
 }
 
 }  // namespace corvana::prova

@@ -1,15 +1,7 @@
-// The entry of scripts/fuzz: bytes of the file of a melody that isn't saved that no one has thought
-// of.
-#include <cstdint>
-#include <cstdio>
-#include <cstdlib>
-
+// The entry of scripts/fuzz: bytes of the file of an unsaved melody that no one has thought of.
 #include "tests/melody/kept_check.h"
+#include "tests/support/fuzz_entry.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* byte, std::size_t quanti) {
-    const std::string_view contenuto(reinterpret_cast<const char*>(byte), quanti);
-    const std::string guasto = corvana::prova::ControllaTenuta(contenuto);
-    if (guasto.empty()) return 0;
-    std::fprintf(stderr, "%s\n", guasto.c_str());
-    std::abort();
+    return corvana::prova::Prova(byte, quanti, corvana::prova::ControllaTenuta);
 }

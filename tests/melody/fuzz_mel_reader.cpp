@@ -1,14 +1,7 @@
 // The entry of scripts/fuzz: bytes of a melody file that no one has thought of.
-#include <cstdint>
-#include <cstdio>
-#include <cstdlib>
-
 #include "tests/melody/mel_check.h"
+#include "tests/support/fuzz_entry.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* byte, std::size_t quanti) {
-    const std::string_view contenuto(reinterpret_cast<const char*>(byte), quanti);
-    const std::string guasto = corvana::prova::ControllaMel(contenuto);
-    if (guasto.empty()) return 0;
-    std::fprintf(stderr, "%s\n", guasto.c_str());
-    std::abort();
+    return corvana::prova::Prova(byte, quanti, corvana::prova::ControllaMel);
 }
