@@ -74,6 +74,10 @@ void ServerMidi::Sospendi() {
     processo_->Segnala(SIGSTOP);
 }
 
+void ServerMidi::Riprendi() {
+    processo_->Segnala(SIGCONT);
+}
+
 PortaRicevente::PortaRicevente(const std::string& nome)
     : file_(cartella_.Percorso() / "messaggi"), processo_({{CORVANA_RECEIVER, nome}, {}, file_}) {
     AspettaInCartella(cartella_.Percorso(), processo_, [this] { return !Righe().empty(); });

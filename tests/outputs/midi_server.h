@@ -26,8 +26,9 @@ public:
     bool Risponde() const;
     /// As if it had crashed.
     void Uccidi();
-    /// Its process neither runs nor ends, until it is killed.
+    /// Its process neither runs nor ends, until `Riprendi`, or until it is killed.
     void Sospendi();
+    void Riprendi();
 
 private:
     std::string nome_;

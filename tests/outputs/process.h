@@ -54,6 +54,8 @@ public:
     ~Processo() { Termina(); }
 
     bool Vivo() const { return !AspettaFine(0); }
+    /// 0 once its end has been taken.
+    pid_t Numero() const { return pid_; }
     /// True when it has ended, which is waited for `secondi` at most.
     bool AspettaFine(double secondi) const;
     /// Waits for its end; its exit code, or -1 when a signal ended it.

@@ -9,6 +9,7 @@
 #include "tests/program/program_rig.h"
 #include "utilities/about.h"
 #include "utilities/instruments.h"
+#include "utilities/midi_test.h"
 
 namespace corvana::prova {
 
@@ -22,13 +23,14 @@ struct Disegni {
     frmConfMetro sequenza{banco.Tutto()};
     frmStrum strumenti{banco.Tutto()};
     frmAbout versione{banco.Tutto()};
+    frmMidiTest midi{banco.Tutto()};
     frmComposer composizione{banco.Tutto(), {}};
 
     const Form& Di(const std::string& forma) const {
         for (const Form* form :
              {static_cast<const Form*>(&banco.finestra), static_cast<const Form*>(&sequenza),
               static_cast<const Form*>(&strumenti), static_cast<const Form*>(&versione),
-              static_cast<const Form*>(&composizione)})
+              static_cast<const Form*>(&midi), static_cast<const Form*>(&composizione)})
             if (form->Name == forma) return *form;
         throw std::logic_error("no design of " + forma);
     }
@@ -55,19 +57,26 @@ ProgrammaVero::ProgrammaVero(Schermo& dove, const Come& come)
     if (AspettaFinestra("CorvanaMainF") == 0) throw std::runtime_error("the box doesn't go");
 }
 
+std::vector<std::string> ProgrammaVero::Ambiente(const Come& come) const {
+    std::vector<std::string> ambiente = come.ambiente;
+    for (std::string voce :
+         {Variabile("DISPLAY", schermo.Nome()), Variabile("HOME", casa_),
+          Variabile("XDG_CONFIG_HOME", casa_ / "config"),
+          Variabile("XDG_CACHE_HOME", casa_ / "cache"),
+          Variabile("XDG_STATE_HOME", casa_ / "state"), Variabile("XDG_RUNTIME_DIR", casa_ / "run"),
+          std::string("QT_QPA_PLATFORM=xcb"), std::string("SDL_AUDIODRIVER=none"),
+          "QT_SCALE_FACTOR=" + std::to_string(come.scala)})
+        ambiente.push_back(std::move(voce));
+    return ambiente;
+}
+
 Processo::Avvio ProgrammaVero::Avvio(const Come& come) const {
-    const auto& casa = casa_;
-    std::filesystem::create_directory(casa / "run");
-    std::filesystem::permissions(casa / "run", std::filesystem::perms::owner_all);
-    return {
-        {CORVANA_PROGRAM},
-        {Variabile("DISPLAY", schermo.Nome()), Variabile("HOME", casa),
-         Variabile("XDG_CONFIG_HOME", casa / "config"), Variabile("XDG_CACHE_HOME", casa / "cache"),
-         Variabile("XDG_STATE_HOME", casa / "state"), Variabile("XDG_RUNTIME_DIR", casa / "run"),
-         "QT_QPA_PLATFORM=xcb", "SDL_AUDIODRIVER=none",
-         "QT_SCALE_FACTOR=" + std::to_string(come.scala)},
-        casa / "uscita",
-        casa / "errori"};
+    std::filesystem::create_directory(casa_ / "run");
+    std::filesystem::permissions(casa_ / "run", std::filesystem::perms::owner_all);
+    return {{come.programma.empty() ? CORVANA_PROGRAM : come.programma},
+            Ambiente(come),
+            casa_ / "uscita",
+            casa_ / "errori"};
 }
 
 xcb_window_t ProgrammaVero::AspettaFinestra(const std::string& forma) {

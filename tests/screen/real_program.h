@@ -16,6 +16,8 @@ public:
                              ///< device was answered
         /// The home of one that was started before; empty for a new user.
         std::filesystem::path casa = {};
+        std::vector<std::string> ambiente = {};  ///< NAME=value, before what is usual
+        std::string programma = {};              ///< another one than this build's
     };
 
     /// Returns when the main window is to be seen, on a machine without a sound device. The screen
@@ -62,6 +64,7 @@ public:
     std::string StatoSalvato() const;
 
 private:
+    std::vector<std::string> Ambiente(const Come& come) const;
     Processo::Avvio Avvio(const Come& come) const;
 };
 

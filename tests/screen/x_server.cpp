@@ -223,6 +223,10 @@ void Schermo::Batti(const std::string& tasto) {
     Xdotool({"key", tasto});
 }
 
+void Schermo::Tieni(const std::string& tasto, int millisecondi) {
+    Xdotool({"key", "--delay", std::to_string(millisecondi), tasto});
+}
+
 void Schermo::Sposta(xcb_window_t finestra, Punto dove) {
     // The frame's corner, its left and its top alone.
     constexpr std::uint32_t quali = XCB_GRAVITY_NORTH_WEST | 3U << 8;

@@ -64,6 +64,8 @@ public:
     void Premi(Punto dove, int bottone);
     void Lascia(Punto dove, int bottone);
     void Batti(const std::string& tasto);
+    /// The same, held down for so long.
+    void Tieni(const std::string& tasto, int millisecondi);
     void Sposta(xcb_window_t finestra, Punto dove);
     void Riduci(xcb_window_t finestra);
     void Riapri(xcb_window_t finestra);
