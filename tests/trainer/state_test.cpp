@@ -77,8 +77,9 @@ TEST(LeggiStato, AFieldThatIsNoNumberIsAMismatch) {
 }
 
 TEST(LeggiStato, ANumberThatDoesntFitIsAnOverflow) {
-    for (const char* testo : {"-1;53;16;30;n", "43;256;16;30;n", "43;99999999999999999999;16;30;n",
-                              "43;53;2147483648;30;n", "43;53;16;-99999999999;n"})
+    for (const char* testo :
+         {"-1;53;16;30;n", "256;53;16;30;n", "43;-1;16;30;n", "43;256;16;30;n",
+          "43;99999999999999999999;16;30;n", "43;53;2147483648;30;n", "43;53;16;-99999999999;n"})
         EXPECT_EQ(NumeroDelGuasto(testo), guastoTraboccamento) << testo;
 }
 
