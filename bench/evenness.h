@@ -13,7 +13,7 @@ std::vector<double> Attacchi(std::span<const float> mono);
 
 /// What a row of pulses comes to.
 struct Uniformita {
-    std::size_t quanti = 0;  ///< fewer than four say nothing
+    std::size_t quanti = 0;  ///< none when they were too few to say anything
     double media = 0;        ///< error of the mean period in ppm
     double p99 = 0;          ///< of what its line tells in milliseconds
     double peggiore = 0;

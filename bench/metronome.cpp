@@ -69,6 +69,7 @@ struct Riga {
 void StampaMete(const std::string& titolo, const Riga& riga, const misura::Uniformita& messaggi,
                 const misura::Uniformita& flusso) {
     constexpr std::size_t abbastanza = 100;
+    if (messaggi.quanti == 0 || flusso.quanti == 0) return;
     if (messaggi.quanti >= abbastanza)
         misura::StampaMeta(titolo + "message, mean", std::fabs(messaggi.media), 1, "ppm");
     if (riga.intorno == Intorno::Fermato) return;
