@@ -41,6 +41,13 @@ TEST(EstensioneAccordi, AtTheEntryThereIsNone) {
     EXPECT_EQ(b.Note(), (Suonati{"0.0 36 0", "0.0 0 0", "0.0 0 0"}));
 }
 
+TEST(EstensioneAccordi, EnteredFromAnotherPageItsFirstLimitIsAskedFor) {
+    BancoInto b{PaginaInto::Intervalli};
+    b.Clicca(1, "mnuRicTa");
+    b.Vai(2);
+    EXPECT_EQ(b.Passo(), "primo limite");
+}
+
 TEST(EstensioneAccordi, TwoKeysInAnyOrderMakeItAndStartComesUp) {
     for (const Tasti& tasti : {Tasti{10, 20}, Tasti{20, 10}}) {
         const BancoRadici b(tasti);

@@ -204,7 +204,10 @@ TEST(Accordi, AnInstrumentChosenInARunTakesTheRangeAndNoChordOutsideOfTheKeysIsS
     b.Clicca(3, "ComdRacStart");
     b.Clicca(4, "mnuSs");
     b.Clicca(5, "TipoAcc1");
-    b.Quando(6, [&] { EXPECT_TRUE(b.uscita.NoteAccese().empty()); });
+    b.Quando(6, [&] {
+        EXPECT_TRUE(b.uscita.NoteAccese().empty());
+        EXPECT_TRUE(b.Visibile("cmdEsci"));
+    });
     b.Tasto(7, 3);
     b.Tasto(8, 3);
     b.Clicca(9, "ComdRacStart");

@@ -109,6 +109,45 @@ TEST(Telaio, AtItsLoadItTakesTheContextTheInstrumentAndTheTipsThatItIsGiven) {
               (Sfumatura{Rgb(154, 0, 223), Rgb(255, 213, 255), true, true}));
 }
 
+TEST(Telaio, AtItsLoadTheReferenceIsOnAndChordsShowTheirKeysWhateverStoodBefore) {
+    BancoInto b{P::Intervalli};
+    b.into.ConRiferimento = 0;
+    b.finestra.intonazione.lblMod.Caption = "o";
+    b.globali.NomiAnglo = true;
+    b.Vai(1);
+    EXPECT_EQ(b.into.ConRiferimento, 1);
+    EXPECT_EQ(b.Testo("lblMod") + b.Consiglio("lblMod"), "/rif si");
+    EXPECT_EQ(b.Testo("lblVt") + ", " + b.Consiglio("lblVt"), "mostra, tt mostra");
+    EXPECT_EQ(b.Testo("lb24"), "C");
+}
+
+TEST(Telaio, EveryOtherEntryHidesTheToolsOfPitch) {
+    for (const char* voce : {"mnuRint", "mnuRicTa", "mnuRicTasto", "mnuRicTo"}) {
+        BancoInto b{P::Intonazione};
+        const auto visibili = [&] {
+            return std::vector<bool>{b.Visibile("IntoStart"), b.Visibile("frInto"),
+                                     b.Visibile("cmdReimposta")};
+        };
+        b.Clicca(1, "IntoStart");
+        b.Clicca(5, "IntoStart");
+        b.Quando(6, [&] { EXPECT_EQ(visibili(), (std::vector{true, true, true})); });
+        b.Clicca(7, voce);
+        b.Vai(8);
+        EXPECT_EQ(visibili(), (std::vector{false, false, false})) << voce;
+    }
+}
+
+TEST(Telaio, TheExitIsRedUnderThePointerAndThenOfItsOwnColour) {
+    BancoInto b{P::Accordi};
+    const Colore suo = Rgb(1, 2, 3);
+    b.finestra.telaio.cmdEsci.ForeColor = suo;
+    b.Fa(1, Fatto::MouseMove, "cmdEsci");
+    b.Quando(2, [&] { EXPECT_EQ(b.finestra.telaio.cmdEsci.ForeColor(), Rgb(255, 0, 0)); });
+    b.Fa(3, Fatto::MouseMove, "");
+    b.Vai(4);
+    EXPECT_EQ(b.finestra.telaio.cmdEsci.ForeColor(), suo);
+}
+
 TEST(Telaio, ChoosingAnInstrumentOnAPageReachedFromTheIntervalsBringsTheIntervalsToTheFrontAgain) {
     BancoInto b{P::Intervalli};
     b.Clicca(1, "mnuNotA");

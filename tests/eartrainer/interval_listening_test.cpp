@@ -39,6 +39,16 @@ TEST(AscoltoIntervalli, AHeldLabelSoundsItsIntervalWithItsKeysLit) {
     EXPECT_EQ(b.finestra.intervalli.LblSemi[7].BackStyle(), fondoOpaco);
 }
 
+TEST(AscoltoIntervalli, StartClearsTheKeysOfALabelThatIsStillHeld) {
+    BancoAscolto b;
+    b.Estrai(4, 14);
+    b.Fa(1, Fatto::MouseDown, "LblSemi7");
+    b.Clicca(2, "CmdIntStart");
+    b.Vai(3);
+    EXPECT_EQ(b.Testo("CmdIntStart"), "Stop");
+    EXPECT_TRUE(b.Accesi().empty());
+}
+
 TEST(AscoltoIntervalli, TheNextOneClearsTheKeysOfTheLast) {
     BancoAscolto b;
     b.Fa(1, Fatto::MouseDown, "LblSemi7");
@@ -83,6 +93,7 @@ TEST(RadiciIntervalli, ANewRootSounds7TenthsWithItsNameAndItsKey) {
     BancoAscolto b;
     b.Cambia(1, "SelIntRoot", 82);
     b.Quando(1.5, [&] { EXPECT_EQ(b.Accesi(), std::vector{46}); });
+    b.Quando(2, [&] { EXPECT_TRUE(b.Accesi().empty()); });
     b.Premuta(3, 4, "LblSemi13");
     b.Vai(5);
     EXPECT_EQ(b.Testo("IntRoot"), "La#");
@@ -166,7 +177,7 @@ TEST(AiutoIntervalli, ItShowsTheAnswerAtNoCostAndHidesItAgain) {
     b.Quando(2.5, [&] {
         EXPECT_EQ(b.Accesi(), (std::vector{24, 28}));
         EXPECT_EQ(b.Testo("lblNi") + b.Testo("lblNs"), "DoMi");
-        EXPECT_TRUE(b.Visibile("lblNi"));
+        EXPECT_TRUE(b.Visibile("lblNi") && b.Visibile("lblNs"));
         EXPECT_EQ(b.Fondo("LblSemi4"), bianco);
     });
     b.Clicca(3, "lblIntSh");

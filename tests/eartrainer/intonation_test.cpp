@@ -177,6 +177,17 @@ TEST(Intonazione, StopSilencesClearsTheKeysAndIgnoresClicksUntilTheNextStart) {
     EXPECT_TRUE(b.uscita.NoteAccese().empty());
 }
 
+TEST(Intonazione, StopBringsTheResetUpAndStartTakesItAway) {
+    BancoInto b{PaginaInto::Intonazione};
+    std::vector<bool> visto;
+    for (const double t : {1.0, 5.0, 9.0}) {
+        b.Clicca(t, "IntoStart");
+        b.Quando(t + 3, [&] { visto.push_back(b.Visibile("cmdReimposta")); });
+    }
+    b.Vai(13);
+    EXPECT_EQ(visto, (std::vector{false, true, false}));
+}
+
 TEST(Intonazione, WithTheNamesShownTheKeysLightAndTheNamesFollow) {
     BancoIntonazione b;
     b.Chiedi(28);
