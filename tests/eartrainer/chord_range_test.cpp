@@ -48,6 +48,18 @@ TEST(EstensioneAccordi, EnteredFromAnotherPageItsFirstLimitIsAskedFor) {
     EXPECT_EQ(b.Passo(), "primo limite");
 }
 
+TEST(EstensioneAccordi, EnteredAnewFromARunOfIntervalsByTheInstrumentsItEndsThatRun) {
+    BancoInto b{PaginaInto::Accordi};
+    b.Estrai(4, 14);
+    b.Clicca(1, "mnuRint");
+    b.Clicca(2, "CmdIntStart");
+    b.Clicca(6, "mnuSs");
+    b.Quando(5, [&] { EXPECT_TRUE(b.finestra.telaio.IntInCorso); });
+    b.Vai(7);
+    EXPECT_TRUE(b.Visibile("frmRacc"));
+    EXPECT_FALSE(b.finestra.telaio.IntInCorso);
+}
+
 TEST(EstensioneAccordi, TwoKeysInAnyOrderMakeItAndStartComesUp) {
     for (const Tasti& tasti : {Tasti{10, 20}, Tasti{20, 10}}) {
         const BancoRadici b(tasti);

@@ -151,6 +151,7 @@ TEST(ChiamantiStrumenti, TheEndOfTheProgramIsRefusedByNoWord) {
 TEST(ChiamantiStrumenti, WhatIsSunkUnderThePointerIsAtRestAgainAsItCloses) {
     BancoChiamanti b(true, false);
     b.Carica();
+    EXPECT_EQ(b.picker.cmdPlaySstru.ForeColor(), 0xFF0000);
     b.picker.cmdPlaySstru.MouseMove(Evento{});
     EXPECT_EQ(b.picker.cmdPlaySstru.ForeColor(), 255);
     const int riposo = b.picker.cmdPlaySstru.Top();

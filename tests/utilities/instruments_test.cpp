@@ -43,6 +43,7 @@ TEST(Strumenti, ItStandsBesideTheMainWindowsCornerWithRoundedCorners) {
         EXPECT_EQ(b.Scelta().Top(), 2600);
         EXPECT_EQ(b.Scelta().Width(), 283 * 15);
         EXPECT_EQ(b.Scelta().Height(), 210 * 15);
+        EXPECT_EQ(b.Scelta().stile, "arrotondata");
         EXPECT_EQ(b.Scelta().Sfondo(),
                   (Sfumatura{Rgb(191, 255, 0), Rgb(255, 255, 0), true, false}));
     });
