@@ -22,8 +22,16 @@ void Applica(Globali& globali, const Bersaglio& bersaglio, const std::string& te
         dynamic_cast<Lista&>(*controllo).PonRiga(bersaglio.elemento, testo);
 }
 
-void ApplicaLinea(const Ambiente& ambiente, const std::string& linea, Form& form,
-                  Bersagli bersagli) {
+/// Takes the first line off, which ends with a line feed or with the text.
+std::string_view PrendiLinea(std::string_view& resto) {
+    const std::size_t fine = resto.find('\n');
+    std::string_view linea = resto.substr(0, fine);
+    resto.remove_prefix(fine == std::string_view::npos ? resto.size() : fine + 1);
+    if (linea.ends_with('\r')) linea.remove_suffix(1);
+    return linea;
+}
+
+void ApplicaLinea(const Ambiente& ambiente, std::string_view linea, Form& form, Bersagli bersagli) {
     const auto campi = Dividi(linea, ';');
     if (Minuscolo(campi.at(1)) != Minuscolo(form.Name)) return;
     ApplicaRiga(ambiente.globali, campi.at(0), campi.at(2), form, bersagli);
@@ -41,11 +49,8 @@ void UpdateString(const Ambiente& ambiente, Form& form, Bersagli bersagli) {
         if (const int errore =
                 ambiente.file.Leggi(ambiente.globali.PercorsoLingua, contenuto, limiteTesti))
             throw Guasto(errore, "read error");
-        if (contenuto.ends_with('\n')) contenuto.pop_back();
-        for (std::string& linea : Dividi(contenuto, '\n')) {
-            if (linea.ends_with('\r')) linea.pop_back();
-            ApplicaLinea(ambiente, linea, form, bersagli);
-        }
+        for (std::string_view resto = contenuto; !resto.empty();)
+            ApplicaLinea(ambiente, PrendiLinea(resto), form, bersagli);
     } catch (const std::exception&) {
         ambiente.riquadri.MsgBox("Error Reading file!!!");
     }

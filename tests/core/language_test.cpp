@@ -54,6 +54,14 @@ TEST(UpdateString, AnEmptyFileChangesNothing) {
     EXPECT_TRUE(b.riquadri.messaggi.empty());
 }
 
+TEST(UpdateString, AnEmptyLineIsAReadErrorEvenWhenThereIsNoOther) {
+    for (const char* contenuto : {"\n", "\r\n", "\n\n", "0;frmProva;x\n\n"}) {
+        BancoLingua b;
+        b.Applica(contenuto);
+        EXPECT_EQ(b.riquadri.messaggi, Avvisi{guasto}) << contenuto;
+    }
+}
+
 TEST(UpdateString, ARowIsForTheWindowOfItsNameWhateverTheCase) {
     BancoLingua b;
     b.Applica("0;FRMprova;titolo\n1;frmPROVA;Esci\n3;frmAbout;no\n3;frmProv;no\n");
