@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <iostream>
 
 #include "tests/program/faulty_evening.h"
 #include "tests/support/seed.h"
@@ -151,16 +152,19 @@ TEST(SeraConGuasti, WhateverFailsNothingIsLostAndTheUserIsToldWhereHeMustKnow) {
     ASSERT_EQ(sana.Vivi(), "");
     const auto& chiamate = sana.Chiamate();
     const int ogni = Eventi(0) > 0 ? 1 : 5;
-    int numero = static_cast<int>(Seme());
+    int numero = static_cast<int>(Seme()), sere = 0;
     for (std::size_t quale = 0; quale < chiamate.size(); ++quale)
         for (const GuastoIniettato& guasto : GuastiPossibili(chiamate[quale].operazione)) {
             if (++numero % ogni != 0) continue;
             SeraConGuasti sera(quale, guasto);
+            ++sere;
             EXPECT_EQ(sera.Vivi(), "") << quale << ", " << chiamate[quale] << ": " << guasto;
             if (guasto.daAlloraInPoi) continue;
             SCOPED_TRACE(testing::Message() << quale << ", " << chiamate[quale] << ": " << guasto);
             EsceDetto(sera, sana, chiamate[quale].passo, Atteso(chiamate, quale, guasto.errore));
         }
+    if (ogni == 1)
+        std::cout << chiamate.size() << " calls, " << sere << " times two evenings with a fault\n";
 }
 
 }  // namespace corvana::prova
