@@ -1,26 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
 
 #include "desktop/letter_painter.h"
+#include "tests/desktop/text_witness.h"
 
 namespace corvana::prova {
 namespace {
-
-double Lineare(double canale) {
-    return canale <= 0.04045 ? canale / 12.92 : std::pow((canale + 0.055) / 1.055, 2.4);
-}
-
-/// As the guidelines for readable text reckon it.
-double Luminanza(const QColor& c) {
-    return 0.2126 * Lineare(c.redF()) + 0.7152 * Lineare(c.greenF()) + 0.0722 * Lineare(c.blueF());
-}
-
-double Contrasto(const QColor& a, const QColor& b) {
-    const auto [scura, chiara] = std::minmax({Luminanza(a), Luminanza(b)});
-    return (chiara + 0.05) / (scura + 0.05);
-}
 
 TEST(Lettera, KeepsItsColourAndStandsOutFromItsPlateWhateverColourThatIs) {
     for (const Colore colore : {Rgb(255, 0, 0), Rgb(0, 255, 0), Rgb(0, 0, 255)}) {
