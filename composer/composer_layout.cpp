@@ -72,7 +72,7 @@ constexpr std::array postiPlay = {
     Posto{"cmdAddBm", 10020, 975, 1350, 540, "M.R."},
     Posto{"cmdPaste", 11490, 975, 1830, 540, "Incolla",
           "Incolla alla fine da nota inizio a nota fine"},
-    Posto{"Label5", 13500, 975, 1230, 540, "Trasponi", {}, "destra mezzo"},
+    Posto{"Label5", 13350, 975, 1380, 540, "Trasponi", {}, "destra mezzo"},
     Posto{"lblIDs0", 14850, 975, 480, 540, "-", {}, "pulsante titolo"},
     Posto{"lblSemitoni", 15390, 975, 540, 540, "0",
           "Clicca per trasporre la melodia per i semitoni indicati", "pulsante titolo"},

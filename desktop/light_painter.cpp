@@ -31,7 +31,7 @@ QPainterPath Contorno(SagomaLuce sagoma, const QPointF& c, double r) {
 void DipingiSede(QPainter& p, const QRectF& area, Colore colore, double scala) {
     p.setBrush(tinta::sede);
     p.drawRoundedRect(area.adjusted(0.5 * scala, 0, -0.5 * scala, 0), 2 * scala, 2 * scala);
-    p.setBrush(InQt(colore, tinta::spento));
+    p.setBrush(InQt(colore, tinta::luceSpenta));
     p.drawPath(Contorno(SagomaLuce::Punto, area.center(), raggioPunto * scala));
 }
 
@@ -73,7 +73,7 @@ void DipingiLuce(QPainter& p, const QRectF& area, Colore colore, double scala) {
     p.setRenderHint(QPainter::Antialiasing);
     p.setPen(Qt::NoPen);
     if (!Accesa(colore)) return DipingiSede(p, area, colore, scala);
-    const QColor luce = InQt(colore, tinta::spento);
+    const QColor luce = InQt(colore, tinta::luceSpenta);
     DipingiAlone(p, area.center(), luce, raggioBagliore * scala);
     // Light around the shape parts it from its own glow.
     p.setPen(QPen(tinta::bagliore, 2 * scala, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));

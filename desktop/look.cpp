@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QFontDatabase>
 #include <QThreadPool>
+#include <QToolTip>
 
 #include "desktop/face_reader.h"
 #include "desktop/icon_painter.h"
@@ -38,6 +39,7 @@ void VestiProgramma(QApplication& qt) {
     PreparaLettori();
     QApplication::setStyle(new Stile);
     QApplication::setPalette(TavolozzaDelProgramma());
+    QToolTip::setPalette(TavolozzaDelProgramma());
     qt.setFont(Carattere({}, 1));
 }
 

@@ -10,7 +10,16 @@ int Dentro(int inizio, int misura, int da, int spazio) {
     return std::clamp(inizio, da, da + spazio - misura);
 }
 
+/// In points of the screen: what the smallest one that the windows are made for leaves them.
+constexpr QSizeF spazioMinimo(1000, 560);
+
 }  // namespace
+
+double ScalaMinima(QSize disegnata, double puntiPerPixel) {
+    const QSizeF spazio = spazioMinimo / puntiPerPixel;
+    return std::min(
+        {1.0, spazio.width() / disegnata.width(), spazio.height() / disegnata.height()});
+}
 
 QRect DentroSchermo(QRect finestra, const QRect& libero) {
     finestra.setSize(finestra.size().boundedTo(libero.size()));

@@ -6,6 +6,10 @@
 
 namespace corvana {
 
+/// How small a window of that designed size may be made, as a share of it: as far as the smallest
+/// screen asks for. Farther its letters couldn't be read, or would be cut off.
+double ScalaMinima(QSize disegnata, double puntiPerPixel);
+
 /// Moved, and made smaller where it must be, so that it lies on the screen as a whole.
 QRect DentroSchermo(QRect finestra, const QRect& libero);
 

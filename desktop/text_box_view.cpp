@@ -15,7 +15,7 @@ namespace {
 
 // In designed pixels.
 constexpr double margineTesto = 6;    ///< beside the text
-constexpr double letteraMinima = 11;  ///< smaller ones can't be read
+constexpr double letteraMinima = 11;  ///< smaller ones look crowded
 
 class Scrittura final : public QLineEdit {
 public:
@@ -133,7 +133,7 @@ void VistaCasella::Riscala() {
     if (Stato().Locked)
         Rimpicciolisci(font, InQt(Stato().Text).trimmed(),
                        std::max(1.0, casella_->width() - 2 * (margineTesto + 4) * Scala()),
-                       static_cast<int>(letteraMinima * Scala()));
+                       std::max(PixelMinimi(), static_cast<int>(letteraMinima * Scala())));
     casella_->setFont(font);
     const int margine = static_cast<int>(margineTesto * Scala());
     casella_->setTextMargins(margine, 0, margine, 0);

@@ -1,5 +1,6 @@
 #include "desktop/theme.h"
 
+#include <QGuiApplication>
 #include <algorithm>
 #include <cmath>
 
@@ -27,12 +28,14 @@ void Attiva(QPalette& p) {
     p.setColor(QPalette::ToolTipText, tinta::inchiostro);
     p.setColor(QPalette::PlaceholderText, tinta::spento);
     p.setColor(QPalette::Link, tinta::accento);
+    p.setColor(QPalette::LinkVisited, tinta::accento);
 }
 
 }  // namespace
 
 QPalette TavolozzaDelProgramma() {
-    QPalette p;
+    // From these two the toolkit reckons those that are named nowhere below.
+    QPalette p(tinta::pannello, tinta::finestra);
     Attiva(p);
     for (const auto ruolo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         p.setColor(ruolo, tinta::inchiostro);
@@ -46,11 +49,17 @@ QStringList FamiglieDelTesto() {
             QStringLiteral("DejaVu Sans")};
 }
 
+int PixelMinimi() {
+    constexpr double puntiMinimi = 11;
+    return static_cast<int>(std::ceil(puntiMinimi / (qApp ? qApp->devicePixelRatio() : 1)));
+}
+
 QFont Carattere(const QStringList& stile, double scala) {
     const Lettere lettere = LettereDi(stile);
     QFont font;
     font.setFamilies(FamiglieDelTesto());
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(lettere.pixel * scala))));
+    font.setPixelSize(
+        std::max(PixelMinimi(), static_cast<int>(std::lround(lettere.pixel * scala))));
     font.setWeight(stile.contains(QLatin1String("forte")) ? QFont::DemiBold : lettere.peso);
     font.setUnderline(stile.contains(QLatin1String("sottolineato")));
     return font;

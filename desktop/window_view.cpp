@@ -14,6 +14,7 @@
 #include "desktop/menu_painter.h"
 #include "desktop/mouse.h"
 #include "desktop/painted_view.h"
+#include "desktop/placement.h"
 #include "desktop/scale.h"
 #include "desktop/tab_order.h"
 #include "desktop/theme.h"
@@ -23,8 +24,6 @@ namespace corvana {
 
 namespace {
 
-/// Below this share of the designed size the letters couldn't be read.
-constexpr double scalaMinima = 0.8;
 /// Of a rounded window's corners, at the designed size.
 constexpr double raggioFinestra = 11;
 
@@ -158,9 +157,10 @@ int VistaFinestra::AltezzaSbarra() const {
 }
 
 void VistaFinestra::Ridimensiona() {
-    finestra_->centralWidget()->setMinimumSize(Disegnata() * scalaMinima);
-    const QSize schermo = finestra_->screen()->availableSize();
-    finestra_->resize((Disegnata() + QSize(0, AltezzaSbarra())).boundedTo(schermo));
+    const QSize intera = Disegnata() + QSize(0, AltezzaSbarra());
+    const double minima = ScalaMinima(intera, finestra_->devicePixelRatioF());
+    finestra_->setMinimumSize(intera * minima);
+    finestra_->resize(intera.boundedTo(finestra_->screen()->availableSize()));
 }
 
 void VistaFinestra::PonScalaFaccia(double scala) {

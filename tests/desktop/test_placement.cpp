@@ -59,5 +59,22 @@ TEST(Collocazione, BesideItIsNeverTallerThanTheScreen) {
     EXPECT_EQ(Accanto({300, 790}, 200, {50, 100, 500, 400}, schermo), QRect(550, 10, 300, 790));
 }
 
+TEST(Collocazione, AWindowThatASmallScreenHoldsIsMadeNoSmaller) {
+    for (const QSize misura : {QSize(283, 210), QSize(1000, 560)})
+        EXPECT_EQ(ScalaMinima(misura, 1), 1);
+}
+
+TEST(Collocazione, OneThatIsTooLargeForItCanBeMadeToFit) {
+    EXPECT_DOUBLE_EQ(ScalaMinima({2000, 560}, 1), 0.5);
+    EXPECT_DOUBLE_EQ(ScalaMinima({2000, 700}, 1), 0.5);
+    EXPECT_DOUBLE_EQ(ScalaMinima({1000, 700}, 1), 0.8);
+}
+
+TEST(Collocazione, WhereAPixelIsSeveralPointsTheScreenHoldsFewerPixels) {
+    EXPECT_DOUBLE_EQ(ScalaMinima({1000, 280}, 2), 0.5);
+    EXPECT_DOUBLE_EQ(ScalaMinima({500, 280}, 2), 1);
+    EXPECT_DOUBLE_EQ(ScalaMinima({1000, 700}, 2), 0.4);
+}
+
 }  // namespace
 }  // namespace corvana

@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 
+#include "desktop/theme.h"
 #include "tests/desktop/stage.h"
 
 namespace corvana::prova {
@@ -29,10 +30,26 @@ TEST(Scala, TheFaceKeepsItsShapeInTheMiddleOfTheWindow) {
 TEST(Scala, TheWindowDoesntShrinkBelowWhatCanBeRead) {
     Palco palco;
     QMainWindow& finestra = palco.scrivania.Davanti()->Finestra();
+    finestra.resize(1000, 700);
+    ASSERT_TRUE(Aspetta([&] { return finestra.centralWidget()->width() == 1000; }));
     finestra.resize(100, 100);
-    Aspetta([&] { return finestra.width() < 780; });
-    EXPECT_GE(finestra.centralWidget()->width(), 780 * 8 / 10);
-    EXPECT_GE(finestra.centralWidget()->height(), 320 * 8 / 10);
+    const QWidget& centro = *finestra.centralWidget();
+    EXPECT_TRUE(Aspetta([&] { return centro.size() == QSize(780, 320); }))
+        << centro.width() << " by " << centro.height();
+}
+
+TEST(Scala, AWindowThatIsLargerThanASmallScreenShrinksToIt) {
+    Palco palco([](FormDiProva& form) { form.Width = 2000 * twipsPerPixel; });
+    QMainWindow& finestra = palco.scrivania.Davanti()->Finestra();
+    finestra.resize(100, 100);
+    ASSERT_TRUE(Aspetta([&] { return finestra.width() == 1000; }));
+    EXPECT_EQ(finestra.centralWidget()->width(), 1000);
+}
+
+TEST(Scala, InASmallWindowLettersStayLargeEnoughToBeRead) {
+    for (const char* stile : {"", "piccolo", "titolo"})
+        for (const double scala : {0.1, 0.6, 0.85, 1.0})
+            EXPECT_GE(Carattere({QLatin1String(stile)}, scala).pixelSize(), 11) << stile << scala;
 }
 
 TEST(Scala, AControlThatTheLogicMovesGoesToItsScaledPlace) {
