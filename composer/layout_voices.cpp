@@ -21,7 +21,7 @@ constexpr std::array postiVoci = {
     Posto{"lblid3", 12930, 2010, 390, 480, ">", {}, "pulsante"},
     Posto{"VolS", 13530, 2010, 1410, 480, {}, {}, "consiglio:lblVolS"},
     Posto{"lblVolS", 15000, 2010, 600, 480, "100", {}, "pulsante"},
-    Posto{"lblMuteC0", 15690, 2010, 810, 480, " ^ -- _ ", {}, "pulsante consiglio:lblVolS"},
+    Posto{"lblMuteC0", 15690, 2010, 810, 480, " ^ -- _ ", {}, "pulsante passi consiglio:lblVolS"},
     Posto{"Shape2", 540, 2760, 16050, 900, {}, {}, "riga"},
     Posto{"VoceAttiva1", 660, 2880, 1080, 660, "C", {}, "voce"},
     Posto{"lblInstr1", 1890, 2910, 2550, 600, {}, {}, "riquadro centro mezzo"},
@@ -34,7 +34,7 @@ constexpr std::array postiVoci = {
     Posto{"lblid7", 12930, 2970, 390, 480, ">", {}, "pulsante"},
     Posto{"VolC", 13530, 2970, 1410, 480, {}, {}, "consiglio:lblVolC"},
     Posto{"lblVolC", 15000, 2970, 600, 480, "100", {}, "pulsante"},
-    Posto{"lblMuteC1", 15690, 2970, 810, 480, " ^ -- _ ", {}, "pulsante consiglio:lblVolC"},
+    Posto{"lblMuteC1", 15690, 2970, 810, 480, " ^ -- _ ", {}, "pulsante passi consiglio:lblVolC"},
     Posto{"Shape3", 540, 3720, 16050, 900, {}, {}, "riga"},
     Posto{"VoceAttiva2", 660, 3840, 1080, 660, "T", {}, "voce"},
     Posto{"lblInstr2", 1890, 3870, 2550, 600, {}, {}, "riquadro centro mezzo"},
@@ -47,7 +47,7 @@ constexpr std::array postiVoci = {
     Posto{"lblid11", 12930, 3930, 390, 480, ">", {}, "pulsante"},
     Posto{"VolT", 13530, 3930, 1410, 480, {}, {}, "consiglio:lblVolT"},
     Posto{"lblVolT", 15000, 3930, 600, 480, "100", {}, "pulsante"},
-    Posto{"lblMuteC2", 15690, 3930, 810, 480, " ^ -- _ ", {}, "pulsante consiglio:lblVolT"},
+    Posto{"lblMuteC2", 15690, 3930, 810, 480, " ^ -- _ ", {}, "pulsante passi consiglio:lblVolT"},
     Posto{"Shape4", 540, 4680, 16050, 900, {}, {}, "riga"},
     Posto{"VoceAttiva3", 660, 4800, 1080, 660, "B", {}, "voce"},
     Posto{"lblInstr3", 1890, 4830, 2550, 600, {}, {}, "riquadro centro mezzo"},
@@ -60,7 +60,7 @@ constexpr std::array postiVoci = {
     Posto{"lblid15", 12930, 4890, 390, 480, ">", {}, "pulsante"},
     Posto{"VolB", 13530, 4890, 1410, 480, {}, {}, "consiglio:lblVolB"},
     Posto{"lblVolB", 15000, 4890, 600, 480, "100", {}, "pulsante"},
-    Posto{"lblMuteC3", 15690, 4890, 810, 480, " ^ -- _ ", {}, "pulsante consiglio:lblVolB"},
+    Posto{"lblMuteC3", 15690, 4890, 810, 480, " ^ -- _ ", {}, "pulsante passi consiglio:lblVolB"},
 };
 
 }  // namespace

@@ -11,6 +11,7 @@ constexpr Colore coloreAltra = Rgb(255, 0, 0);
 constexpr int volumePieno = 100;
 constexpr int volumeIniziale = 2;
 constexpr int volumeSommesso = 60;  // of the others, at the first press of a solo button
+constexpr int passiSolo = 2;        // and at the next press it is back at the first
 constexpr std::int32_t pianoforteMix = 0, organoMix = 16;
 
 }  // namespace
@@ -33,6 +34,7 @@ void PannelloMix::Prepara(std::size_t voce) {
     controlli.volume.Max = 0;
     controlli.volume.Value = volumeIniziale;
     lblInstr[voce].BackColor = coloriVoci[voce];
+    lblMuteC[voce].Max = passiSolo;
     VoceAttiva[voce].Click = [this, voce] { VoceAttiva_Click(static_cast<int>(voce)); };
     lblMuteC[voce].Click = [this, voce] { lblMuteC_Click(static_cast<int>(voce)); };
     controlli.volume.Change = [&controlli] { VolumeCambiato(controlli); };
@@ -71,6 +73,7 @@ void PannelloMix::lblMuteC_Click(int Index) {
         default: return ResetVolumi();
     }
     ++statoSolo[voce];
+    MostraPassi();
 }
 
 void PannelloMix::lblVol_Click(std::size_t voce) {
@@ -81,6 +84,12 @@ void PannelloMix::ResetVolumi() {
     for (const ControlliVolume& voce : perVoce)
         voce.volume.PonValore(0);
     statoSolo = {};
+    MostraPassi();
+}
+
+void PannelloMix::MostraPassi() {
+    for (std::size_t voce = 0; voce < numeroVoci; ++voce)
+        lblMuteC[voce].Value = statoSolo[voce];
 }
 
 /// That voice full, the others as told.

@@ -33,10 +33,10 @@ public:
                                                 {finestra_, "lblInstr2"},
                                                 {finestra_, "lblInstr3"}}};
     /// The solo buttons.
-    std::array<Etichetta, numeroVoci> lblMuteC{{{finestra_, "lblMuteC0"},
-                                                {finestra_, "lblMuteC1"},
-                                                {finestra_, "lblMuteC2"},
-                                                {finestra_, "lblMuteC3"}}};
+    std::array<EtichettaAPassi, numeroVoci> lblMuteC{{{finestra_, "lblMuteC0"},
+                                                      {finestra_, "lblMuteC1"},
+                                                      {finestra_, "lblMuteC2"},
+                                                      {finestra_, "lblMuteC3"}}};
     Barra VolS{finestra_, "VolS"}, VolC{finestra_, "VolC"};
     Barra VolT{finestra_, "VolT"}, VolB{finestra_, "VolB"};
     Etichetta lblVolS{finestra_, "lblVolS"}, lblVolC{finestra_, "lblVolC"};
@@ -73,6 +73,7 @@ public:
 
 private:
     void Prepara(std::size_t voce);
+    void MostraPassi();
     void ColoraVoci(std::size_t scelta);
     void PonVolumi(std::size_t voce, int altre);
     void PonStrumenti(std::int32_t programma);

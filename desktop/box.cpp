@@ -9,6 +9,8 @@
 #include "desktop/aspect.h"
 #include "desktop/icon_painter.h"
 #include "desktop/look.h"
+#include "desktop/scale.h"
+#include "desktop/theme.h"
 
 namespace corvana {
 
@@ -30,7 +32,7 @@ QDialog* CreaMessaggio(const ApriRiquadro& richiesta, const ParoleSchermo& parol
     riquadro->setTextFormat(Qt::PlainText);
     riquadro->setText(InQt(richiesta.testo));
     const QString segno = domanda ? QStringLiteral("domanda") : QStringLiteral("messaggio");
-    constexpr int lato = 48;
+    const int lato = qRound(48 * ScalaDi(riquadro));
     riquadro->setIconPixmap(
         IconaDelProgramma(segno).pixmap(QSize(lato, lato), riquadro->devicePixelRatioF()));
     riquadro->setStandardButtons(domanda ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
@@ -63,6 +65,7 @@ QDialog* MostraRiquadro(const ApriRiquadro& richiesta, const ParoleSchermo& paro
     const bool immissione = richiesta.genere == GenereRiquadro::Immissione;
     QDialog* riquadro = immissione ? CreaImmissione(richiesta, parole, sopra)
                                    : CreaMessaggio(richiesta, parole, sopra);
+    riquadro->setFont(Carattere({}, ScalaDi(riquadro)));
     riquadro->setAttribute(Qt::WA_DeleteOnClose);
     riquadro->setWindowRole(QStringLiteral("riquadro"));
     riquadro->setWindowTitle(richiesta.titolo.empty() ? QString::fromLatin1(nomeProgramma)

@@ -66,14 +66,18 @@ QPainterPath Terzina() {
     QFont font(FamiglieDelTesto().front());
     font.setFamilies(FamiglieDelTesto());
     font.setPixelSize(100);
-    font.setBold(true);
+    font.setWeight(QFont::Medium);
     cifra.addText(0, 0, font, QStringLiteral("3"));
     const QRectF sua = cifra.boundingRect();
+    // As large as the letters of a text, beside notes that are the smaller for it.
+    constexpr double cifraInSpazi = 0.031, passo = 1.35;
     QTransform inSpazi;
-    inSpazi.translate(1.95, sopraIlGambo - 0.6).scale(0.018, 0.018).translate(-sua.center().x(), 0);
+    inSpazi.translate(centroTesta + passo, sopraIlGambo - 0.5)
+        .scale(cifraInSpazi, cifraInSpazi)
+        .translate(-sua.center().x(), 0);
     QPainterPath note;
     for (int i = 0; i < 3; ++i)
-        note |= Semiminima().translated(1.35 * i, 0);
+        note |= Semiminima().translated(passo * i, 0);
     return note | inSpazi.map(cifra);
 }
 

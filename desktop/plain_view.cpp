@@ -19,6 +19,18 @@ Aspetto Acceso(Aspetto aspetto) {
     return aspetto;
 }
 
+/// A button with its steps beneath its words.
+void DipingiAPassi(QPainter& p, const QRectF& area, const Aspetto& a, double scala,
+                   const Tocco& tocco) {
+    constexpr double postoLampade = 8;  // designed pixels, at the bottom
+    Aspetto vuoto = a, scritta = a;
+    vuoto.Caption.clear();
+    scritta.stile << QStringLiteral("centro") << QStringLiteral("mezzo");
+    DipingiBottone(p, area, vuoto, scala, tocco);
+    DipingiTesto(p, area.adjusted(0, 0, 0, -postoLampade * scala), scritta, scala, tocco.abilitato);
+    DipingiPassi(p, area, a, scala);
+}
+
 }  // namespace
 
 bool VistaSemplice::Colpibile() const {
@@ -28,6 +40,7 @@ bool VistaSemplice::Colpibile() const {
 
 void VistaSemplice::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
     if (Stato().Ha("lettera")) return DipingiLettera(p, area, Stato(), Scala(), tocco);
+    if (Stato().Ha("passi")) return DipingiAPassi(p, area, Stato(), Scala(), tocco);
     if (Stato().Ha("pulsante")) {
         DipingiBottone(p, area, Stato(), Scala(), tocco);
         if (Svelata()) DipingiSvelata(p, area.adjusted(0, 0, 0, -Scala()), Scala());

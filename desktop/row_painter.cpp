@@ -71,7 +71,7 @@ void DipingiRiga(QPainter& p, const QStyleOptionViewItem& o, const Aspetto& aspe
     p.setRenderHint(QPainter::Antialiasing);
     if (Scelta(o) || o.state.testFlag(QStyle::State_MouseOver)) EvidenziaRiga(p, o, scala);
     if (aspetto.MultiSelect && o.state.testFlag(QStyle::State_HasFocus)) CerchiaRiga(p, o, scala);
-    if (o.text.count(QLatin1Char('-')) == o.text.size())
+    if (aspetto.Ha("separata") && o.text.count(QLatin1Char('-')) == o.text.size())
         DipingiFiloRiga(p, o, scala);
     else
         ScriviRiga(p, o, aspetto.ForeColor, scala);

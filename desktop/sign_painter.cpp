@@ -14,6 +14,7 @@ constexpr double postoSegno = 14;  ///< of its middle, from the left
 constexpr double ingrandimentoEsito = 1.6;
 constexpr double dallAngolo = 7.5, spessoreSvelata = 2, raggioSvelata = 7;
 constexpr double riduzioneSvelata = 0.6;
+constexpr double raggioPasso = 2.25, traPassi = 9, sottoPassi = 6.5;
 
 QPainterPath TracciaSegno(bool giusto) {
     QPainterPath segno;
@@ -48,6 +49,18 @@ void DipingiEsito(QPainter& p, const QRectF& area, const Aspetto& aspetto, doubl
         else
             DipingiSegno(p, {area.left() + postoSegno * scala, area.center().y()}, giusto,
                          giusto ? tinta::giusto : tinta::sbagliato, scala);
+    }
+}
+
+void DipingiPassi(QPainter& p, const QRectF& area, const Aspetto& aspetto, double scala) {
+    p.setRenderHint(QPainter::Antialiasing);
+    const QPointF mezzo(area.center().x(), area.bottom() - sottoPassi * scala);
+    for (int passo = 0; passo < aspetto.Max; ++passo) {
+        const bool fatto = passo < aspetto.Value;
+        p.setPen(QPen(fatto ? tinta::accento : tinta::filoForte, scala));
+        p.setBrush(fatto ? QBrush(tinta::accento) : QBrush(Qt::NoBrush));
+        const double via = (passo - (aspetto.Max - 1) / 2.0) * traPassi * scala;
+        p.drawEllipse(mezzo + QPointF(via, 0), raggioPasso * scala, raggioPasso * scala);
     }
 }
 

@@ -17,6 +17,10 @@ void DipingiSegno(QPainter& p, const QPointF& centro, bool giusto, const QColor&
 /// they count. With "esito" it is the last answer, and the sign stands in the middle.
 void DipingiEsito(QPainter& p, const QRectF& area, const Aspetto& aspetto, double scala);
 
+/// How many of a button's steps were gone: as many lamps beneath its words as `Max`, the first
+/// `Value` of them lit.
+void DipingiPassi(QPainter& p, const QRectF& area, const Aspetto& aspetto, double scala);
+
 /// Tells the answer that is shown from its neighbours.
 void DipingiSvelata(QPainter& p, const QRectF& area, double scala);
 

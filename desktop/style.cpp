@@ -1,5 +1,6 @@
 #include "desktop/style.h"
 
+#include <QDialog>
 #include <QFrame>
 #include <QScrollBar>
 #include <QStyleFactory>
@@ -20,7 +21,13 @@ namespace corvana {
 
 namespace {
 
-constexpr double latoSpunta = 16;  ///< designed pixels
+// In designed pixels.
+constexpr double latoSpunta = 16;
+constexpr double orloConsiglio = 6;  ///< around the text of a tool tip
+// Of the toolkit's boxes.
+constexpr double orloRiquadro = 16, traParti = 10;
+constexpr double altezzaBottone = 32, larghezzaBottone = 84;
+constexpr double altezzaCasella = 30, rientroCasella = 8;
 
 Tocco ToccoDi(const QStyleOption& o) {
     const auto e = [&o](QStyle::StateFlag stato) { return o.state.testFlag(stato); };
@@ -42,10 +49,24 @@ double MisuraDisegnata(QStyle::PixelMetric quale) {
         case QStyle::PM_MenuVMargin: return 4;
         case QStyle::PM_MenuPanelWidth: return 1;
         case QStyle::PM_MenuBarHMargin: return 4;
+        case QStyle::PM_ToolTipLabelFrameWidth: return orloConsiglio;
         case QStyle::PM_MenuBarVMargin:
         case QStyle::PM_MenuBarPanelWidth:
         case QStyle::PM_MenuBarItemSpacing: return 0;
         default: return -1;
+    }
+}
+
+/// How the parts of a box stand.
+double MisuraRiquadro(QStyle::PixelMetric quale) {
+    switch (quale) {
+        case QStyle::PM_LayoutLeftMargin:
+        case QStyle::PM_LayoutTopMargin:
+        case QStyle::PM_LayoutRightMargin:
+        case QStyle::PM_LayoutBottomMargin: return orloRiquadro;
+        case QStyle::PM_LayoutHorizontalSpacing:
+        case QStyle::PM_LayoutVerticalSpacing: return traParti;
+        default: return MisuraDisegnata(quale);
     }
 }
 
@@ -122,12 +143,15 @@ Stile::Stile() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
 void Stile::polish(QWidget* widget) {
     QProxyStyle::polish(widget);
+    // Over a window that its user has enlarged it has letters like those.
+    if (widget->inherits("QTipLabel")) widget->setFont(Carattere({}, ScalaDi(widget)));
     // What lies beneath a scroll bar is seen beside its thumb.
     if (qobject_cast<QScrollBar*>(widget)) widget->setAttribute(Qt::WA_OpaquePaintEvent, false);
 }
 
 int Stile::pixelMetric(PixelMetric quale, const QStyleOption* o, const QWidget* widget) const {
-    const double disegnata = MisuraDisegnata(quale);
+    const bool riquadro = qobject_cast<const QDialog*>(widget);
+    const double disegnata = riquadro ? MisuraRiquadro(quale) : MisuraDisegnata(quale);
     if (disegnata < 0) return QProxyStyle::pixelMetric(quale, o, widget);
     return static_cast<int>(std::lround(disegnata * ScalaDi(widget)));
 }
@@ -148,13 +172,24 @@ QSize Stile::sizeFromContents(ContentsType cosa, const QStyleOption* o, const QS
     const auto* voce = qstyleoption_cast<const QStyleOptionMenuItem*>(o);
     if (cosa == CT_MenuItem && voce) return MisuraVoce(*voce, dentro, ScalaDi(widget));
     if (cosa == CT_MenuBarItem && voce) return MisuraVoceSbarra(dentro, ScalaDi(widget));
+    const bool nostro = AspettoDi(widget);
     // How wide the rows of a list are is its own to choose.
-    if (cosa == CT_ItemViewItem && AspettoDi(widget)) return {0, AltezzaDellaRiga(ScalaDi(widget))};
-    return QProxyStyle::sizeFromContents(cosa, o, dentro, widget);
+    if (cosa == CT_ItemViewItem && nostro) return {0, AltezzaDellaRiga(ScalaDi(widget))};
+    const QSize misura = QProxyStyle::sizeFromContents(cosa, o, dentro, widget);
+    if (nostro) return misura;
+    const auto almeno = [&](double larga, double alta) {
+        return misura.expandedTo((QSizeF(larga, alta) * ScalaDi(widget)).toSize());
+    };
+    if (cosa == CT_PushButton) return almeno(larghezzaBottone, altezzaBottone);
+    return cosa == CT_LineEdit ? almeno(0, altezzaCasella) : misura;
 }
 
 QRect Stile::subElementRect(SubElement parte, const QStyleOption* o, const QWidget* widget) const {
     if (parte == SE_CheckBoxFocusRect || parte == SE_CheckBoxClickRect) return o->rect;
+    if (parte == SE_LineEditContents && !AspettoDi(widget)) {
+        const int rientro = static_cast<int>(rientroCasella * ScalaDi(widget));
+        return o->rect.adjusted(rientro, 0, -rientro, 0);
+    }
     return QProxyStyle::subElementRect(parte, o, widget);
 }
 
@@ -178,13 +213,15 @@ QIcon Stile::standardIcon(StandardPixmap quale, const QStyleOption* o,
 void Stile::drawPrimitive(PrimitiveElement cosa, const QStyleOption* o, QPainter* p,
                           const QWidget* widget) const {
     const Aspetto* aspetto = AspettoDi(widget);
-    if (cosa == PE_PanelLineEdit && aspetto)
-        return DipingiCasella(*p, o->rect, *aspetto, ScalaDi(widget), ToccoDi(*o).fuoco);
     switch (cosa) {
+        case PE_PanelLineEdit:
+            return DipingiCasella(*p, o->rect, aspetto ? *aspetto : Aspetto(), ScalaDi(widget),
+                                  ToccoDi(*o).fuoco);
         case PE_PanelButtonCommand:
             return DipingiBottone(*p, o->rect, {}, ScalaDi(widget), ToccoDi(*o));
         case PE_IndicatorCheckBox: return DipingiSpunta(*p, *o, ScalaDi(widget));
         case PE_FrameFocusRect: return DipingiAnello(*p, o->rect, ScalaDi(widget));
+        case PE_PanelTipLabel:
         case PE_PanelMenu: return DipingiTavola(*p, o->rect);
         case PE_FrameMenu: return;
         default: return QProxyStyle::drawPrimitive(cosa, o, p, widget);

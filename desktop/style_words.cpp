@@ -55,7 +55,10 @@ const ParolaStile parole[] = {
     {"mezzo"},
     // One line, of which the end is shown.
     {"percorso"},
+    // Of a list's rows those without a letter part the others.
+    {"separata"},
     // A painter draws something more.
+    {"passi"},
     {"giuste"},
     {"sbagliate"},
     {"esito"},

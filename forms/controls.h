@@ -20,6 +20,13 @@ struct Etichetta : ConCaption {
     Proprieta<&Valori::BackStyle> BackStyle{*this};
 };
 
+/// A label that goes through several steps and shows which of them it has reached.
+struct EtichettaAPassi : Etichetta {
+    using Etichetta::Etichetta;
+    Proprieta<&Valori::Value> Value{*this};
+    Proprieta<&Valori::Max> Max{*this};
+};
+
 struct Bottone : ConCaption {
     Bottone(Form& form, std::string nome, Controllo* padre = nullptr)
         : ConCaption(form, std::move(nome), Genere::Bottone, padre) {}

@@ -65,7 +65,7 @@ constexpr std::array posti = {
     Posto{"ToolButton7", 3150, 60, 480, 480, {}, "Aiuto", "icona:aiuto"},
 
     Posto{"Intervallo", 7980, 930, 3840, 300, "Intervallo", {}, "titolo"},
-    Posto{"difficolt", 7980, 1260, 3840, 3450, {}, "Scegli le note dell'esercizio"},
+    Posto{"difficolt", 7980, 1260, 3840, 3450, {}, "Scegli le note dell'esercizio", "separata"},
     Posto{"Start", 7980, 4920, 2490, 600, "Start", {}, "principale"},
     Posto{"cmdEscibg", 10620, 4920, 1200, 600, {}, {}, "pulsante dietro"},
     Posto{"cmdEsci", 10620, 4920, 1200, 600, "Esci", {}, "pulsante forte"},

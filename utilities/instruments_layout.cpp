@@ -16,13 +16,13 @@ constexpr std::array postiStrumenti = {
     Posto{"cmdEsci", 3195, 2475, 825, 420, "O K", {}, "pulsante"},
     Posto{"frmVoci", 225, 225, 3795, 630, {}, {}, "pannello"},
     Posto{"bgVoci", 0, 0, 3795, 630, {}, {}, "pannello"},
-    Posto{"VoceAttiva0", 90, 105, 420, 420, "S", " Soprano ", "voce"},
-    Posto{"VoceAttiva1", 555, 105, 420, 420, "C", "Clicca per inserire il contralto", "voce"},
-    Posto{"VoceAttiva2", 1020, 105, 420, 420, "T", "Clicca per inserire il tenore", "voce"},
-    Posto{"VoceAttiva3", 1485, 105, 420, 420, "B", "Clicca per inserire il basso", "voce"},
-    Posto{"lblVoceAttiva", 1950, 105, 960, 420, {}, {}, "centro mezzo"},
-    Posto{"cmdPlaybg", 2925, 105, 780, 420, {}, {}, "pulsante dietro"},
-    Posto{"cmdPlaySstru", 2925, 105, 780, 420, "Play", {}, "pulsante"},
+    Posto{"VoceAttiva0", 90, 105, 375, 420, "S", " Soprano ", "voce"},
+    Posto{"VoceAttiva1", 495, 105, 375, 420, "C", "Clicca per inserire il contralto", "voce"},
+    Posto{"VoceAttiva2", 900, 105, 375, 420, "T", "Clicca per inserire il tenore", "voce"},
+    Posto{"VoceAttiva3", 1305, 105, 375, 420, "B", "Clicca per inserire il basso", "voce"},
+    Posto{"lblVoceAttiva", 1725, 105, 1110, 420, {}, {}, "centro mezzo"},
+    Posto{"cmdPlaybg", 2865, 105, 840, 420, {}, {}, "pulsante dietro"},
+    Posto{"cmdPlaySstru", 2865, 105, 840, 420, "Play", {}, "pulsante"},
 };
 
 /// With the voices above.

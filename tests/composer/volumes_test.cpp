@@ -23,6 +23,13 @@ struct BancoVolumi : BancoComposer {
             passi.at(voce) = finestra.mix.statoSolo[voce];
         return passi;
     }
+    /// As its face shows them.
+    Quattro PassiMostrati() const {
+        Quattro passi{};
+        for (std::size_t voce = 0; voce < numeroVoci; ++voce)
+            passi.at(voce) = finestra.mix.lblMuteC[voce].Value();
+        return passi;
+    }
     void Solo(std::size_t voce) { Subito(Fatto::Click, "lblMuteC" + std::to_string(voce)); }
 };
 
@@ -53,6 +60,17 @@ TEST(LblMuteCClick, TheFirstPressLowersTheOthersTo60TheSecondTo98TheThirdBringsA
         EXPECT_EQ(b.Barre(), (Quattro{0, 0, 0, 0}));
         EXPECT_EQ(b.Passi(), (Quattro{0, 0, 0, 0}));
     }
+}
+
+TEST(LblMuteCClick, TheButtonsShowTheirSteps) {
+    BancoVolumi b;
+    EXPECT_EQ(b.PassiMostrati(), (Quattro{0, 0, 0, 0}));
+    b.Solo(1);
+    b.Solo(3);
+    b.Solo(3);
+    EXPECT_EQ(b.PassiMostrati(), (Quattro{0, 1, 0, 2}));
+    b.Solo(3);
+    EXPECT_EQ(b.PassiMostrati(), (Quattro{0, 0, 0, 0}));
 }
 
 TEST(LblMuteCClick, AVoicesButtonRemembersItsStepWhileAnotherIsUsed) {

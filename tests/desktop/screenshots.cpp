@@ -70,8 +70,8 @@ void FotografaRiquadro(Macchinetta& m, Scrivania& scrivania, GenereRiquadro gene
     richiesta.testo =
         "Melody modified. Save?\nA second line, that is long enough to be broken by the box.";
     richiesta.proposta = "Salmo centesimo";
-    QDialog* riquadro =
-        MostraRiquadro(richiesta, &scrivania.Davanti()->Finestra(), [](const Risposta&) {});
+    QDialog* riquadro = MostraRiquadro(richiesta, ParoleSchermo(), &scrivania.Davanti()->Finestra(),
+                                       [](const Risposta&) {});
     Respira();
     m.Scatta(*riquadro, nome);
     riquadro->close();

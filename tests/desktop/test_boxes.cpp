@@ -32,6 +32,20 @@ TEST(Riquadri, AMessageHoldsTheLogicAndNotTheWindows) {
         Aspetta([&] { return Trova(palco.scrivania, "scritta").accessibleName() == "dopo"; }));
 }
 
+TEST(Riquadri, OverALargerWindowABoxHasLargerLettersAndButtons) {
+    for (const int volte : {1, 2}) {
+        Palco palco;
+        Ingrandisci(*palco.scrivania.Davanti(), volte);
+        palco.Ordina([](FormDiProva& form) { form.riquadri.MsgBox("Errore"); });
+        QMessageBox& riquadro = Messaggio(palco);
+        EXPECT_EQ(riquadro.font().pixelSize(), 13 * volte);
+        QAbstractButton& bottone = *riquadro.button(QMessageBox::Ok);
+        EXPECT_GE(bottone.height(), 32 * volte);
+        EXPECT_GE(bottone.width(), 84 * volte);
+        bottone.click();
+    }
+}
+
 TEST(Riquadri, AQuestionIsTrueForYesAlone) {
     for (const auto tasto : {QMessageBox::Yes, QMessageBox::No}) {
         Palco palco;

@@ -10,6 +10,8 @@
 #include "composer/composer.h"
 #include "desktop/face_reader.h"
 #include "desktop/figure_painter.h"
+#include "desktop/sign_painter.h"
+#include "desktop/theme.h"
 #include "tests/desktop/program_stage.h"
 #include "tests/program/program_rig.h"
 
@@ -120,6 +122,26 @@ struct PalcoComposer : PalcoProgramma {
         return Aspetta([&] { return Segnato(nome) == segnato; });
     }
 };
+
+TEST(Passi, ALampForEachIsLitAsFarAsTheyWereGone) {
+    const auto accese = [](int fatti) {
+        Aspetto aspetto;
+        aspetto.Max = 2;
+        aspetto.Value = fatti;
+        QImage foto(54, 32, QImage::Format_RGB32);
+        foto.fill(tinta::bottone);
+        QPainter p(&foto);
+        DipingiPassi(p, foto.rect(), aspetto, 1);
+        int punti = 0;
+        for (int x = 0; x < foto.width(); ++x)
+            for (int y = 0; y < foto.height(); ++y)
+                punti += foto.pixelColor(x, y) == tinta::accento;
+        return punti;
+    };
+    EXPECT_EQ(accese(0), 0);
+    EXPECT_GT(accese(1), 8);
+    EXPECT_EQ(accese(2), 2 * accese(1));
+}
 
 TEST(FacciaComposer, AReaderIsToldWhichFigureAndAttributeAreLitAndWhichVoiceIsWritten) {
     PalcoComposer p;

@@ -9,6 +9,7 @@
 #include <QTextBrowser>
 
 #include "desktop/help_window.h"
+#include "desktop/theme.h"
 #include "tests/desktop/dosed_clock.h"
 #include "tests/desktop/program_stage.h"
 
@@ -153,7 +154,7 @@ TEST(FinestraAiuto, PicturesFitTheWindowAndTheStyleSheetCounts) {
     EXPECT_LE(testo.document()->idealWidth(), testo.viewport()->width());
     const QTextBlock sottotitolo = testo.document()->begin().next();
     const QTextCharFormat lettere = sottotitolo.begin().fragment().charFormat();
-    EXPECT_EQ(lettere.foreground().color(), QColor(0x6A, 0x62, 0x56));
+    EXPECT_EQ(lettere.foreground().color(), tinta::inchiostroTenue);
 }
 
 TEST(AiutoNelProgramma, F1OpensThePageAndTheDrillGoesOnBesideIt) {

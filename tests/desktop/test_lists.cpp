@@ -2,8 +2,12 @@
 
 #include <QListWidget>
 #include <QMainWindow>
+#include <QPainter>
 #include <QScrollBar>
+#include <QStyleOptionViewItem>
 
+#include "desktop/row_painter.h"
+#include "desktop/theme.h"
 #include "tests/desktop/stage.h"
 
 namespace corvana::prova {
@@ -131,6 +135,30 @@ TEST(Lista, ItsRowsGrowWithTheWindow) {
     finestra.resize(finestra.width() * 2, finestra.height() * 2);
     EXPECT_TRUE(Aspetta(
         [&] { return ListaDi(palco).visualItemRect(ListaDi(palco).item(0)).height() >= 38; }));
+}
+
+/// The row's picture, of a list whose rows have that style.
+QImage RigaDipinta(const char* stile, const QString& testo) {
+    Aspetto aspetto;
+    aspetto.stile = ParoleDi(stile);
+    QStyleOptionViewItem o;
+    o.rect = QRect(0, 0, 120, 20);
+    o.state = QStyle::State_Enabled;
+    o.text = testo;
+    QImage foto(o.rect.size(), QImage::Format_RGB32);
+    foto.fill(tinta::carta);
+    QPainter p(&foto);
+    DipingiRiga(p, o, aspetto, 1);
+    return foto;
+}
+
+TEST(Lista, AMelodyMayBeCalledADash) {
+    for (const char* nome : {"-", "---"}) {
+        const QImage filo = RigaDipinta("separata", nome), scritta = RigaDipinta("", nome);
+        EXPECT_NE(filo.pixelColor(100, 10), tinta::carta);
+        EXPECT_EQ(scritta.pixelColor(100, 10), tinta::carta);
+        EXPECT_NE(scritta, RigaDipinta("", {})) << "nothing is written";
+    }
 }
 
 }  // namespace

@@ -30,13 +30,14 @@ TEST(AspettoDeiWidget, IsThatOfTheControl) {
     }
 }
 
-TEST(AspettoDeiWidget, OneWithoutIsPaintedInNoControlsManner) {
+TEST(AspettoDeiWidget, OneOfTheToolkitsBoxesLooksLikeTheControls) {
     Palco palco;
     QLineEdit propria;
     propria.resize(100, 30);
     const QImage sua = Fotografa(Trova(palco.scrivania, "casella"));
     EXPECT_EQ(sua.pixelColor(50, 0), tinta::filo);
-    EXPECT_NE(Fotografa(propria).pixelColor(50, 0), tinta::filo);
+    EXPECT_EQ(Fotografa(propria).pixelColor(50, 0), tinta::filo);
+    EXPECT_GE(propria.sizeHint().height(), 30);
 }
 
 }  // namespace
