@@ -8,6 +8,7 @@
 #include <QTextBrowser>
 #include <QToolBar>
 #include <QWindow>
+#include <algorithm>
 
 #include "desktop/aspect.h"
 #include "desktop/look.h"
@@ -21,6 +22,7 @@ namespace {
 /// Pictures are taken at twice the size that they are shown at.
 constexpr double puntiPerPixel = 2;
 constexpr int margine = 30;
+constexpr int latoScorrimento = 12;
 constexpr QSize misura(740, 680);
 /// Narrower the lines would be too short to read well.
 constexpr int larghezzaMinima = 420;
@@ -38,8 +40,12 @@ public:
         const QImage figura = QImage(posto.toLocalFile()).convertToFormat(QImage::Format_RGB32);
         if (figura.isNull()) return {};
         const double scala = devicePixelRatioF();
-        QImage ridotta = figura.scaled(figura.size() * (scala / puntiPerPixel), Qt::KeepAspectRatio,
-                                       Qt::SmoothTransformation);
+        // In a window that had little room beside the program's a picture is as broad as the text.
+        const double riga = (window()->width() - 2 * margine - 2 * latoScorrimento) * scala;
+        const QSizeF sua = QSizeF(figura.size()) * (scala / puntiPerPixel);
+        const double quanto = std::min(1.0, riga / sua.width());
+        QImage ridotta =
+            figura.scaled((sua * quanto).toSize(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
         ridotta.setDevicePixelRatio(scala);
         return ridotta;
     }
@@ -89,8 +95,8 @@ void FinestraAiuto::CreaSbarra() {
 }
 
 void FinestraAiuto::Mostra(const QString& file, int contesto, const QWidget* accanto) {
-    Vai(QFileInfo(file), QString::number(contesto) + QStringLiteral(".html"));
     if (accanto && !isVisible()) Colloca(*accanto);
+    Vai(QFileInfo(file), QString::number(contesto) + QStringLiteral(".html"));
     if (isMinimized()) showNormal();
     show();
     raise();

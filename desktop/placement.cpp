@@ -21,6 +21,10 @@ double ScalaMinima(QSize disegnata, double puntiPerPixel) {
         {1.0, spazio.width() / disegnata.width(), spazio.height() / disegnata.height()});
 }
 
+QSize ConLaSuaForma(QSize misura, QSize spazio) {
+    return misura.boundedTo(misura.scaled(spazio, Qt::KeepAspectRatio));
+}
+
 QRect DentroSchermo(QRect finestra, const QRect& libero) {
     finestra.setSize(finestra.size().boundedTo(libero.size()));
     finestra.moveTo(Dentro(finestra.x(), finestra.width(), libero.x(), libero.width()),

@@ -10,6 +10,9 @@ namespace corvana {
 /// screen asks for. Farther its letters couldn't be read, or would be cut off.
 double ScalaMinima(QSize disegnata, double puntiPerPixel);
 
+/// As much of that size as there is room for, no broader or narrower than it is.
+QSize ConLaSuaForma(QSize misura, QSize spazio);
+
 /// Moved, and made smaller where it must be, so that it lies on the screen as a whole.
 QRect DentroSchermo(QRect finestra, const QRect& libero);
 

@@ -28,7 +28,8 @@ void Contieni(QWidget& finestra) {
     const QRect cornice = finestra.windowHandle()->frameGeometry();
     const QRect giusta = DentroSchermo(cornice, finestra.screen()->availableGeometry());
     if (giusta == cornice || finestra.isMaximized() || finestra.isFullScreen()) return;
-    finestra.resize(finestra.size() + giusta.size() - cornice.size());
+    const QSize orlo = cornice.size() - finestra.size();
+    finestra.resize(ConLaSuaForma(finestra.size(), giusta.size() - orlo));
     finestra.windowHandle()->setFramePosition(giusta.topLeft());
 }
 

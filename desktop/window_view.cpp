@@ -160,7 +160,7 @@ void VistaFinestra::Ridimensiona() {
     const QSize intera = Disegnata() + QSize(0, AltezzaSbarra());
     const double minima = ScalaMinima(intera, finestra_->devicePixelRatioF());
     finestra_->setMinimumSize(intera * minima);
-    finestra_->resize(intera.boundedTo(finestra_->screen()->availableSize()));
+    finestra_->resize(ConLaSuaForma(intera, finestra_->screen()->availableSize()));
 }
 
 void VistaFinestra::PonScalaFaccia(double scala) {

@@ -76,7 +76,7 @@ constexpr std::array postiInto = {
     Posto{"lblIntoNN", 2220, 90, 1320, 600, {}, {}, "nome centro mezzo"},
 
     Posto{"FrmIntervalli", 180, 2310, 8220, 3900, {}, {}, "carta"},
-    Posto{"Label5", 45, 495, 540, 480, "Semit.", {}, "piccolo mezzo centro"},
+    Posto{"Label5", 135, 180, 1080, 285, "Semit.", {}, "piccolo mezzo"},
     Posto{"Label7", 210, 1755, 1200, 510, "Modo", {}, "pulsante"},
     Posto{"lblModo", 1530, 1755, 6480, 510, " : ", {}, "detto"},
     Posto{"lblFv", 210, 2385, 1650, 510, {}, {}, "pulsante"},
@@ -140,7 +140,7 @@ void PoniCoppia(Etichetta& risposta, Etichetta& striscia, const Rettangolo& post
 
 /// A grid of columns, one for each number of semitones.
 void DisponiGriglia(PaginaIntervalli& pagina) {
-    constexpr int sinistra = 600, colonna = 525, larga = 495;
+    constexpr int sinistra = 135, colonna = 570, larga = 540;
     const auto posto = [](int semitoni) { return sinistra + semitoni * colonna; };
     for (int n = 0; n < dimensioniIntervallo; ++n) {
         const auto quale = static_cast<std::size_t>(n);
@@ -150,8 +150,7 @@ void DisponiGriglia(PaginaIntervalli& pagina) {
     }
     for (std::size_t i = 0; i < nomiIntervalli.size(); ++i) {
         const NomeIntervallo& nome = nomiIntervalli.at(i);
-        PoniIn(pagina.Label4[i],
-               {posto(nome.semitoni) - 12, nome.sopra ? 180 : 1245, colonna - 6, 285},
+        PoniIn(pagina.Label4[i], {posto(nome.semitoni), nome.sopra ? 180 : 1245, larga, 285},
                nome.consonante ? "piccolo centro mezzo tondo sottolineato"
                                : "piccolo centro mezzo tondo");
     }

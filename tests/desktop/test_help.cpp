@@ -157,6 +157,15 @@ TEST(FinestraAiuto, PicturesFitTheWindowAndTheStyleSheetCounts) {
     EXPECT_EQ(lettere.foreground().color(), tinta::inchiostroTenue);
 }
 
+TEST(FinestraAiuto, InANarrowWindowAPictureIsNoBroaderThanTheText) {
+    Aiuto a;
+    a.finestra.resize(450, 600);
+    a.finestra.Mostra(italiano, 1);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&a.finestra, 60'000));
+    const QTextBrowser& testo = a.finestra.Testo();
+    EXPECT_LE(testo.document()->idealWidth(), testo.viewport()->width());
+}
+
 TEST(AiutoNelProgramma, F1OpensThePageAndTheDrillGoesOnBesideIt) {
     ProgrammaConAiuto p;
     Scrivania& s = p.scrivania;

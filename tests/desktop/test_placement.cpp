@@ -59,6 +59,12 @@ TEST(Collocazione, BesideItIsNeverTallerThanTheScreen) {
     EXPECT_EQ(Accanto({300, 790}, 200, {50, 100, 500, 400}, schermo), QRect(550, 10, 300, 790));
 }
 
+TEST(Collocazione, AWindowThatIsTooLargeKeepsItsShape) {
+    EXPECT_EQ(ConLaSuaForma({400, 300}, {1000, 800}), QSize(400, 300));
+    EXPECT_EQ(ConLaSuaForma({2000, 1000}, {1000, 800}), QSize(1000, 500));
+    EXPECT_EQ(ConLaSuaForma({1000, 1600}, {1000, 800}), QSize(500, 800));
+}
+
 TEST(Collocazione, AWindowThatASmallScreenHoldsIsMadeNoSmaller) {
     for (const QSize misura : {QSize(283, 210), QSize(1000, 560)})
         EXPECT_EQ(ScalaMinima(misura, 1), 1);
