@@ -46,7 +46,7 @@ constexpr std::array postiFinestra = {
     Posto{"ToolButton4", 1575, 60, 480, 480, {}, {}, "icona:salva"},
     Posto{"ToolButton5", 2100, 60, 480, 480, {}, {}, "icona:salvacome"},
     Posto{"ToolButton6", 2625, 60, 480, 480, {}, "Help", "icona:aiuto"},
-    Posto{"lblNome", 3780, 120, 7050, 600, {}, {}, "carta titolo centro mezzo"},
+    Posto{"lblNome", 3780, 120, 7050, 600, {}, {}, "carta titolo centro mezzo letto annunciato"},
     Posto{"lblModificato", 10950, 180, 480, 480, "*", {}, "icona:modificata"},
     Posto{"pictCi", 13500, 120, 3090, 600, "Scegli ...", "Scegli ...", "scelta forte"},
     Posto{"cmdCm", 16980, 150, 540, 540, "×", {}, "chiudi"},
@@ -55,8 +55,8 @@ constexpr std::array postiFinestra = {
 constexpr std::array postiPlay = {
     Posto{"Shape0", 540, 810, 16050, 870, {}, {}, "pannello"},
     Posto{"cmdPlay", 660, 900, 1380, 690, "Play", {}, "principale"},
-    Posto{"lblNe", 2190, 900, 825, 300, {}, {}, "riquadro centro mezzo forte"},
-    Posto{"lblNt", 3135, 900, 825, 300, {}, {}, "riquadro centro mezzo"},
+    Posto{"lblNe", 2190, 900, 825, 300, {}, {}, "riquadro centro mezzo forte letto"},
+    Posto{"lblNt", 3135, 900, 825, 300, {}, {}, "riquadro centro mezzo letto"},
     Posto{"Secondo0", 2190, 1230, 180, 180, {}, {}, "tondo"},
     Posto{"Secondo1", 2588, 1230, 180, 180, {}, {}, "tondo"},
     Posto{"Secondo2", 2985, 1230, 180, 180, {}, {}, "tondo"},
@@ -64,7 +64,7 @@ constexpr std::array postiPlay = {
     Posto{"Secondo4", 3780, 1230, 180, 180, {}, {}, "tondo"},
     Posto{"lblRigaCur", sinistraRigaCur, 1440, corsaCursore, 150, {}, {}, "corsa"},
     Posto{"Cursore", sinistraRigaCur, 1410, 120, 210, {}, {}, "cursore"},
-    Posto{"lblPnn", 4200, 900, 1080, 690, {}, {}, "riquadro nome centro mezzo"},
+    Posto{"lblPnn", 4200, 900, 1080, 690, {}, {}, "riquadro nome centro mezzo letto"},
     // The box reaches over its words, so that a click on them ticks it.
     Posto{"chekLoop", 5370, 1080, 1620, 330, {}, {}, "nome:chekLoopLb"},
     Posto{"chekLoopLb", 5730, 1080, 1260, 330, "Ripeti", {}, "mezzo"},

@@ -13,6 +13,7 @@ PannelloTasti::PannelloTasti(const Ambiente& ambiente, Form& finestra, StatoComp
 void PannelloTasti::Carica() {
     tastoCorrente = nessunTasto;
     tastiera.PonNomi(a_.globali.NomiAnglo);
+    tastiera.figura.NomeLetto = a_.globali.testi.TxtTastiera;
 }
 
 void PannelloTasti::MostraTasto(int tasto, bool acceso) {

@@ -24,6 +24,11 @@ struct TestiLingua : ParoleSchermo {
     std::string TipX1, TipX2;
     std::string msgSenzaSuono;  ///< no sound device was found
 
+    // In words: the staff, the five octaves, the places on the staff.
+    std::string TxtPentagramma, TxtTastiera, LuogoChiaveSol, LuogoChiaveFa, LuogoLinea, LuogoSpazio;
+    std::string LuogoSopra, LuogoSotto;         ///< beyond the staff's outer lines
+    std::string LuogoTaglio, LuogoOltreTaglio;  ///< on a ledger line, and in the space beyond it
+
     // The instrument picker's, filled by the main window.
     std::string TipContralto, TipTenore, TipBasso;
 

@@ -61,8 +61,24 @@ QString SenzaAccesso(const QString& caption) {
 }
 
 QString NomeAccessibile(const Aspetto& aspetto) {
-    const QString consiglio = InQt(aspetto.ToolTipText);
+    if (!aspetto.NomeLetto.empty()) return InQt(aspetto.NomeLetto);
+    const QString consiglio = InQt(aspetto.ToolTipText).trimmed();
     return consiglio.isEmpty() ? SenzaAccesso(InQt(aspetto.Caption)) : consiglio;
+}
+
+QString CioCheIlNomeTace(const Aspetto& aspetto, const QString& nome) {
+    QStringList detti;
+    for (const QString& testo :
+         {InQt(aspetto.ToolTipText), SenzaAccesso(InQt(aspetto.Caption)).simplified()}) {
+        const bool parola = std::any_of(testo.begin(), testo.end(),
+                                        [](QChar segno) { return segno.isLetterOrNumber(); });
+        if (parola && !nome.contains(testo.trimmed())) detti.append(testo.trimmed());
+    }
+    return detti.join(QLatin1String(", "));
+}
+
+bool ENome(Nome nome) {
+    return nome == &Valori::Caption || nome == &Valori::ToolTipText || nome == &Valori::NomeLetto;
 }
 
 QRect InPixel(const QRect& twips, double scala) {

@@ -38,8 +38,13 @@ Colore InColore(const QColor& colore);
 
 /// A caption without the marks of its access key.
 QString SenzaAccesso(const QString& caption);
-/// What a screen reader says for the control: its tool tip, else its caption.
+/// What a screen reader says for the control: what is meant for it alone, else its tool tip, else
+/// its caption.
 QString NomeAccessibile(const Aspetto& aspetto);
+/// It makes the name.
+bool ENome(Nome nome);
+/// Of the tool tip and the caption what a control so named doesn't say; signs aren't words.
+QString CioCheIlNomeTace(const Aspetto& aspetto, const QString& nome);
 
 /// Twips to a pixel at the designed size.
 constexpr int twipsPerPixel = 15;

@@ -11,6 +11,7 @@
 namespace corvana {
 
 Faccia::Faccia(VistaDipinta& terra, QWidget& dove) : QWidget(&dove), terra_(terra), topo_(*this) {
+    if (!terra.Padre()) voce_ = std::make_unique<Banditore>(*this);
     setMouseTracking(true);
 }
 

@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+#include "desktop/crier.h"
 #include "desktop/face_mouse.h"
 #include "desktop/painted_view.h"
 
@@ -15,6 +16,9 @@ public:
     Faccia(VistaDipinta& terra, QWidget& dove);
 
     VistaDipinta& Terra() const { return terra_; }
+
+    /// Speaks for the window, where this is its ground.
+    Banditore& Voce() const { return *voce_; }
 
     /// What lies on top there and is painted; the ground itself where there is nothing else.
     VistaDipinta& Sotto(const QPointF& punto) const;
@@ -43,6 +47,7 @@ private:
 
     VistaDipinta& terra_;
     TopoFaccia topo_;
+    std::unique_ptr<Banditore> voce_;
     VistaDipinta* fuoco_ = nullptr;
 };
 

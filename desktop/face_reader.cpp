@@ -12,15 +12,30 @@ namespace {
 
 using Interfacce = std::vector<QAccessibleInterface*>;
 
-/// Of all that lies in the control, what is something to a screen reader.
-Interfacce Dette(const VistaDipinta& vista) {
-    Interfacce dette;
+void Raccogli(const VistaDipinta& vista, Interfacce& dette) {
     for (Vista* figlia : vista.Figlie())
         if (QWidget* widget = figlia->Widget()) {
             dette.push_back(QAccessible::queryAccessibleInterface(widget));
         } else if (auto* dipinta = dynamic_cast<VistaDipinta*>(figlia)) {
-            if (dipinta->Detta()) dette.push_back(&dipinta->PerLettore());
+            if (dipinta->Detta())
+                dette.push_back(&dipinta->PerLettore());
+            else
+                Raccogli(*dipinta, dette);
         }
+}
+
+/// Of all that lies in the control, what is something to a screen reader. What has nothing to say
+/// gives way to what lies in it.
+Interfacce Dette(const VistaDipinta& vista) {
+    Interfacce dette;
+    Raccogli(vista, dette);
+    return dette;
+}
+
+/// Of a face: at last what is told of the window, where it is the window's ground.
+Interfacce DetteDi(Faccia& faccia) {
+    Interfacce dette = Dette(faccia.Terra());
+    if (!faccia.Terra().Padre()) dette.push_back(&faccia.Voce().PerLettore());
     return dette;
 }
 
@@ -48,16 +63,11 @@ QAccessible::Role Ruolo(const VistaDipinta& vista) {
     if (vista.Azionabile())
         return vista.Spuntata() ? QAccessible::CheckBox : QAccessible::PushButton;
     switch (vista.Origine().tipo) {
-        case Genere::Figura: return vista.Fermata() ? QAccessible::Grouping : QAccessible::Graphic;
+        case Genere::Figura:
+            return vista.Stato().Ha("tastiera") ? QAccessible::Grouping : QAccessible::Graphic;
         case Genere::Cornice: return QAccessible::Grouping;
         default: return QAccessible::StaticText;
     }
-}
-
-void Di(VistaDipinta& vista, QAccessible::Event cosa) {
-    if (!QAccessible::isActive() || !vista.Detta()) return;
-    QAccessibleEvent evento(&vista.PerLettore(), cosa);
-    QAccessible::updateAccessibility(&evento);
 }
 
 }  // namespace
@@ -67,9 +77,11 @@ QWindow* Accessibile::window() const {
 }
 
 QAccessibleInterface* Accessibile::parent() const {
-    auto& sopra = const_cast<VistaDipinta&>(*vista_.Sotto());
-    if (QWidget* faccia = sopra.Widget()) return QAccessible::queryAccessibleInterface(faccia);
-    return &sopra.PerLettore();
+    const VistaDipinta* sopra = vista_.Sotto();
+    while (!sopra->Widget() && !sopra->Detta())
+        sopra = sopra->Sotto();
+    if (QWidget* faccia = sopra->Widget()) return QAccessible::queryAccessibleInterface(faccia);
+    return &const_cast<VistaDipinta*>(sopra)->PerLettore();
 }
 
 QAccessibleInterface* Accessibile::child(int indice) const {
@@ -89,11 +101,8 @@ QAccessibleInterface* Accessibile::childAt(int x, int y) const {
 }
 
 QString Accessibile::text(QAccessible::Text quale) const {
-    const QString& nome = vista_.NomeDetto();
-    if (quale == QAccessible::Name) return nome;
-    const QString consiglio = InQt(vista_.Stato().ToolTipText).trimmed();
-    const bool altro = quale == QAccessible::Description && consiglio != nome.trimmed();
-    return altro ? consiglio : QString();
+    if (quale == QAccessible::Name) return vista_.Lettura();
+    return quale == QAccessible::Description ? vista_.Dettaglio() : QString();
 }
 
 QRect Accessibile::rect() const {
@@ -115,7 +124,7 @@ QAccessible::State Accessibile::state() const {
     stato.pressed = vista_.PremutaDaTasto();
     stato.checkable = vista_.Spuntata().has_value();
     stato.checked = vista_.Spuntata().value_or(false);
-    stato.selectable = vista_.Stato().Ha("risposta");
+    stato.selectable = vista_.Svelabile();
     stato.selected = vista_.Svelata();
     return stato;
 }
@@ -140,15 +149,15 @@ AccessibileFaccia::AccessibileFaccia(Faccia& faccia)
     : QAccessibleWidget(&faccia, QAccessible::Grouping), faccia_(faccia) {}
 
 QAccessibleInterface* AccessibileFaccia::child(int indice) const {
-    return Di(Dette(faccia_.Terra()), indice);
+    return Di(DetteDi(faccia_), indice);
 }
 
 int AccessibileFaccia::childCount() const {
-    return static_cast<int>(Dette(faccia_.Terra()).size());
+    return static_cast<int>(DetteDi(faccia_).size());
 }
 
 int AccessibileFaccia::indexOfChild(const QAccessibleInterface* figlio) const {
-    return Indice(Dette(faccia_.Terra()), figlio);
+    return Indice(DetteDi(faccia_), figlio);
 }
 
 QAccessibleInterface* AccessibileFaccia::childAt(int x, int y) const {
@@ -161,6 +170,12 @@ QAccessibleInterface* AccessibileFaccia::focusChild() const {
     return QAccessibleWidget::focusChild();
 }
 
+QAccessible::State AccessibileFaccia::state() const {
+    QAccessible::State stato = QAccessibleWidget::state();
+    stato.focusable = stato.focused = false;
+    return stato;
+}
+
 void PreparaLettori() {
     QAccessible::installFactory([](const QString&, QObject* oggetto) -> QAccessibleInterface* {
         auto* faccia = dynamic_cast<Faccia*>(oggetto);
@@ -168,19 +183,21 @@ void PreparaLettori() {
     });
 }
 
-void DiFuoco(VistaDipinta& vista) {
-    Di(const_cast<VistaDipinta&>(vista.DovEIlFuoco()), QAccessible::Focus);
-}
-
-void DiNomeCambiato(VistaDipinta& vista) {
-    Di(vista, QAccessible::NameChanged);
-}
-
-void DiStatoCambiato(VistaDipinta& vista) {
+void Di(QAccessible::Event cosa, VistaDipinta& vista) {
     if (!QAccessible::isActive() || !vista.Detta()) return;
-    QAccessible::State cambiati;
-    cambiati.disabled = cambiati.invisible = cambiati.checked = cambiati.selected = true;
-    QAccessibleStateChangeEvent evento(&vista.PerLettore(), cambiati);
+    QAccessibleEvent evento(&vista.PerLettore(), cosa);
+    QAccessible::updateAccessibility(&evento);
+}
+
+void DiFuoco(VistaDipinta& vista) {
+    Di(QAccessible::Focus, const_cast<VistaDipinta&>(vista.DovEIlFuoco()));
+}
+
+void DiStato(VistaDipinta& vista, void (*quale)(QAccessible::State&)) {
+    if (!QAccessible::isActive() || !vista.Detta()) return;
+    QAccessible::State cambiato;
+    quale(cambiato);
+    QAccessibleStateChangeEvent evento(&vista.PerLettore(), cambiato);
     QAccessible::updateAccessibility(&evento);
 }
 

@@ -49,6 +49,8 @@ public:
     int indexOfChild(const QAccessibleInterface* figlio) const override;
     QAccessibleInterface* childAt(int x, int y) const override;
     QAccessibleInterface* focusChild() const override;
+    /// What it paints has the focus, never itself.
+    QAccessible::State state() const override;
 
 private:
     Faccia& faccia_;
@@ -59,7 +61,8 @@ void PreparaLettori();
 
 /// Tell screen readers, where there are any.
 void DiFuoco(VistaDipinta& vista);
-void DiNomeCambiato(VistaDipinta& vista);
-void DiStatoCambiato(VistaDipinta& vista);
+void Di(QAccessible::Event cosa, VistaDipinta& vista);
+/// `quale` marks the one state that changed: the bridge to the readers takes no second one.
+void DiStato(VistaDipinta& vista, void (*quale)(QAccessible::State&));
 
 }  // namespace corvana

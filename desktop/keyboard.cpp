@@ -1,11 +1,15 @@
 #include "desktop/keyboard.h"
 
+#include <QAbstractItemView>
+#include <QAbstractSlider>
 #include <QApplication>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QWindow>
 #include <utility>
 
+#include "desktop/face.h"
 #include "desktop/key_map.h"
 #include "forms/keys.h"
 
@@ -31,6 +35,18 @@ Evento FattoTasto(Fatto fatto, int codice, const QKeyEvent& tasto) {
 bool SoloRisposta(int codice) {
     const bool cifra = codice >= vk::tastierino0 && codice <= vk::tastierino0 + 9;
     return cifra && !qobject_cast<QLineEdit*>(QApplication::focusWidget());
+}
+
+bool EFreccia(int codice) {
+    return codice == vk::sinistra || codice == vk::su || codice == vk::destra || codice == vk::giu;
+}
+
+bool UsaFrecce(const QWidget& widget) {
+    if (const auto* faccia = dynamic_cast<const Faccia*>(&widget))
+        return faccia->Fuoco() && faccia->Fuoco()->UsaFrecce();
+    return qobject_cast<const QAbstractItemView*>(&widget) ||
+           qobject_cast<const QAbstractSlider*>(&widget) ||
+           qobject_cast<const QComboBox*>(&widget) || qobject_cast<const QLineEdit*>(&widget);
 }
 
 }  // namespace
@@ -73,6 +89,12 @@ bool Tastiera::eventFilter(QObject* oggetto, QEvent* evento) {
     }
 }
 
+/// Whoever clicked it still has the arrows for the program.
+bool Tastiera::DelControllo(int codice) const {
+    const QWidget* fuoco = QApplication::focusWidget();
+    return EFreccia(codice) && fuoco && fuoco == raggiunto_ && UsaFrecce(*fuoco);
+}
+
 void Tastiera::Annuncia(const QKeyEvent& tasto) {
     nelMenu_ = QApplication::activePopupWidget() ? Codice(tasto) : 0;
 }
@@ -84,6 +106,7 @@ bool Tastiera::Premi(const Mittente& mittente, const QKeyEvent& tasto) {
     if (codice <= 0 || codice >= static_cast<int>(mandati_.size())) return false;
     // The mere announcement of it has closed a drop-down list: that was all its work.
     if (fuMenu) return true;
+    if (DelControllo(codice)) return false;
     // One that went down in a menu, which it may have closed, isn't pressed here by being held.
     if (tasto.isAutoRepeat() && !mandati_.test(static_cast<std::size_t>(codice))) return false;
     mandati_.set(static_cast<std::size_t>(codice));

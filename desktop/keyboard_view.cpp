@@ -117,6 +117,7 @@ bool VistaTastiera::PremiTasto(const QKeyEvent& tasto) {
     }
     Giu();
     if (invio) Su(true);
+    if (invio && tasto.modifiers().testFlag(Qt::ControlModifier)) Raddoppia();
     return true;
 }
 
@@ -141,6 +142,11 @@ void VistaTastiera::Su(bool clicca) {
     if (!tasto) return;
     tasto->MandaBottone(Fatto::MouseUp);
     if (clicca) tasto->Manda(Fatto::Click);
+}
+
+void VistaTastiera::Raddoppia() const {
+    const VistaDipinta* tasto = Scelto();
+    if (tasto && tasto->Stato().Ascolta(ascoltaDoppio)) tasto->Manda(Fatto::DblClick);
 }
 
 void VistaBarretta::Dipingi(QPainter& p, const QRectF& area, const Tocco&) {

@@ -1,8 +1,8 @@
 // The five-octave keyboard: a picture of the style "tastiera" and its children, the keys ("tasto"),
 // their marks ("barretta") and the mark of middle C ("docentrale"). The mouse hits a key wherever
 // it is seen, a black one before the white one beneath it. All keys share one stop of the Tab key:
-// the arrows choose one, Page Up and Page Down go by octaves, the space bar holds it down. Shift
-// and Enter are a double click on the mark of middle C. GUI thread.
+// the arrows choose one, Page Up and Page Down go by octaves, the space bar holds it down, Control
+// and Enter click it twice. Shift and Enter are a double click on the mark of middle C. GUI thread.
 #pragma once
 
 #include "desktop/painted_view.h"
@@ -20,6 +20,8 @@ public:
     bool Fermata() const override { return false; }
     bool Invita() const override { return Cliccabile() || Stato().Ascolta(ascoltaPressione); }
     bool Detta() const override { return true; }
+    bool Svelabile() const override { return true; }
+    bool Svelata() const override { return Acceso(); }
     void Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) override;
 
 protected:
@@ -42,6 +44,7 @@ public:
     bool Detta() const override { return true; }
     bool PremiTasto(const QKeyEvent& tasto) override;
     bool LasciaTasto(const QKeyEvent& tasto) override;
+    bool UsaFrecce() const override { return true; }
     void Rinuncia() override;
     const VistaDipinta& DovEIlFuoco() const override;
 
@@ -51,6 +54,8 @@ private:
     void Scegli(int tasto);
     void Giu();
     void Su(bool clicca);
+    /// The second click of two, where somebody listens.
+    void Raddoppia() const;
 
     int scelto_ = 24;              ///< middle C
     VistaDipinta* giu_ = nullptr;  ///< held down with the space bar

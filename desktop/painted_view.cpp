@@ -55,6 +55,10 @@ bool VistaDipinta::Usabile() const {
     return InVista() && Abilitata();
 }
 
+bool VistaDipinta::Fermata() const {
+    return Azionabile() || (Stato().Ha("letto") && Detta() && QAccessible::isActive());
+}
+
 bool VistaDipinta::HaFuoco() const {
     return FacciaDove().Fuoco() == this;
 }
@@ -93,7 +97,7 @@ void VistaDipinta::Compi() const {
 bool VistaDipinta::PremiTasto(const QKeyEvent& tasto) {
     if (VaNellaGriglia(*this, tasto.key())) return true;
     const bool spazio = tasto.key() == Qt::Key_Space || tasto.key() == Qt::Key_Select;
-    if (!spazio && !EInvio(tasto.key())) return false;
+    if (!Azionabile() || (!spazio && !EInvio(tasto.key()))) return false;
     if (tasto.isAutoRepeat()) return true;
     if (!spazio && tasto.modifiers().testFlag(Qt::ShiftModifier) &&
         Stato().Ascolta(ascoltaDoppio)) {
@@ -164,12 +168,25 @@ void VistaDipinta::Prepara(Nome nome) {
 }
 
 void VistaDipinta::Rinfresca(Nome nome) {
+    DiCambiato(nome);
     if (nome == &Valori::ToolTipText) return;
     Sporca();
-    if (Spuntata() || Stato().Ha("risposta")) DiStatoCambiato(*this);
     if (nome != &Valori::Visible && nome != &Valori::Enabled && nome != &Valori::Ascolti) return;
-    DiStatoCambiato(*this);
     FacciaDove().Controlla();
+}
+
+void VistaDipinta::DiCambiato(Nome nome) {
+    if (!QAccessible::isActive()) return;
+    if (ENome(nome)) Di(QAccessible::DescriptionChanged, *this);
+    if (nome == &Valori::Enabled) DiStato(*this, [](auto& stato) { stato.disabled = true; });
+    if (std::exchange(spuntataDetta_, Spuntata()) != Spuntata())
+        DiStato(*this, [](auto& stato) { stato.checked = true; });
+    if (std::exchange(svelataDetta_, Svelata()) != Svelata()) Di(QAccessible::Selection, *this);
+    if (nome != &Valori::Visible) return;
+    Di(SiVede() ? QAccessible::ObjectShow : QAccessible::ObjectHide, *this);
+    if (Stato().Ha("annunciato")) Annuncia(*this);
+    for (const Vista* figlia : Figlie())
+        if (figlia->Stato().Ha("annunciato")) Annuncia(*figlia);
 }
 
 void VistaDipinta::Riscala() {
@@ -177,7 +194,8 @@ void VistaDipinta::Riscala() {
 }
 
 void VistaDipinta::NomeCambiato() {
-    DiNomeCambiato(*this);
+    Di(QAccessible::NameChanged, *this);
+    Vista::NomeCambiato();
 }
 
 }  // namespace corvana

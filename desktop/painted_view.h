@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "desktop/face_painter.h"
+#include "desktop/grid_steps.h"
 #include "desktop/view.h"
 
 namespace corvana {
@@ -44,8 +45,7 @@ public:
     /// By itself, whatever it lies in.
     virtual bool SiVede() const { return Stato().Visible; }
     virtual bool Colpibile() const { return true; }
-    /// With all that it lies in.
-    bool InVista() const;
+    bool InVista() const override;
     bool Abilitata() const;
 
     /// `area` is its own, from 0, 0.
@@ -70,11 +70,13 @@ public:
     /// In a grid (style word "griglia:" and its name) the arrows go from one to the next.
     virtual bool PremiTasto(const QKeyEvent& tasto);
     virtual bool LasciaTasto(const QKeyEvent& tasto);
+    virtual bool UsaFrecce() const { return !GrigliaDi(Stato()).isEmpty(); }
     /// What was held down with the keyboard is let go without having been pressed.
     virtual void Rinuncia();
     bool PremutaDaTasto() const { return tastoGiu_ != 0; }
 
-    bool Fermata() const override { return Azionabile(); }
+    /// What is only read is one for those alone who don't see it.
+    bool Fermata() const override;
     /// In one grid.
     bool Insieme(const Vista& altra) const override;
     Vista& Ingresso() override;
@@ -93,8 +95,10 @@ public:
     virtual bool Detta() const { return Azionabile() || !NomeDetto().isEmpty(); }
     /// Of a switch whether it is on; nothing of all else.
     virtual std::optional<bool> Spuntata() const;
+    /// One of those of which some stand out.
+    virtual bool Svelabile() const { return Stato().Ha("risposta"); }
     /// It stands out among its like, as the answer that is shown.
-    bool Svelata() const;
+    virtual bool Svelata() const;
     /// The one that has the focus, of those that share a stop of the Tab key.
     virtual const VistaDipinta& DovEIlFuoco() const { return *this; }
     /// What a screen reader knows of it; made when first asked for.
@@ -107,10 +111,14 @@ protected:
     void NomeCambiato() override;
 
 private:
+    /// Tells screen readers what has become of it.
+    void DiCambiato(Nome nome);
     /// What a press comes to: a click, or a double click where it hears no other.
     void Compi() const;
 
     Faccia* faccia_ = nullptr;
+    std::optional<bool> spuntataDetta_;
+    bool svelataDetta_ = false;
     unsigned lettore_ = 0;  ///< what the toolkit calls it towards screen readers, 0 for not yet
     bool segnalata_ = false;
     int tastoGiu_ = 0;  ///< holds it down, 0 for none

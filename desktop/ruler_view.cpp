@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/face_reader.h"
 #include "desktop/key_map.h"
 #include "desktop/ruler_painter.h"
 #include "trainer/positions.h"
@@ -49,6 +50,16 @@ void VistaRegolo::Sposta(int passi) {
         qui - posizioni.begin() + passi, 0, static_cast<std::ptrdiff_t>(posizioni.size()) - 1);
     scelta_ = posizioni[static_cast<std::size_t>(indice)].numero;
     Sporca();
+    Di(QAccessible::NameChanged, *this);
+}
+
+QString VistaRegolo::Lettura() const {
+    const QString nome = QLatin1Char('n') + QString::number(scelta_);
+    for (const Vista* vicina : Padre()->Figlie())
+        for (const Vista* nota : vicina->Figlie())
+            if (nota->Stato().nome == nome && !nota->NomeDetto().isEmpty())
+                return NomeDetto() + QLatin1String(": ") + nota->NomeDetto();
+    return NomeDetto();
 }
 
 void VistaRegolo::Segna() const {

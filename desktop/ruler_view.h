@@ -12,11 +12,14 @@ public:
 
     void Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) override;
     bool Fermata() const override { return true; }
+    /// With the place that the keyboard would mark.
+    QString Lettura() const override;
     bool Azionabile() const override { return false; }
     bool SenteIlPuntatore() const override { return true; }
     void Sorvola(const QPointF& dove) override;
     void Lasciata() override { Indica(0); }
     bool PremiTasto(const QKeyEvent& tasto) override;
+    bool UsaFrecce() const override { return true; }
 
 private:
     void Indica(int posizione);

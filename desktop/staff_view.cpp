@@ -1,5 +1,6 @@
 #include "desktop/staff_view.h"
 
+#include "desktop/face_reader.h"
 #include "desktop/staff_painter.h"
 
 namespace corvana {
@@ -15,10 +16,20 @@ double PassaATwips(QPainter& p, double scala) {
 
 }  // namespace
 
-void VistaPentagramma::Dipingi(QPainter& p, const QRectF& area, const Tocco&) {
+void VistaPentagramma::Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) {
+    p.save();
     const double pixel = PassaATwips(p, Scala());
     DipingiFoglio(p, area.size() * twipsPerPixel / Scala(), pixel);
     DipingiPentagrammi(p, pixel);
+    p.restore();
+    if (tocco.fuoco) DipingiAnello(p, area, Scala());
+}
+
+QString VistaPentagramma::Lettura() const {
+    QStringList note;
+    for (const Vista* nota : Figlie())
+        if (nota->InVista() && !nota->NomeDetto().isEmpty()) note.append(nota->NomeDetto());
+    return note.isEmpty() ? NomeDetto() : note.join(QLatin1String("; "));
 }
 
 VistaNota::VistaNota(const CopiaControllo& copia, Mittente mittente)
@@ -35,6 +46,13 @@ QRect VistaNota::Portata() const {
 
 bool VistaNota::SiVede() const {
     return Stato().Visible != Stato().Ha("maschera");
+}
+
+void VistaNota::Rinfresca(Nome nome) {
+    VistaDipinta::Rinfresca(nome);
+    if (nome != &Valori::Visible) return;
+    Di(QAccessible::NameChanged, static_cast<VistaDipinta&>(*Padre()));
+    if (SiVede()) Annuncia(*this);
 }
 
 void VistaNota::Dipingi(QPainter& p, const QRectF&, const Tocco&) {

@@ -9,6 +9,8 @@ namespace corvana {
 class VistaPentagramma final : public VistaDipinta {
 public:
     using VistaDipinta::VistaDipinta;
+    /// The places of the notes on it, or its name while there are none.
+    QString Lettura() const override;
     void Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) override;
 };
 
@@ -22,9 +24,12 @@ public:
     QRect Portata() const override;
     bool SiVede() const override;
     bool Colpibile() const override { return false; }
-    /// Which note it is, is for the learner to find out.
+    /// The staff tells its place. Which note it is, is for the learner to find out.
     bool Detta() const override { return false; }
     void Dipingi(QPainter& p, const QRectF& area, const Tocco& tocco) override;
+
+protected:
+    void Rinfresca(Nome nome) override;
 
 private:
     /// The middle of its head on the staff, in twips.

@@ -71,6 +71,9 @@ const ParolaStile parole[] = {
     {"dietro"},
     {"nome:"},
     {"consiglio:"},
+    // To those who don't see it: they stop at it; they are told whenever it changes.
+    {"letto"},
+    {"annunciato"},
     // The arrow keys go from one to the next.
     {"griglia:"},
 };

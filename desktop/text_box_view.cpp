@@ -1,5 +1,6 @@
 #include "desktop/text_box_view.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -114,6 +115,14 @@ void VistaCasella::PonBlocco() {
     casella_->setFocusPolicy(Stato().Locked ? Qt::NoFocus : Qt::StrongFocus);
 }
 
+bool VistaCasella::Fermata() const {
+    return Stato().Locked ? Stato().Ha("letto") && QAccessible::isActive() : Vista::Fermata();
+}
+
+QString VistaCasella::Lettura() const {
+    return NomeDetto() + QLatin1Char(' ') + InQt(Stato().Text);
+}
+
 void VistaCasella::PonColori() {
     QPalette colori = casella_->palette();
     colori.setColor(QPalette::Text, InQt(Stato().ForeColor, tinta::inchiostro));
@@ -121,7 +130,10 @@ void VistaCasella::PonColori() {
 }
 
 void VistaCasella::Rinfresca(Nome nome) {
-    if (nome == &Valori::Text) PonTesto();
+    if (nome == &Valori::Text) {
+        PonTesto();
+        if (Stato().Ha("annunciato")) Annuncia(*this);
+    }
     if (nome == &Valori::Locked) PonBlocco();
     if (nome == &Valori::ForeColor) PonColori();
     Vista::Rinfresca(nome);

@@ -15,6 +15,10 @@ QString Filtrato(const QString& battuto, char32_t (*filtro)(char32_t));
 class VistaCasella final : public Vista {
 public:
     VistaCasella(const CopiaControllo& copia, Mittente mittente, QWidget& padre);
+    /// What can only be read is one for those alone who don't see it.
+    bool Fermata() const override;
+    /// The name with the text.
+    QString Lettura() const override;
 
 protected:
     void Rinfresca(Nome nome) override;

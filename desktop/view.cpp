@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "desktop/face.h"
 #include "desktop/mouse.h"
 #include "desktop/widget_aspect.h"
 
@@ -85,7 +86,23 @@ void Vista::PrendiFuoco(Qt::FocusReason perche) {
 void Vista::PonNomeDetto(const QString& nome) {
     nomeDetto_ = nome;
     if (widget_) widget_->setAccessibleName(nome);
+    PonDettaglio();
     NomeCambiato();
+}
+
+void Vista::PonDettaglio() {
+    if (widget_) widget_->setAccessibleDescription(Dettaglio());
+}
+
+void Vista::NomeCambiato() {
+    if (aspetto_.Ha("annunciato")) Annuncia(*this);
+}
+
+void Vista::Annuncia(const Vista& vista) {
+    const Vista* radice = &vista;
+    while (radice->Padre())
+        radice = radice->Padre();
+    if (const auto* terra = dynamic_cast<Faccia*>(radice->Widget())) terra->Voce().Annuncia(vista);
 }
 
 void Vista::Rinfresca(Nome) {
@@ -93,8 +110,7 @@ void Vista::Rinfresca(Nome) {
 }
 
 void Vista::RinfrescaComune(Nome nome) {
-    if (nome == &Valori::Caption || nome == &Valori::ToolTipText)
-        PonNomeDetto(NomeAccessibile(aspetto_));
+    if (ENome(nome)) PonNomeDetto(NomeAccessibile(aspetto_));
     if (!widget_) return;
     if (nome == &Valori::Visible) widget_->setVisible(aspetto_.Visible);
     if (nome == &Valori::Enabled) widget_->setEnabled(aspetto_.Enabled);

@@ -61,9 +61,16 @@ public:
     virtual bool HaFuoco() const;
     virtual void PrendiFuoco(Qt::FocusReason perche);
 
-    /// What a screen reader says for it.
+    /// What a screen reader calls it.
     const QString& NomeDetto() const { return nomeDetto_; }
     void PonNomeDetto(const QString& nome);
+    /// The same, with what it shows at the moment.
+    virtual QString Lettura() const { return nomeDetto_; }
+    /// What else is to be said of it: its tool tip, or the words that it bears, where its name says
+    /// neither.
+    virtual QString Dettaglio() const { return CioCheIlNomeTace(aspetto_, nomeDetto_); }
+    /// With all that it lies in.
+    virtual bool InVista() const { return widget_ && widget_->isVisible(); }
 
 protected:
     /// Takes the widget, gives it what all kinds have in common, and hears its mouse through
@@ -81,9 +88,12 @@ protected:
     virtual void Rinfresca(Nome nome);
     /// The scale changed.
     virtual void Riscala() {}
-    virtual void NomeCambiato() {}
+    virtual void NomeCambiato();
+    /// What it says has changed: it is told at once, where somebody listens.
+    static void Annuncia(const Vista& vista);
 
 private:
+    void PonDettaglio();
     void RinfrescaComune(Nome nome);
 
     CopiaControllo copia_;

@@ -1,5 +1,6 @@
 #include "desktop/window_view.h"
 
+#include <QApplication>
 #include <QMenuBar>
 #include <QPainterPath>
 #include <QScreen>
@@ -50,6 +51,7 @@ VistaFinestra::VistaFinestra(const MostraFinestra& comando, CodaEventi& coda, Ta
                              VistaFinestra* sotto)
     : identita_(comando.finestra),
       mittente_(coda, comando.finestra),
+      tastiera_(tastiera),
       finestra_(std::make_unique<Guscio>(Casi())),
       posto_(*finestra_, mittente_) {
     CreaTutti(comando.controlli, tastiera);
@@ -75,8 +77,10 @@ CasiFinestra VistaFinestra::Casi() {
 
 bool VistaFinestra::Avanza(bool avanti) {
     Vista* fermata = ProssimaFermata(viste_, avanti);
-    if (fermata) fermata->PrendiFuoco(avanti ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-    return fermata != nullptr;
+    if (!fermata) return false;
+    fermata->PrendiFuoco(avanti ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    tastiera_.Raggiungi(QApplication::focusWidget());
+    return true;
 }
 
 void VistaFinestra::CreaTutti(const std::vector<CopiaControllo>& controlli, Tastiera& tastiera) {
@@ -210,7 +214,7 @@ void VistaFinestra::Cambia(int numero, Nome nome, const Valore& valore) {
     if (!vista) return;
     const bool misura = nome == &Valori::Width || nome == &Valori::Height;
     vista->Cambia(nome, valore);
-    if (nome == &Valori::Caption || nome == &Valori::ToolTipText) nomi_->Rinnova();
+    if (ENome(nome)) nomi_->Rinnova();
     if (numero != 0) return;
     if (nome == &Valori::Caption) finestra_->setWindowTitle(InQt(vista->Stato().Caption));
     if (nome == &Valori::MousePointer) PonPuntatore();

@@ -59,6 +59,7 @@ private:
 
     const std::uint32_t identita_;
     Mittente mittente_;
+    Tastiera& tastiera_;
     // The widgets must go first: some still tell their views that they lose the focus.
     std::vector<std::unique_ptr<Vista>> viste_;
     std::unique_ptr<Nominatore> nomi_;

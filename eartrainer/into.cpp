@@ -78,6 +78,7 @@ void frmInto::Form_Load() {
     telaio.lblStep.Caption = telaio.Testi().msgPrimoLimite;
     telaio.Stato().StrumentoInto = a_.globali.StrumentoGlobale;
     telaio.tastiera.PonNomi(a_.globali.NomiAnglo);
+    telaio.tastiera.figura.NomeLetto = a_.globali.testi.TxtTastiera;
     barra.Dipingi();
     ColoreEsci = telaio.cmdEsci.ForeColor;
     PonConsigli();

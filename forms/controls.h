@@ -126,6 +126,12 @@ struct Figura : Controllo {
         : Controllo(form, std::move(nome), Genere::Figura, padre) {}
 };
 
+/// A picture that says something to those who don't see it.
+struct FiguraLetta : Figura {
+    using Figura::Figura;
+    Proprieta<&Valori::NomeLetto> NomeLetto{*this};
+};
+
 /// An entry of the menu bar or, under another entry, of its menu. No caption makes a separator.
 struct VoceMenu : ConCaption {
     VoceMenu(Form& form, std::string nome, Controllo* padre = nullptr)

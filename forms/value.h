@@ -60,6 +60,7 @@ using NumeriRiga = std::vector<int>;
 /// Every property that a control of some kind has, with what it holds at first.
 struct Valori {
     std::string Caption, Text, ToolTipText;
+    std::string NomeLetto;  ///< what a screen reader says for what bears no words
     Righe List;
     int ListIndex = -1;
     bool MultiSelect = false;  ///< several rows can be selected

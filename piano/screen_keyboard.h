@@ -23,7 +23,7 @@ public:
     TastieraSchermo(Form& form, std::string nome, Controllo* padre = nullptr,
                     Corredo corredo = Corredo::Tasti, const Rettangolo& posto = postoTastiera);
 
-    Figura figura;
+    FiguraLetta figura;
     std::deque<Etichetta> lb;   ///< the keys; their handlers are the window's
     std::deque<Etichetta> lbr;  ///< their marks; none with the keys alone
     Etichetta Lbdoc;            ///< the mark of middle C

@@ -42,15 +42,16 @@ constexpr std::array menu = {
 
 constexpr std::array posti = {
     Posto{"CorvanaMainF", 0, 0, 12000, 7800, "Corvana", {}, "ornamento"},
-    Posto{"img", 0, 0, 6330, 4710, {}, {}, "pentagramma"},
+    Posto{"img", 0, 0, 6330, 4710, {}, {}, "pentagramma letto"},
     Posto{"Regolo", 810, 15, 255, 4695, {}, "Clicca per scegliere l'intervallo", "regolo"},
-    Posto{"lblnn", 1065, 2340, 525, 390, {}, {}, "nome"},
+    Posto{"lblnn", 1065, 2340, 525, 390, {}, {}, "nome letto annunciato"},
     Posto{"lblMn", 6975, 3225, 360, 360, "?", "Mostra/Nascondi il nome della nota", "aiuto"},
 
     Posto{"bgConta", 6420, 180, 1470, 1560, {}, {}, "carta"},
-    Posto{"conta", 6480, 270, 1350, 420, "0", "Risposte esatte", "cifra giuste destra"},
-    Posto{"er", 6480, 750, 1350, 420, "0", "Risposte errate", "cifra sbagliate destra"},
-    Posto{"PercEs", 6480, 1230, 1350, 420, "0", "Percentuale", "percento centro"},
+    Posto{"conta", 6480, 270, 1350, 420, "0", "Risposte esatte", "cifra giuste destra letto"},
+    Posto{"er", 6480, 750, 1350, 420, "0", "Risposte errate",
+          "cifra sbagliate destra letto annunciato"},
+    Posto{"PercEs", 6480, 1230, 1350, 420, "0", "Percentuale", "percento centro letto"},
     Posto{"PercBg", 6960, 1890, 390, 1200, {}, {}, "barra"},
     Posto{"PercMet", 6960, 1890, 390, 1200, {}, {}, "barra"},
 
@@ -107,11 +108,11 @@ constexpr std::array posti = {
     Posto{"bgRis2", 75, 825, 3690, 330, {}, {}, "tondo"},
     Posto{"bgRis3", 75, 1200, 3690, 330, {}, {}, "tondo"},
     Posto{"bgRis4", 75, 1575, 3690, 330, {}, {}, "tondo"},
-    Posto{"Lresatte", 180, 75, 3480, 330, {}, {}, "forte mezzo"},
-    Posto{"Lrerrate", 180, 450, 3480, 330, {}, {}, "forte mezzo"},
-    Posto{"Ridate", 180, 825, 3480, 330, {}, {}, "forte mezzo"},
-    Posto{"Lnmostrate", 180, 1200, 3480, 330, {}, {}, "forte mezzo"},
-    Posto{"Tempoimp", 180, 1575, 3480, 330, {}, {}, "forte mezzo"},
+    Posto{"Lresatte", 180, 75, 3480, 330, {}, {}, "forte mezzo letto annunciato"},
+    Posto{"Lrerrate", 180, 450, 3480, 330, {}, {}, "forte mezzo letto annunciato"},
+    Posto{"Ridate", 180, 825, 3480, 330, {}, {}, "forte mezzo letto annunciato"},
+    Posto{"Lnmostrate", 180, 1200, 3480, 330, {}, {}, "forte mezzo letto annunciato"},
+    Posto{"Tempoimp", 180, 1575, 3480, 330, {}, {}, "forte mezzo letto annunciato"},
 };
 
 }  // namespace

@@ -62,6 +62,7 @@ void CorvanaMainF::CambiaLingua(std::string_view chiave) {
 void CorvanaMainF::LeggiLingua() {
     if (FileLinguaEsiste(a_)) UpdateString(a_, *this, BersagliPrincipali());
     a_.finestre.CambiaLingua(a_.globali.testi, a_.globali.FileAiuto);
+    pentagramma.PonParole(a_.globali.testi);
 }
 
 void CorvanaMainF::Esci_Click() {

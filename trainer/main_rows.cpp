@@ -95,6 +95,18 @@ constexpr std::array bersagliPrincipali = {
     Stringa(393, &T::parIncolla),
     Stringa(394, &T::parElimina),
     Stringa(395, &T::parSelezionaTutto),
+    // For those who don't see the screen.
+    Stringa(399, &T::TxtTastiera),
+    Stringa(400, &T::TxtPentagramma),
+    Stringa(401, &T::LuogoChiaveSol),
+    Stringa(402, &T::LuogoChiaveFa),
+    Stringa(403, &T::LuogoLinea),
+    Stringa(404, &T::LuogoSpazio),
+    Stringa(405, &T::LuogoSopra),
+    Stringa(406, &T::LuogoSotto),
+    Stringa(407, &T::LuogoTaglio),
+    Stringa(408, &T::LuogoOltreTaglio),
+    // The help window's.
     Stringa(409, &T::parAiuto),
     Stringa(410, &T::parIndietro),
     Stringa(411, &T::parAvanti),

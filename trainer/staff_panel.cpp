@@ -3,6 +3,7 @@
 #include <array>
 
 #include "trainer/positions.h"
+#include "trainer/staff_places.h"
 
 namespace corvana {
 
@@ -28,6 +29,13 @@ void PannelloPentagramma::DisponiNote() {
         nota->stile = stili.at(static_cast<std::size_t>(p.specie));
         ++nota;
     }
+}
+
+void PannelloPentagramma::PonParole(const TestiLingua& testi) {
+    img.NomeLetto = testi.TxtPentagramma;
+    auto nota = n.begin();
+    for (const Posizione& p : Posizioni())
+        (nota++)->NomeLetto = LuogoSulRigo(p, testi);
 }
 
 void PannelloPentagramma::lblMn_Click() {

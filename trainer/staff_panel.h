@@ -3,6 +3,7 @@
 
 #include <deque>
 
+#include "core/globals.h"
 #include "core/hover.h"
 #include "forms/form.h"
 
@@ -17,13 +18,15 @@ private:
     Form& finestra_;
 
 public:
-    Figura img{finestra_, "img"};
+    FiguraLetta img{finestra_, "img"};
     /// The note controls "n11" to "n31" and "n40" to "n64", on the picture of the staves.
-    std::deque<Figura> n;
+    std::deque<FiguraLetta> n;
     Cornice Regolo{finestra_, "Regolo"};
     Etichetta lblnn{finestra_, "lblnn"};
     Etichetta lblMn{finestra_, "lblMn"};
 
+    /// Tells the staff and the places on it in the language of these texts.
+    void PonParole(const TestiLingua& testi);
     /// Shows or hides the note's name.
     void lblMn_Click();
 

@@ -26,7 +26,7 @@ Insieme operator+(Insieme a, const Insieme& b) {
 const std::map<std::string, Insieme>& IdDiFinestra() {
     static const std::map<std::string, Insieme> insiemi = {
         {"CorvanaMainF", Fra(0, 26) + Fra(28, 57) + Insieme{78, 167} + Fra(380, 382) +
-                             Fra(384, 395) + Fra(409, 413)},
+                             Fra(384, 395) + Fra(399, 413)},
         {"frmConfMetro", Fra(69, 74)},
         {"frmMidiTest", Fra(75, 77)},
         {"frmAbout", Fra(79, 82)},

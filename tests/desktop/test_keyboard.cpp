@@ -35,6 +35,28 @@ TEST(Tastiera, AHeldKeyRepeatsItsPressAndNotItsRelease) {
     EXPECT_EQ(palco.Diario(), (Righe{"giu 70", "giu 70 ripetuto", "su 70"}));
 }
 
+TEST(Tastiera, TheArrowsAreTheControlsThatTheTabKeyHasLedToAndElseThePrograms) {
+    Palco palco;
+    const auto freccia = [&] {
+        palco.Diario();
+        Batti(palco.scrivania, Qt::Key_Down);
+        Righe detto = palco.Diario();
+        std::erase_if(detto, [](const std::string& riga) { return !riga.ends_with(" 40"); });
+        return detto;
+    };
+    const Righe tutta{"giu 40", "su 40"};
+    for (const char* nome : {"lista", "barra", "combo", "casella"}) {
+        Trova(palco.scrivania, nome).setFocus(Qt::MouseFocusReason);
+        EXPECT_EQ(freccia(), tutta) << nome;
+        for (int passi = 0; passi == 0 || !Trova(palco.scrivania, nome).hasFocus(); ++passi)
+            Batti(palco.scrivania, Qt::Key_Tab);
+        EXPECT_EQ(freccia(), Righe{}) << nome;
+    }
+    for (int passi = 0; passi == 0 || !Trova(palco.scrivania, "toccabile").hasFocus(); ++passi)
+        Batti(palco.scrivania, Qt::Key_Tab);
+    EXPECT_EQ(freccia(), tutta);
+}
+
 TEST(Tastiera, AReleaseThatComesAfterTheKeyboardWasLostIsNotTold) {
     Palco palco;
     Premi(palco.scrivania, Qt::Key_D);

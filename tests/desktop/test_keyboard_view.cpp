@@ -3,6 +3,7 @@
 #include <QPaintEvent>
 #include <QTest>
 #include <QWindow>
+#include <atomic>
 
 #include "desktop/face.h"
 #include "desktop/face_reader.h"
@@ -207,6 +208,21 @@ TEST(TastieraSulloSchermo, ShiftAndEnterAreADoubleClickOnMiddleCsMark) {
     Trova(palco.scrivania, "img2").setFocus(Qt::TabFocusReason);
     Batti(palco.scrivania, Qt::Key_Return, Qt::ShiftModifier);
     EXPECT_EQ(palco.Diario(), (Righe{"Lbdoc doppio"}));
+}
+
+TEST(TastieraSulloSchermo, ControlAndEnterClickAKeyTwiceWhereSomebodyListens) {
+    PalcoTastiera palco;
+    Trova(palco.scrivania, "img2").setFocus(Qt::TabFocusReason);
+    Batti(palco.scrivania, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(palco.Diario(), (Righe{"lb24 giu", "lb24 su", "lb24 click"}));
+    std::atomic<int> doppi = 0;
+    palco.NellaLogica(
+        [&](FormTastiera& form) { form.tastiera.lb[24].DblClick = [&] { ++doppi; }; });
+    palco.Diario();
+    Batti(palco.scrivania, Qt::Key_Return, Qt::ControlModifier);
+    Batti(palco.scrivania, Qt::Key_Return);
+    palco.NellaLogica({});
+    EXPECT_EQ(doppi, 1);
 }
 
 TEST(TastieraSulloSchermo, AllKeysAreOneStopOfTheTabKey) {

@@ -138,6 +138,17 @@ TEST(Fermate, InTheWindowsAboveAllAreSeenNamedAndShowTheFocus) {
               "seqPreset", "cmdTest", "cmdOk"});
 }
 
+TEST(Fermate, InTheMelodyWindowAllAreSeenNamedAndShowTheFocus) {
+    PalcoProgramma programma(QStringLiteral(CORVANA_DATA));
+    Scrivania& s = programma.scrivania;
+    Apri(s, "mnuComposer", "frmComposer");
+    const QStringList fermate = Percorri(s);
+    for (const char* nome : {"cmdPlay", "lblIDs0", "Slider1", "VoceAttiva3", "lblid15", "VolB",
+                             "lblMuteC3", "lblTs", "lblStep0", "cmdSimbNote6", "cmdAttrNota5",
+                             "cmdInsNota", "PausaPer", "cmdReset", "tastiera"})
+        EXPECT_TRUE(fermate.contains(QLatin1String(nome))) << nome;
+}
+
 struct PaginaPercorsa {
     const char* voce;
     QStringList attese;
