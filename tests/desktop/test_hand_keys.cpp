@@ -2,46 +2,19 @@
 // transposed, saved and played, and each is reached from where the hands are.
 #include <gtest/gtest.h>
 
-#include <QApplication>
-
 #include "melody/mel_reader.h"
 #include "tests/core/temporary_folder.h"
-#include "tests/desktop/hand_stage.h"
+#include "tests/desktop/keys_hand.h"
 
 namespace corvana::prova {
 namespace {
 
-struct PalcoTasti : PalcoAMano {
-    explicit PalcoTasti(const std::string& cartella) : PalcoAMano(cartella) {
+struct PalcoComposer : PalcoTasti {
+    explicit PalcoComposer(const std::string& cartella) : PalcoTasti(cartella) {
         // The composer is the first entry of that menu.
-        DalMenu(Qt::Key_R, 0);
-        AspettaFinestra(scrivania, QStringLiteral("frmComposer"));
-        Calma();
+        Apri(Qt::Key_R, 0, "frmComposer");
     }
 
-    /// Chooses an entry of the menu with that letter, which lies so many entries down.
-    void DalMenu(Qt::Key lettera, int giu) {
-        Batti(lettera, Qt::AltModifier);
-        if (!Aspetta([] { return QApplication::activePopupWidget() != nullptr; }))
-            throw std::logic_error("no menu came");
-        for (int i = 0; i < giu; ++i)
-            Batti(Qt::Key_Down);
-        Batti(Qt::Key_Return);
-    }
-    void Aziona(const std::string& nome) {
-        VaiA(nome);
-        Batti(Qt::Key_Space);
-    }
-    /// The row that lies so many rows from the first.
-    void Scegli(const std::string& combo, int riga) {
-        Aziona(combo);
-        if (!Aspetta([] { return QApplication::activePopupWidget() != nullptr; }))
-            throw std::logic_error("no rows dropped down from " + combo);
-        Batti(Qt::Key_Home);
-        for (int i = 0; i < riga; ++i)
-            Batti(Qt::Key_Down);
-        Batti(Qt::Key_Return);
-    }
     TestiVoce Salvata(const CartellaProvvisoria& cartella, const std::string& nome) {
         DalMenu(Qt::Key_F, 2);
         Rispondi(nome);
@@ -52,25 +25,11 @@ struct PalcoTasti : PalcoAMano {
         const LetturaMel letta = LeggiMel(byte, '.');
         return letta.soprano;
     }
-    /// Of the Tab key, once around.
-    QStringList Fermate();
     void ScriviCinqueNote();
     int NoteSuonate() const;
 };
 
-QStringList PalcoTasti::Fermate() {
-    QStringList fermate;
-    while (true) {
-        Batti(Qt::Key_Tab);
-        for (int numero = 0; Vista* vista = scrivania.Davanti()->Controllo(numero); ++numero)
-            if (vista->HaFuoco()) {
-                if (fermate.contains(vista->Stato().nome)) return fermate;
-                fermate.append(vista->Stato().nome);
-            }
-    }
-}
-
-void PalcoTasti::ScriviCinqueNote() {
+void PalcoComposer::ScriviCinqueNote() {
     Batti(Qt::Key_F6);  // the first time it is middle C
     Batti(Qt::Key_Return);
     Batti(Qt::Key_Right);
@@ -85,7 +44,7 @@ void PalcoTasti::ScriviCinqueNote() {
     Batti(Qt::Key_Return);
 }
 
-int PalcoTasti::NoteSuonate() const {
+int PalcoComposer::NoteSuonate() const {
     int note = 0;
     for (const auto& [istante, messaggio] : uscita->Mandati())
         note += (messaggio & 0xF0U) == 0x90U && messaggio >> 16U > 0;
@@ -94,7 +53,7 @@ int PalcoTasti::NoteSuonate() const {
 
 TEST(SoloTastiera, NotesDotsAndRestsAreEnteredAndTheLastIsDropped) {
     const CartellaProvvisoria cartella;
-    PalcoTasti p(cartella.Di(""));
+    PalcoComposer p(cartella.Di(""));
     p.ScriviCinqueNote();
     EXPECT_EQ(p.Salvata(cartella, "five"),
               (TestiVoce{"60;62;63;00;62;", "1;1;1.5;0.5;0.5;", "n;n;n;p;n;"}));
@@ -104,7 +63,7 @@ TEST(SoloTastiera, NotesDotsAndRestsAreEnteredAndTheLastIsDropped) {
 
 TEST(SoloTastiera, ANoteIsRewrittenAndAllAreTransposed) {
     const CartellaProvvisoria cartella;
-    PalcoTasti p(cartella.Di(""));
+    PalcoComposer p(cartella.Di(""));
     p.ScriviCinqueNote();
     p.Aziona("lblStep1");
     p.Aziona("lblStep1");
@@ -128,7 +87,7 @@ TEST(SoloTastiera, ANoteIsRewrittenAndAllAreTransposed) {
 
 TEST(SoloTastiera, OneKeyPlaysAndStops) {
     const CartellaProvvisoria cartella;
-    PalcoTasti p(cartella.Di(""));
+    PalcoComposer p(cartella.Di(""));
     p.ScriviCinqueNote();
     p.Ascolta();
     p.Batti(Qt::Key_F9);
@@ -146,7 +105,7 @@ TEST(SoloTastiera, OneKeyPlaysAndStops) {
 
 TEST(SoloTastiera, WhatTheListOfMelodiesCoversIsNoStop) {
     const CartellaProvvisoria cartella;
-    PalcoTasti p(cartella.Di(""));
+    PalcoComposer p(cartella.Di(""));
     const QStringList prima = p.Fermate();
     EXPECT_TRUE(prima.contains("cmdInsNota"));
     EXPECT_TRUE(prima.contains("cmdAttrNota5"));
