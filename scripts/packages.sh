@@ -7,7 +7,7 @@ build_packages=(g++ cmake ninja-build ccache mold pkg-config qt6-base-dev qt6-sv
 run_packages=("${build_packages[@]}" timgm6mb-soundfont fonts-inter fonts-oflb-euterpe)
 screen_packages=(xvfb openbox xdotool scrot)
 test_packages=("${run_packages[@]}" libgtest-dev librapidcheck-dev locales pulseaudio
-    pulseaudio-utils jackd2 dbus-daemon xvfb openbox xdotool)
+    pulseaudio-utils jackd2 dbus-daemon at-spi2-core xvfb openbox xdotool)
 lint_packages=(clang-format clang-tidy clang libclang-rt-14-dev cppcheck)
 package_packages=(dpkg-dev file man-db lintian appstream desktop-file-utils shared-mime-info libxml2-utils)
 
