@@ -13,7 +13,8 @@ using Guarda = std::function<void(QWidget& cosa, const QString& nome)>;
 
 class Passeggiata {
 public:
-    Passeggiata(Scrivania& scrivania, Guarda guarda) : scrivania_(scrivania), guarda_(std::move(guarda)) {}
+    Passeggiata(Scrivania& scrivania, Guarda guarda)
+        : scrivania_(scrivania), guarda_(std::move(guarda)) {}
 
     /// All windows in that language, from the main window and back to it.
     void Gira(bool inglese);
