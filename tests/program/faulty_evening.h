@@ -3,14 +3,7 @@
 // thing that the user does the program must hold all that he has written, or the disk must.
 #pragma once
 
-#include <memory>
-
-#include "tests/program/program_rig.h"
-#include "tests/support/faulty_files.h"
-
-namespace corvana {
-class frmComposer;
-}
+#include "tests/program/faulty_session.h"
 
 namespace corvana::prova {
 
@@ -23,24 +16,16 @@ public:
     /// Both evenings. Empty, or what was lost or went on for ever.
     std::string Vivi();
 
-    const std::vector<ChiamataFile>& Chiamate() const { return registro_->chiamate; }
-    /// What the boxes said, with what the user was doing.
-    using Detti = std::vector<std::pair<std::string, std::string>>;
-    const Detti& Detto() const { return detti_; }
+    const std::vector<ChiamataFile>& Chiamate() const { return tavolo_.registro->chiamate; }
+    const auto& Detto() const { return tavolo_.detti; }
 
 private:
-    class Sessione;
-
     void Prima();
     void Seconda();
     void ControllaRitrovata(const std::string& note);
     void ControllaFile();
-    void Difetto(const std::string& cosa);
 
-    FileInMemoria disco_;
-    std::shared_ptr<RegistroFile> registro_ = std::make_shared<RegistroFile>();
-    Detti detti_;
-    std::string difetto_;
+    TavoloConGuasti tavolo_;
     std::string lasciata_;  ///< the soprano's notes at the end of the first evening
 };
 
