@@ -40,7 +40,7 @@ struct Figure {
     std::ptrdiff_t fili = 0, descrittori = 0;
 
     explicit Figure(const std::string& cartella)
-        : memoria(misura::LeggiPss(cartella)),
+        : memoria(misura::LeggiMemoria(cartella).pss),
           fili(Quanti(cartella + "/task")),
           descrittori(Quanti(cartella + "/fd")) {}
 
