@@ -94,7 +94,8 @@ void FotografaContorno(Macchinetta& m, Scrivania& scrivania, const QString& aiut
         if (cosa->inherits("QTipLabel") && cosa->isVisible())
             m.Scatta(*cosa, QStringLiteral("tool-tip"));
     QToolTip::hideText();
-    FinestraAiuto finestra([] {});
+    const ParoleSchermo parole;
+    FinestraAiuto finestra(parole, [] {});
     finestra.Mostra(aiuto, 0, nullptr);
     Respira();
     m.Scatta(finestra, QStringLiteral("help"));
