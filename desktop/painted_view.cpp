@@ -90,7 +90,7 @@ void VistaDipinta::Aziona() const {
 void VistaDipinta::Compi() const {
     if (Cliccabile())
         Manda(Fatto::Click);
-    else if (Stato().Ascolta(ascoltaDoppio))
+    else if (!Stato().Ascolta(ascoltaPressione) && Stato().Ascolta(ascoltaDoppio))
         Manda(Fatto::DblClick);
 }
 

@@ -82,6 +82,16 @@ TEST(TastoCheAziona, ShiftAndEnterAreADoubleClickWhereThereAreClicksToo) {
     EXPECT_EQ(Battuto(palco, Qt::Key_Return, Qt::ShiftModifier), Righe{"toccabile doppio"});
 }
 
+TEST(TastoCheAziona, OnePressIsNoDoubleClickOnWhatHearsTheButtonAndDoubleClicks) {
+    Palco palco([](FormDiProva& form) { form.toccabile.Click = nullptr; });
+    EXPECT_EQ(Battuto(palco, Qt::Key_Space), (Righe{"toccabile giu", "toccabile su"}));
+    palco.Diario();
+    Trova(palco.scrivania, "toccabile").PerLettore()->actionInterface()->doAction(
+        QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(palco.Diario(), (Righe{"toccabile giu", "toccabile su"}));
+    EXPECT_EQ(Battuto(palco, Qt::Key_Return, Qt::ShiftModifier), Righe{"toccabile doppio"});
+}
+
 TEST(TastoCheAziona, AScreenReaderPressesItAsTheMouseWould) {
     const auto preme = [](Gestore prepara) {
         Palco palco(prepara);
