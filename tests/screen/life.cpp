@@ -82,7 +82,7 @@ private:
     AllievoPaziente allievo_;
     std::string cartella_;
     bool suPorta_ = false;  ///< the notes go to a port
-    int giri_ = 0, uditi_ = 0, scelte_ = 0, porteUdite_ = 0, sorde_ = 0, guasti_ = 0;
+    int giri_ = 0, uditi_ = 0, scelte_ = 0, conPorte_ = 0, porteUdite_ = 0, sorde_ = 0, guasti_ = 0;
     std::vector<double> silenzi_;  ///< seconds until it was heard
 };
 
@@ -97,6 +97,7 @@ void Vita::Esigi(bool condizione, const std::string& cosa) {
 
 void Vita::ScegliDispositivo() {
     const bool conPorte = macchina_.MidiPresente() && macchina_.Porte() > 0;
+    conPorte_ += conPorte ? 1 : 0;
     suPorta_ = conPorte || macchina_.Caso(2) == 0;
     // A search that a busy machine holds up leaves the ports that were known before.
     constexpr int volte = 3;
@@ -213,7 +214,7 @@ void Vita::Giudica(const Figure& prima, const Figure& dopo) {
     std::printf("%6zu  answers waited for, the longest %.2f s\n", allievo_.Attese().size(),
                 peggio(allievo_.Attese()));
     std::printf("%6d  times heard, the longest wait %.1f s\n", uditi_, peggio(silenzi_));
-    Esigi(porteUdite_ > 0, "no port ever received a note");
+    Esigi(porteUdite_ > 0 || conPorte_ == 0, "no port ever received a note");
 }
 
 bool Vita::Vivi(double minuti) {
