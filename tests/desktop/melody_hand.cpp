@@ -11,6 +11,12 @@
 
 namespace corvana::prova {
 
+namespace {
+
+constexpr int larga = 1240, alta = 640;
+
+}  // namespace
+
 PalcoMelodia::PalcoMelodia(const std::string& cartella,
                            const std::function<void(Macchina&)>& prepara, bool aperta)
     : PalcoAMano(cartella, prepara) {
@@ -20,6 +26,8 @@ PalcoMelodia::PalcoMelodia(const std::string& cartella,
 void PalcoMelodia::ApriComposer() {
     Tocca("ToolButton2");
     AspettaFinestra(scrivania, QStringLiteral("frmComposer"));
+    // Larger than the platform's screen: else the tempo's slider has fewer pixels than tempi.
+    scrivania.Davanti()->Finestra().resize(larga, alta);
     Calma();
 }
 
