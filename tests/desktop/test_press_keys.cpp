@@ -86,8 +86,10 @@ TEST(TastoCheAziona, OnePressIsNoDoubleClickOnWhatHearsTheButtonAndDoubleClicks)
     Palco palco([](FormDiProva& form) { form.toccabile.Click = nullptr; });
     EXPECT_EQ(Battuto(palco, Qt::Key_Space), (Righe{"toccabile giu", "toccabile su"}));
     palco.Diario();
-    Trova(palco.scrivania, "toccabile").PerLettore()->actionInterface()->doAction(
-        QAccessibleActionInterface::pressAction());
+    Trova(palco.scrivania, "toccabile")
+        .PerLettore()
+        ->actionInterface()
+        ->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_EQ(palco.Diario(), (Righe{"toccabile giu", "toccabile su"}));
     EXPECT_EQ(Battuto(palco, Qt::Key_Return, Qt::ShiftModifier), Righe{"toccabile doppio"});
 }
