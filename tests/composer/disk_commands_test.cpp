@@ -214,8 +214,8 @@ TEST(ComandiSuDisco, AFolderThatMayNotBeReadIsAnEmptyListAndMayNotBeChanged) {
     d.Cartella("m");
     d.Cartella("m/inner");
     d.File("m/song.mel");
-    fs::permissions(d.Di(""), fs::perms(0755));
     fs::permissions(d.Di("m"), fs::perms(0));
+    fs::permissions(d.Di(""), fs::perms(0555));
     d.p.ListaFD();
     {
         const Chiunque chiunque;
@@ -224,6 +224,7 @@ TEST(ComandiSuDisco, AFolderThatMayNotBeReadIsAnEmptyListAndMayNotBeChanged) {
         EXPECT_EQ(d.Elenco(), Righe{"» .."});
         EXPECT_EQ(d.Crea("new"), (Avvisi{"", Errore(EACCES)}));
     }
+    fs::permissions(d.Di(""), fs::perms(0755));
     fs::permissions(d.Di("m"), fs::perms(0700));
     EXPECT_TRUE(fs::exists(d.Di("m/song.mel")));
 }
