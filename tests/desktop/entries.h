@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QMainWindow>
+#include <QMenu>
 
 #include "tests/desktop/visit.h"
 
