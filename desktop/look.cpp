@@ -9,7 +9,6 @@
 
 #include "desktop/face_reader.h"
 #include "desktop/icon_painter.h"
-#include "desktop/music_font.h"
 #include "desktop/style.h"
 #include "desktop/theme.h"
 
@@ -17,13 +16,10 @@ namespace corvana {
 
 namespace {
 
-/// The toolkit's list of fonts, and the signs that are drawn from one, are made beside the first
-/// window, which needs none of them before it paints.
+/// The toolkit's list of fonts is made beside the first window, which needs none of it before it
+/// paints.
 void PreparaCaratteri() {
-    QThreadPool::globalInstance()->start([] {
-        QFontDatabase::families();
-        TracciaSegno(Segno::ChiaveViolino);
-    });
+    QThreadPool::globalInstance()->start([] { QFontDatabase::families(); });
 }
 
 }  // namespace

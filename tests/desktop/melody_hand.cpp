@@ -74,6 +74,8 @@ void PalcoMelodia::Scrivi(const LetturaMel& letta) {
 void PalcoMelodia::ScriviIn(const std::string& casella, const std::string& testo) {
     auto& riga = Di(casella).Come<QLineEdit>();
     QTest::mouseClick(&riga, Qt::LeftButton);
+    // What the click makes of the box comes first, as for a person.
+    Calma();
     riga.selectAll();
     QTest::keyClicks(&riga, QString::fromStdString(testo));
     Batti(Qt::Key_Tab);
