@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -14,6 +13,7 @@
 #include <stdexcept>
 
 #include "bench/process_figures.h"
+#include "forms/real_clock.h"
 #include "tests/outputs/hearing.h"
 #include "tests/screen/patient_learner.h"
 #include "tests/screen/restless_machine.h"
@@ -26,8 +26,7 @@ using namespace corvana::prova;
 std::atomic<bool> basta = false;  ///< somebody wants the report now
 
 double Secondo() {
-    const auto adesso = std::chrono::steady_clock::now().time_since_epoch();
-    return std::chrono::duration<double>(adesso).count();
+    return OrologioReale().Adesso();
 }
 
 void Passano(int millisecondi) {

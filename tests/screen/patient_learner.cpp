@@ -2,10 +2,11 @@
 
 #include <poll.h>
 
-#include <chrono>
 #include <cmath>
 #include <cstdlib>
 #include <stdexcept>
+
+#include "forms/real_clock.h"
 
 namespace corvana::prova {
 
@@ -16,8 +17,7 @@ constexpr const char* dispositivi = "frmMidiTest";
 constexpr const char* riquadro = "riquadro";
 
 double Secondo() {
-    const auto adesso = std::chrono::steady_clock::now().time_since_epoch();
-    return std::chrono::duration<double>(adesso).count();
+    return OrologioReale().Adesso();
 }
 
 }  // namespace
