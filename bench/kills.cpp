@@ -52,7 +52,6 @@ struct Conto {
     int dellaPrima = 0;
     int dellaSeconda = 0;
     int perse = 0;
-    int aMeta = 0;  ///< kills that left a half-written temporary file behind
 };
 
 /// Saves by turns until it is killed; tells through `segno` that the first save is done.
@@ -88,7 +87,6 @@ void Conta(Conto& conto, Banco& prima, Banco& seconda, const std::string& percor
     ++(letti == prima.byte     ? conto.dellaPrima
        : letti == seconda.byte ? conto.dellaSeconda
                                : conto.perse);
-    conto.aMeta += prima.file.Esiste(percorso + ".nuovo") ? 1 : 0;
 }
 
 }  // namespace
@@ -108,8 +106,10 @@ int main(int argc, char** argv) {
         }
         Conta(conto, prima, seconda, cartella.Di("melodia.mel"));
     }
+    // Beside the melody lies the copy that each of them left.
+    const int aMeta = cartella.Quanti() - 1;
     misura::StampaMeta("melodies lost of " + std::to_string(uccisioni) + " saved under SIGKILL",
                        conto.perse, 0, "");
     std::printf("  kills within a write %d; the one melody was found %d times, the other %d\n",
-                conto.aMeta, conto.dellaPrima, conto.dellaSeconda);
+                aMeta, conto.dellaPrima, conto.dellaSeconda);
 }

@@ -16,17 +16,24 @@ namespace corvana {
 namespace {
 
 constexpr mode_t permessi = 0644;
+/// Copies of one file that may lie beside it.
+constexpr int tanteCopie = 1000;
 
 /// An open descriptor, closed with its owner. A pipe that nobody holds the other end of would keep
 /// the opening waiting for ever.
 class Descrittore {
 public:
-    Descrittore(const std::string& percorso, int modo)
-        : numero_(open(percorso.c_str(), modo | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, permessi)) {}
+    Descrittore() = default;
+    Descrittore(const std::string& percorso, int modo) { Apri(percorso, modo); }
     Descrittore(const Descrittore&) = delete;
     Descrittore& operator=(const Descrittore&) = delete;
     ~Descrittore() { Chiudi(); }
 
+    /// False, with errno, when it can't be opened; for one that isn't open.
+    bool Apri(const std::string& percorso, int modo) {
+        numero_ = open(percorso.c_str(), modo | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, permessi);
+        return Aperto();
+    }
     bool Aperto() const { return numero_ >= 0; }
     int Numero() const { return numero_; }
     int Chiudi() {
@@ -36,7 +43,7 @@ public:
     }
 
 private:
-    int numero_;
+    int numero_ = -1;
 };
 
 bool ScriviTutto(int descrittore, std::string_view resto) {
@@ -64,10 +71,42 @@ int LeggiTutto(int descrittore, std::string& contenuto, std::size_t limite) {
     }
 }
 
-bool Deposita(const std::string& percorso, const std::string& contenuto) {
-    Descrittore file(percorso, O_WRONLY | O_CREAT | O_TRUNC);
-    return file.Aperto() && ScriviTutto(file.Numero(), contenuto) && fsync(file.Numero()) == 0 &&
-           file.Chiudi() == 0;
+/// What is to take a file's place, beside it and under a name that is nobody's: of two who write
+/// the same file each has a copy of his own, and what others left there is theirs.
+class Copia {
+public:
+    explicit Copia(const std::string& percorso) {
+        int numero = 1;
+        do
+            nome_ = percorso + ".nuovo" + (numero > 1 ? std::to_string(numero) : "");
+        while (!file_.Apri(nome_, O_WRONLY | O_CREAT | O_EXCL) && errno == EEXIST &&
+               numero++ < tanteCopie);
+    }
+
+    bool Aperta() const { return file_.Aperto(); }
+    const std::string& Nome() const { return nome_; }
+    /// False, with errno, when not all of it is on the disk; closed then.
+    bool Riempi(std::string_view contenuto) {
+        return ScriviTutto(file_.Numero(), contenuto) && fsync(file_.Numero()) == 0 &&
+               file_.Chiudi() == 0;
+    }
+    /// Takes over who may do what with the file, as far as there is one and its owner allows it.
+    void PrendiDiritti(const std::string& percorso) {
+        struct stat dati {};
+        if (stat(percorso.c_str(), &dati) == 0) fchmod(file_.Numero(), dati.st_mode & ACCESSPERMS);
+    }
+
+private:
+    std::string nome_;
+    Descrittore file_;
+};
+
+/// The file that a link leads to, so that the link stays; else the path itself.
+std::string DoveConduce(const std::string& percorso) {
+    std::error_code errore;
+    if (!std::filesystem::is_symlink(percorso, errore)) return percorso;
+    const auto meta = std::filesystem::canonical(percorso, errore);
+    return std::filesystem::is_regular_file(meta, errore) ? meta.string() : percorso;
 }
 
 /// Why there are no bytes to be had of it; 0 for a file.
@@ -116,7 +155,7 @@ int FileReali::RinominaSeLibero(const std::string& percorso, const std::string& 
 }
 
 int FileReali::ScriviAtomico(const std::string& percorso, const std::string& contenuto) {
-    return Scrivi(percorso, contenuto, &FileReali::Rinomina);
+    return Scrivi(DoveConduce(percorso), contenuto, &FileReali::Rinomina);
 }
 
 int FileReali::ScriviSeLibero(const std::string& percorso, const std::string& contenuto) {
@@ -125,13 +164,14 @@ int FileReali::ScriviSeLibero(const std::string& percorso, const std::string& co
 
 int FileReali::Scrivi(const std::string& percorso, const std::string& contenuto,
                       Nominare nominare) {
-    const std::string provvisorio = percorso + ".nuovo";
-    const int errore =
-        Deposita(provvisorio, contenuto) ? (this->*nominare)(provvisorio, percorso) : errno;
+    Copia copia(percorso);
+    if (!copia.Aperta()) return errno;
+    copia.PrendiDiritti(percorso);
+    const int errore = copia.Riempi(contenuto) ? (this->*nominare)(copia.Nome(), percorso) : errno;
     if (errore == 0)
         FissaCartella(percorso);
     else
-        unlink(provvisorio.c_str());
+        unlink(copia.Nome().c_str());
     return errore;
 }
 

@@ -4,6 +4,7 @@
 #include "tests/composer/disk_rig.h"
 #include "tests/composer/mel_lines.h"
 #include "tests/support/full_disk.h"
+#include "tests/support/system_calls.h"
 
 namespace corvana::prova {
 
@@ -40,6 +41,14 @@ void EsceAndataERitorno(char separatore, const std::string& terzina, const std::
     altro.b.finestra.pulsi.lblTs_Click();
     altro.b.finestra.archivio.SalvaMelodia("again");
     EXPECT_EQ(Contenuto(uno.cartella.Di("again.mel")), Contenuto(uno.cartella.Di("song.mel")));
+}
+
+/// Saves a melody of one note on a system that has this error for all that is asked of it.
+void SalvaCon(int errore, BancoSuDisco& d) {
+    d.b.Voce(soprano, "60;", "1");
+    d.b.finestra.stato.lblModificato.Visible = true;
+    const ChiamateSistema sistema(0, GuastoSistema{errore, false, false, true});
+    d.b.finestra.archivio.SalvaMelodia("song");
 }
 
 }  // namespace
@@ -94,10 +103,7 @@ TEST(SuDisco, AFileThatMayNotGrowLeavesTheOldFileAndTheFlag) {
 TEST(SuDisco, ADiskWithoutRoomIsFault61AndLeavesTheOldFileAndTheFlag) {
     BancoSuDisco d;
     Scrivi(d.cartella.Di("song.mel"), "old");
-    std::filesystem::create_symlink("/dev/full", d.cartella.Di("song.mel.nuovo"));
-    d.b.Voce(soprano, "60;", "1");
-    d.b.finestra.stato.lblModificato.Visible = true;
-    d.b.finestra.archivio.SalvaMelodia("song");
+    SalvaCon(ENOSPC, d);
     EXPECT_EQ(d.b.riquadri.messaggi, Avvisi{"61\r\n" + ParoleSistema(ENOSPC)});
     d.EsceRifiutata("old");
 }
@@ -119,13 +125,9 @@ TEST(SuDisco, ANameThatAFolderHasIsRefusedByTheDiskAndTheFolderStays) {
 TEST(SuDisco, AFolderThatLetsNothingBeWrittenLeavesTheOldFileAndTheFlag) {
     BancoSuDisco d;
     Scrivi(d.cartella.Di("song.mel"), "old");
-    std::filesystem::create_directory(d.cartella.Di("song.mel.nuovo"));
-    d.b.Voce(soprano, "60;", "1");
-    d.b.finestra.stato.lblModificato.Visible = true;
-    d.b.finestra.archivio.SalvaMelodia("song");
+    SalvaCon(EACCES, d);
     EXPECT_EQ(d.b.riquadri.messaggi,
-              Avvisi{std::to_string(EISDIR) + "\r\n" + ParoleSistema(EISDIR)});
-    std::filesystem::remove(d.cartella.Di("song.mel.nuovo"));
+              Avvisi{std::to_string(EACCES) + "\r\n" + ParoleSistema(EACCES)});
     d.EsceRifiutata("old");
 }
 

@@ -3,7 +3,10 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <fstream>
+#include <thread>
+#include <vector>
 
 #include "core/settings.h"
 #include "tests/core/temporary_folder.h"
@@ -73,6 +76,94 @@ TEST(FileReali, AWriteOntoAFolderTellsItsErrorAndLeavesNoTemporary) {
     EXPECT_EQ(cartella.Quanti(), 1);
 }
 
+TEST(FileReali, OfTwoProgramsThatWriteOneFileEachHasACopyOfItsOwn) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    std::ofstream altro(cartella.Di("a.nuovo"));
+    altro << "half of " << std::flush;
+    EXPECT_EQ(file.ScriviAtomico(cartella.Di("a"), "mine"), 0);
+    altro << "another's" << std::flush;
+    EXPECT_EQ(Contenuto(cartella.Di("a")), "mine");
+    EXPECT_EQ(Contenuto(cartella.Di("a.nuovo")), "half of another's");
+    EXPECT_EQ(cartella.Quanti(), 2);
+}
+
+TEST(FileReali, WhoReadsAFileThatManyWriteFindsItWholeAtEachInstant) {
+    const CartellaProvvisoria cartella;
+    const std::string percorso = cartella.Di("a");
+    FileReali().ScriviAtomico(percorso, "a");
+    std::vector<std::thread> scrittori;
+    for (const std::size_t chi : {1U, 2U, 3U})
+        scrittori.emplace_back([&percorso, chi] {
+            FileReali file;
+            for (int volta = 0; volta < 20; ++volta)
+                ASSERT_EQ(file.ScriviAtomico(percorso, std::string(chi * 50'000, "abcd"[chi])), 0);
+        });
+    FileReali file;
+    for (int volta = 0; volta < 200; ++volta) {
+        std::string letto;
+        ASSERT_EQ(file.Leggi(percorso, letto), 0);
+        const std::size_t chi = letto[0] - 'a';
+        ASSERT_EQ(letto, std::string(std::max<std::size_t>(chi * 50'000, 1), "abcd"[chi]));
+    }
+    for (std::thread& scrittore : scrittori)
+        scrittore.join();
+    EXPECT_EQ(cartella.Quanti(), 1);
+}
+
+TEST(FileReali, WhatLiesInTheWayOfACopyIsLeftAlone) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    std::filesystem::create_symlink("/dev/full", cartella.Di("a.nuovo"));
+    std::filesystem::create_directory(cartella.Di("a.nuovo2"));
+    ASSERT_EQ(mkfifo(cartella.Di("a.nuovo3").c_str(), 0600), 0);
+    EXPECT_EQ(file.ScriviAtomico(cartella.Di("a"), "new"), 0);
+    EXPECT_EQ(Contenuto(cartella.Di("a")), "new");
+    EXPECT_TRUE(std::filesystem::is_symlink(cartella.Di("a.nuovo")));
+    EXPECT_EQ(cartella.Quanti(), 4);
+}
+
+TEST(FileReali, AFileThatIsReplacedKeepsWhoMayDoWhatWithIt) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    file.ScriviAtomico(cartella.Di("a"), "old");
+    for (const mode_t diritti : {0600U, 0664U, 0640U}) {
+        ASSERT_EQ(chmod(cartella.Di("a").c_str(), diritti), 0);
+        EXPECT_EQ(file.ScriviAtomico(cartella.Di("a"), "new"), 0);
+        struct stat dati {};
+        stat(cartella.Di("a").c_str(), &dati);
+        EXPECT_EQ(dati.st_mode & ACCESSPERMS, diritti);
+    }
+}
+
+TEST(FileReali, ALinkStaysALinkAndWhatItLeadsToIsReplaced) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    file.CreaCartella(cartella.Di("away"));
+    file.ScriviAtomico(cartella.Di("away/a"), "old");
+    std::filesystem::create_symlink("away/a", cartella.Di("link"));
+    EXPECT_EQ(file.ScriviAtomico(cartella.Di("link"), "new"), 0);
+    EXPECT_TRUE(std::filesystem::is_symlink(cartella.Di("link")));
+    EXPECT_EQ(Contenuto(cartella.Di("away/a")), "new");
+    EXPECT_EQ(file.ScriviSeLibero(cartella.Di("link"), "newer"), EEXIST);
+    EXPECT_EQ(Contenuto(cartella.Di("away/a")), "new");
+}
+
+TEST(FileReali, ALinkThatLeadsToNoFileGivesItsPlaceToTheFile) {
+    const CartellaProvvisoria cartella;
+    FileReali file;
+    file.CreaCartella(cartella.Di("folder"));
+    for (const char* dove : {"nowhere", "folder", "/dev/null", "link"}) {
+        std::filesystem::create_symlink(dove, cartella.Di("link"));
+        EXPECT_EQ(file.ScriviSeLibero(cartella.Di("link"), "new"), EEXIST) << dove;
+        EXPECT_EQ(file.ScriviAtomico(cartella.Di("link"), "new"), 0) << dove;
+        EXPECT_TRUE(
+            std::filesystem::is_regular_file(std::filesystem::symlink_status(cartella.Di("link"))));
+        file.Elimina(cartella.Di("link"));
+    }
+    EXPECT_TRUE(std::filesystem::is_empty(cartella.Di("folder")));
+}
+
 TEST(FileReali, ReadingTellsWhatFailedAndGivesNothing) {
     const CartellaProvvisoria cartella;
     FileReali file;
@@ -91,9 +182,6 @@ TEST(FileReali, APipeIsToldAndNeverWaitedFor) {
     EXPECT_EQ(contenuto, "");
     EXPECT_EQ(file.Leggi("/dev/zero", contenuto), EINVAL);
     EXPECT_FALSE(file.Esiste(cartella.Di("x")));
-    // In the way of a write's temporary.
-    ASSERT_EQ(mkfifo(cartella.Di("y.nuovo").c_str(), 0600), 0);
-    EXPECT_EQ(file.ScriviAtomico(cartella.Di("y"), "new"), ENXIO);
 }
 
 TEST(FileReali, AFileLongerThanTheLimitIsntReadAndOneOfItIs) {

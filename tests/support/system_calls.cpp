@@ -1,4 +1,4 @@
-#include "tests/core/system_calls.h"
+#include "tests/support/system_calls.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
