@@ -1,12 +1,14 @@
 // The list of melodies in the running program: a folder of ten thousand, from the click that enters
-// it to painted; and from a double click on a melody to its first note. The same folder's rows
-// without a window.
+// it to painted, and from a turn of the wheel or a pull at its bar to painted; from a double click
+// on a melody to its first note. The same folder's rows without a window.
 #include <QAction>
 #include <QApplication>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 #include <QWindow>
 
 #include "bench/figures.h"
@@ -29,7 +31,9 @@ using namespace corvana::prova;
 
 constexpr int melodie = 10'000;
 constexpr int prove = 21;
-constexpr long note = 1000;  ///< of each of the melody's four voices
+constexpr int scorrimenti = 200;
+constexpr double quadro = 1000.0 / 60;  ///< milliseconds for which a screen shows one picture
+constexpr long note = 1000;             ///< of each of the melody's four voices
 
 /// A folder that holds a melody and a folder of ten thousand, which the settings name as the last.
 class Disco {
@@ -79,6 +83,7 @@ public:
         TrovaVoce(scrivania_, QStringLiteral("mnuApri")).trigger();
         Aspetta([this] { return Elenco().count() == 3; });
         EntraFraMolte();
+        ScorriMolte();
         disco_.ElencaSenzaFinestra();
         Suona();
         scrivania_.Davanti()->Finestra().close();
@@ -89,17 +94,52 @@ private:
     void EntraFraMolte() {
         std::vector<double> tempi;
         while (tempi.size() < prove) {
-            Clicca(*Elenco().viewport(), PostoDi(1));
-            tempi.push_back(pitture_.Cronometra(
-                [this] { Clicca(scrivania_, QStringLiteral("cmdEseguiFile")); },
-                [this](const QWidget& dipinto) {
-                    return &dipinto == Elenco().viewport() && Elenco().count() == melodie + 1;
-                }));
-            Clicca(*Elenco().viewport(), PostoDi(0));
-            Clicca(scrivania_, QStringLiteral("cmdEseguiFile"));
-            Aspetta([this] { return Elenco().count() == 3; });
+            tempi.push_back(Entra());
+            Esci();
         }
         misura::Stampa("a folder of 10,000 melodies listed and painted", tempi, "ms", {1, 100});
+    }
+    double Entra() {
+        Clicca(*Elenco().viewport(), PostoDi(1));
+        return Dipinto([this] { Clicca(scrivania_, QStringLiteral("cmdEseguiFile")); },
+                       [this] { return Elenco().count() == melodie + 1; });
+    }
+    void Esci() {
+        Elenco().scrollToTop();
+        Clicca(*Elenco().viewport(), PostoDi(0));
+        Clicca(scrivania_, QStringLiteral("cmdEseguiFile"));
+        Aspetta([this] { return Elenco().count() == 3; });
+    }
+    void ScorriMolte() {
+        Entra();
+        QScrollBar& barra = *Elenco().verticalScrollBar();
+        std::vector<double> giri;
+        std::vector<double> tirate;
+        for (int i = 1; i <= scorrimenti; ++i)
+            giri.push_back(Scorri(barra, [this] { GiraRotella(); }));
+        for (int i = scorrimenti; i-- > 0;)
+            tirate.push_back(
+                Scorri(barra, [&] { barra.setSliderPosition(barra.maximum() * i / scorrimenti); }));
+        misura::Stampa("a turn of the wheel among 10,000, painted", giri, "ms", {0.99, quadro});
+        misura::Stampa("a pull at their bar, painted", tirate, "ms", {0.99, quadro});
+        Esci();
+    }
+    double Scorri(const QScrollBar& barra, const std::function<void()>& come) {
+        return Dipinto(come, [&barra, prima = barra.value()] { return barra.value() != prima; });
+    }
+    /// Milliseconds until the list has been painted so.
+    double Dipinto(const std::function<void()>& comincia, const std::function<bool()>& cosi) {
+        return pitture_.Cronometra(comincia, [this, &cosi](const QWidget& dipinto) {
+            return &dipinto == Elenco().viewport() && cosi();
+        });
+    }
+    void GiraRotella() {
+        constexpr int scatto = -120;  // downwards
+        QWidget& vista = *Elenco().viewport();
+        const QPoint dove = vista.rect().center();
+        QWheelEvent giro(dove, vista.mapToGlobal(dove), {}, {0, scatto}, {}, {}, Qt::NoScrollPhase,
+                         false);
+        QApplication::sendEvent(&vista, &giro);
     }
     void Suona() {
         std::vector<double> tempi;
