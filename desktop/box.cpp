@@ -36,7 +36,11 @@ QDialog* CreaMessaggio(const ApriRiquadro& richiesta, const ParoleSchermo& parol
     riquadro->setIconPixmap(
         IconaDelProgramma(segno).pixmap(QSize(lato, lato), riquadro->devicePixelRatioF()));
     riquadro->setStandardButtons(domanda ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
-    if (domanda) riquadro->setEscapeButton(QMessageBox::No);
+    if (domanda) {
+        // Something may be lost by a Yes.
+        riquadro->setDefaultButton(QMessageBox::No);
+        riquadro->setEscapeButton(QMessageBox::No);
+    }
     ScriviBottoni(*riquadro, parole);
     return riquadro;
 }

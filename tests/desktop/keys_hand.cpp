@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QMainWindow>
+#include <QPointer>
 #include <QTest>
 #include <stdexcept>
 
@@ -59,7 +60,10 @@ void PalcoTasti::Ripeti(Qt::Key tasto, int volte) {
 void PalcoTasti::Decidi(bool si) {
     if (!Aspetta([this] { return scrivania.Riquadro() && scrivania.Riquadro()->isVisible(); }))
         throw std::logic_error("no question came");
-    QTest::keyClick(scrivania.Riquadro(), si ? Qt::Key_Return : Qt::Key_Escape);
+    const QPointer<QDialog> domanda = scrivania.Riquadro();
+    QTest::keyClick(domanda, si ? Qt::Key_S : Qt::Key_Escape);
+    // A button that is pressed by its letter shows that for a moment.
+    Aspetta([&] { return !domanda; });
     Calma();
     scrivania.Davanti()->Finestra().activateWindow();
     Calma();

@@ -24,7 +24,7 @@ public:
     bool Suonato() const { return !uscita->Mandati().empty(); }
     /// A key, so many times.
     void Ripeti(Qt::Key tasto, int volte);
-    /// Answers the question that is up with Yes or No, which Enter and Escape stand for.
+    /// Answers the question that is up with Yes or No, by its letter or Escape.
     void Decidi(bool si);
     /// Of the Tab key, once around.
     QStringList Fermate();

@@ -118,6 +118,19 @@ TEST(Riquadri, TheirButtonsSpeakItalianUntilAnotherLanguageIsChosen) {
     ControllaBottoni(palco, {"&Not", "&Yes"}, {"Fine"}, {"Cancel", "Fine"});
 }
 
+TEST(Riquadri, EnterAndEscapeAreNo) {
+    for (const auto tasto : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+        Palco palco;
+        palco.Ordina([](FormDiProva& form) {
+            form.scritta.Caption = form.riquadri.Domanda("Uscire?") ? "si" : "no";
+        });
+        QTest::keyClick(&Messaggio(palco), tasto);
+        EXPECT_TRUE(Aspetta([&] {
+            return Trova(palco.scrivania, "scritta").accessibleName() == "no";
+        })) << tasto;
+    }
+}
+
 TEST(Riquadri, TheLetterOfAButtonIsItsKey) {
     Palco palco;
     palco.Ordina([](FormDiProva& form) {

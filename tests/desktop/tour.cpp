@@ -2,8 +2,6 @@
 
 #include <QLabel>
 #include <QListWidget>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QSlider>
 #include <QTest>
 
@@ -106,19 +104,6 @@ const std::string& Giro::Salvata(const std::string& nome) const {
 void Giro::ToccaTasto(int indice) {
     const std::string nome = "lb" + std::to_string(indice);
     Tocca(nome, NelTasto(nome));
-}
-
-std::string Giro::Messaggio(bool si) {
-    if (!Aspetta([this] { return scrivania.Riquadro() && scrivania.Riquadro()->isVisible(); }))
-        return "no box came";
-    auto& riquadro = dynamic_cast<QMessageBox&>(*scrivania.Riquadro());
-    const std::string testo = riquadro.text().toStdString();
-    si ? riquadro.defaultButton() ? riquadro.defaultButton()->click() : riquadro.accept()
-       : riquadro.reject();
-    Calma();
-    scrivania.Davanti()->Finestra().activateWindow();
-    Calma();
-    return testo;
 }
 
 void Giro::ScegliRiga(const std::string& lista, const std::string& inizio) {

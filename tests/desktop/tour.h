@@ -53,8 +53,6 @@ public:
     int Colore(const std::string& nome) {
         return StatoDi(scrivania, QString::fromStdString(nome)).BackColor;
     }
-    /// The text of the box that is up, which is then answered.
-    std::string Messaggio(bool si = true);
     /// The arrow keys bring a list to the row that begins so.
     void ScegliRiga(const std::string& lista, const std::string& inizio);
     /// What a melody's file holds, of those in the user's folder of melodies.
