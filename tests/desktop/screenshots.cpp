@@ -4,13 +4,10 @@
 #include <QApplication>
 #include <QDir>
 #include <QMainWindow>
-#include <QPushButton>
-#include <QToolTip>
 #include <array>
 #include <cstdlib>
 #include <stdexcept>
 
-#include "desktop/box.h"
 #include "desktop/help_window.h"
 #include "tests/desktop/keyboard_stage.h"
 #include "tests/desktop/memory_home.h"
@@ -63,37 +60,7 @@ private:
     QString lingua_;
 };
 
-void FotografaRiquadro(Macchinetta& m, Scrivania& scrivania, GenereRiquadro genere,
-                       const QString& nome) {
-    ApriRiquadro richiesta;
-    richiesta.genere = genere;
-    richiesta.testo =
-        "Melody modified. Save?\nA second line, that is long enough to be broken by the box.";
-    richiesta.proposta = "Salmo centesimo";
-    QDialog* riquadro = MostraRiquadro(richiesta, ParoleSchermo(), &scrivania.Davanti()->Finestra(),
-                                       [](const Risposta&) {});
-    Respira();
-    m.Scatta(*riquadro, nome);
-    riquadro->close();
-    Respira();
-}
-
-/// What the toolkit paints for the program.
-void FotografaContorno(Macchinetta& m, Scrivania& scrivania, const QString& aiuto) {
-    FotografaRiquadro(m, scrivania, GenereRiquadro::Messaggio, QStringLiteral("box-message"));
-    FotografaRiquadro(m, scrivania, GenereRiquadro::Domanda, QStringLiteral("box-question"));
-    FotografaRiquadro(m, scrivania, GenereRiquadro::Immissione, QStringLiteral("box-input"));
-    QWidget& sopra = scrivania.Davanti()->Finestra();
-    QToolTip::showText(QPoint(10, 10),
-                       StatoDi(scrivania, "Start").ToolTipText.empty()
-                           ? QStringLiteral("Metronome")
-                           : Trova(scrivania, "Start").toolTip(),
-                       &sopra);
-    Respira();
-    for (QWidget* cosa : QApplication::topLevelWidgets())
-        if (cosa->inherits("QTipLabel") && cosa->isVisible())
-            m.Scatta(*cosa, QStringLiteral("tool-tip"));
-    QToolTip::hideText();
+void FotografaAiuto(Macchinetta& m, const QString& aiuto) {
     const ParoleSchermo parole;
     FinestraAiuto finestra(parole, [] {});
     finestra.Mostra(aiuto, 0, nullptr);
@@ -140,9 +107,8 @@ int main(int argc, char** argv) {
     for (const bool inglese : {false, true}) {
         m.PonLingua(inglese ? QStringLiteral("en-") : QStringLiteral("it-"));
         giro.Gira(inglese);
-        FotografaContorno(
-            m, scrivania,
-            dati + (inglese ? QStringLiteral("/corvanaen.chm") : QStringLiteral("/corvana.chm")));
+        FotografaAiuto(m, dati + (inglese ? QStringLiteral("/corvanaen.chm")
+                                          : QStringLiteral("/corvana.chm")));
     }
     scrivania.Termina();
     FotografaTastiera(cartella, misura);

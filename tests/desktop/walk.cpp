@@ -1,9 +1,12 @@
 #include "tests/desktop/walk.h"
 
+#include <QApplication>
 #include <QComboBox>
+#include <QInputDialog>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
+#include <QToolTip>
 #include <QWindow>
 #include <stdexcept>
 
@@ -16,6 +19,7 @@ void GiraEsercizio(Passeggiata& g) {
     g.Mostra(QStringLiteral("idle"));
     g.MostraMenu(QStringLiteral("menu"));
     g.MostraPremuto("Start", QStringLiteral("idle-pressed"));
+    g.MostraConsiglio("ToolButton4", QStringLiteral("tool-tip"));
     g.Premi("lblMn");
     g.Premi("Start");
     g.Attendi([&] { return g.Di("pdo").isEnabled() && !g.Di("Regolo").isVisible(); });
@@ -149,6 +153,39 @@ void Passeggiata::MostraTendina(const char* lista, const QString& nome) {
     Respira();
     guarda_(*tendina.findChild<QFrame*>(), nome);
     tendina.hidePopup();
+    Respira();
+}
+
+void Passeggiata::MostraRiquadro(const std::function<void()>& apri, const QString& nome) {
+    apri();
+    QDialog& riquadro = Riquadro();
+    guarda_(riquadro, nome);
+    riquadro.reject();
+    Respira();
+}
+
+void Passeggiata::Rispondi(const QString& testo) {
+    auto& riquadro = dynamic_cast<QInputDialog&>(Riquadro());
+    riquadro.setTextValue(testo);
+    riquadro.accept();
+    Respira();
+}
+
+QDialog& Passeggiata::Riquadro() {
+    Attendi([this] { return scrivania_.Riquadro() && scrivania_.Riquadro()->isVisible(); });
+    Respira();
+    return *scrivania_.Riquadro();
+}
+
+void Passeggiata::MostraConsiglio(const char* controllo, const QString& nome) {
+    const Cosa cosa = Di(controllo);
+    const QPoint dove = cosa.NellaFinestra(cosa.rect().center());
+    QToolTip::showText(cosa.window()->mapToGlobal(dove), InQt(Stato(controllo).ToolTipText),
+                       cosa.window());
+    Respira();
+    for (QWidget* sopra : QApplication::topLevelWidgets())
+        if (sopra->inherits("QTipLabel") && sopra->isVisible()) guarda_(*sopra, nome);
+    QToolTip::hideText();
     Respira();
 }
 

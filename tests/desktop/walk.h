@@ -28,6 +28,12 @@ public:
     void MostraPremuto(const char* bottone, const QString& nome);
     /// What drops down of a list.
     void MostraTendina(const char* lista, const QString& nome);
+    /// The box that comes of it, which is then refused.
+    void MostraRiquadro(const std::function<void()>& apri, const QString& nome);
+    /// Waits for a box that asks for a text, and gives it that one.
+    void Rispondi(const QString& testo);
+    /// What comes up over a control when the pointer rests on it.
+    void MostraConsiglio(const char* controllo, const QString& nome);
     Cosa Di(const char* nome) { return Trova(scrivania_, QString::fromUtf8(nome)); }
     const Aspetto& Stato(const char* nome) { return StatoDi(scrivania_, QString::fromUtf8(nome)); }
     void Premi(const char* nome);
@@ -42,6 +48,8 @@ public:
     void Respira();
 
 private:
+    QDialog& Riquadro();
+
     Scrivania& scrivania_;
     Guarda guarda_;
 };

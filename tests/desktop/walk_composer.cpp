@@ -44,6 +44,17 @@ void ApriMelodia(Passeggiata& g, const QString& inizio, const char* nome) {
     g.Premi("cmdEseguiFile");
 }
 
+/// The questions around a melody that isn't saved yet.
+void MostraRiquadri(Passeggiata& g) {
+    g.MostraRiquadro([&] { g.Premi("ToolButton5"); }, QStringLiteral("box-input"));
+    g.Premi("ToolButton5");
+    g.Rispondi(QStringLiteral("a/b"));
+    g.MostraRiquadro([] {}, QStringLiteral("box-message"));
+    g.MostraRiquadro([&] { g.Premi("cmdCm"); }, QStringLiteral("box-question"));
+    g.MostraTendina("cmbDrive", Detto("roots"));
+    g.Premi("cmdChiudi");
+}
+
 /// The picker over the window: as it opens, and while it plays in another voice.
 void ScegliStrumenti(Passeggiata& g) {
     g.Premi("pictCi");
@@ -103,6 +114,7 @@ void PasseggiaComposer(Passeggiata& g) {
     g.MostraPremuto("cmdPlay", Detto("pressed"));
     ScriviQualcosa(g);
     g.Mostra(Detto("entering"));
+    MostraRiquadri(g);
     g.Premi("cmdAttrNota3");
     g.Premi("cmdReset");
     ApriMelodia(g, QStringLiteral("Salmo"), "files");
@@ -120,6 +132,8 @@ void PasseggiaComposer(Passeggiata& g) {
     g.Attendi([&] { return g.Stato("cmdPlay").Caption == "Play"; });
     g.Premi("lblTs");
     g.Mostra(Detto("stepping"));
+    for (const char* lista : {"cmbDurata", "cmbPer", "cmbAttributi", "Pulsazioni"})
+        g.MostraTendina(lista, Detto(lista));
     MostraRiferimenti(g);
     g.Chiudi();
 }
