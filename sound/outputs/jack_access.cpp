@@ -69,17 +69,21 @@ private:
 };
 
 bool AccessoJack::Entra() {
-    if (presenti_ == 0) {
-        TaciLibrerie();
-        cliente_ = jack_client_open(nomeSintetizzatore, JackNoStartServer, nullptr);
-        if (!cliente_) return false;
-        morto_ = false;
-        jack_on_shutdown(
-            cliente_, [](void* morto) { *static_cast<std::atomic<bool>*>(morto) = true; }, &morto_);
-        jack_set_process_callback(cliente_, Elabora, this);
-    }
-    if (morto_) return false;
+    if (presenti_ == 0 && !ApriCliente()) return false;
     ++presenti_;
+    if (!morto_) return true;
+    Esci();
+    return false;
+}
+
+bool AccessoJack::ApriCliente() {
+    TaciLibrerie();
+    cliente_ = jack_client_open(nomeSintetizzatore, JackNoStartServer, nullptr);
+    if (!cliente_) return false;
+    morto_ = false;
+    jack_on_shutdown(
+        cliente_, [](void* morto) { *static_cast<std::atomic<bool>*>(morto) = true; }, &morto_);
+    jack_set_process_callback(cliente_, Elabora, this);
     return true;
 }
 

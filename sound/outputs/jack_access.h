@@ -40,6 +40,8 @@ private:
     };
 
     bool Entra();
+    bool ApriCliente();
+    /// The last one out closes the client, of a dead server too.
     void Esci();
     bool Collega(const std::string& nome);
     void Scollega();
