@@ -236,5 +236,31 @@ TEST_F(OrecchioSenzaMouse, AChordIsAskedAndAnswered) {
     p.Aziona("ComdRacStart");
 }
 
+TEST_F(OrecchioSenzaMouse, AKeyIsAskedByItsNameAndFoundOnThePiano) {
+    Apri(5);
+    p.Aziona("cmdRicTasto");
+    EXPECT_EQ(p.Scritta("cmdRicTasto"), "Stop");
+    EXPECT_TRUE(p.Dice("lblStep").starts_with("Fai clic su un ")) << p.Dice("lblStep");
+    Tasto(Qt::Key_Right, 1);
+    EXPECT_EQ(Date(), 1);
+    p.Aziona("cmdRicTasto");
+    EXPECT_EQ(p.Scritta("cmdRicTasto"), "Start");
+    p.Aziona("lblSceltaTasti");
+}
+
+TEST_F(OrecchioSenzaMouse, ATonalityIsAskedAndAnswered) {
+    Apri(4);
+    p.Aziona("cmdT");
+    EXPECT_EQ(p.Scritta("cmdT"), "Stop");
+    p.VaiA("lblT(0)");
+    p.Batti(Qt::Key_Down);
+    p.Batti(Qt::Key_Right);
+    ASSERT_TRUE(p.Di("T1").hasFocus());
+    p.Batti(Qt::Key_Space);
+    EXPECT_EQ(Date(), 1);
+    p.Aziona("cmdT");
+    EXPECT_EQ(p.Scritta("cmdT"), "Start");
+}
+
 }  // namespace
 }  // namespace corvana::prova
