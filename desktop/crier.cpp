@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QWindow>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/face.h"
 
@@ -13,7 +14,7 @@ namespace {
 /// A message that has no place on the screen.
 class Messaggio final : public QAccessibleInterface {
 public:
-    Messaggio(const Banditore& banditore, Faccia& terra) : banditore_(banditore), terra_(terra) {}
+    Messaggio(QString detto, Faccia& terra) : detto_(std::move(detto)), terra_(terra) {}
 
     bool isValid() const override { return true; }
     QObject* object() const override { return nullptr; }
@@ -26,7 +27,7 @@ public:
     int indexOfChild(const QAccessibleInterface*) const override { return -1; }
     QAccessibleInterface* childAt(int, int) const override { return nullptr; }
     QString text(QAccessible::Text quale) const override {
-        return quale == QAccessible::Name ? banditore_.Detto() : QString();
+        return quale == QAccessible::Name ? detto_ : QString();
     }
     void setText(QAccessible::Text, const QString&) override {}
     QRect rect() const override { return {}; }
@@ -38,7 +39,7 @@ public:
     }
 
 private:
-    const Banditore& banditore_;
+    QString detto_;
     Faccia& terra_;
 };
 
@@ -50,13 +51,22 @@ QString Frase(const Vista& vista) {
 }  // namespace
 
 Banditore::~Banditore() {
-    if (lettore_) QAccessible::deleteAccessibleInterface(lettore_);
+    for (const unsigned lettore : lettori_)
+        if (lettore) QAccessible::deleteAccessibleInterface(lettore);
 }
 
-QAccessibleInterface& Banditore::PerLettore() {
-    if (!lettore_)
-        lettore_ = QAccessible::registerAccessibleInterface(new Messaggio(*this, terra_));
-    return *QAccessible::accessibleInterface(lettore_);
+std::vector<QAccessibleInterface*> Banditore::PerLettore() const {
+    std::vector<QAccessibleInterface*> messaggi;
+    for (const unsigned lettore : lettori_)
+        if (lettore) messaggi.push_back(QAccessible::accessibleInterface(lettore));
+    return messaggi;
+}
+
+unsigned Banditore::Nuovo(const QString& detto) {
+    unsigned& lettore = lettori_.at(prossimo_);
+    prossimo_ = (prossimo_ + 1) % ultimi;
+    if (lettore) QAccessible::deleteAccessibleInterface(lettore);
+    return lettore = QAccessible::registerAccessibleInterface(new Messaggio(detto, terra_));
 }
 
 void Banditore::Annuncia(const Vista& vista) {
@@ -74,11 +84,10 @@ void Banditore::Di() {
     for (const Vista* vista : std::exchange(daDire_, {}))
         if (vista->InVista() && !Frase(*vista).isEmpty()) frasi.append(Frase(*vista));
     if (frasi.isEmpty()) return;
-    detto_ = frasi.join(QLatin1String(". "));
-    for (const auto cosa : {QAccessible::NameChanged, QAccessible::ObjectShow}) {
-        QAccessibleEvent evento(&PerLettore(), cosa);
-        QAccessible::updateAccessibility(&evento);
-    }
+    QAccessibleEvent evento(
+        QAccessible::accessibleInterface(Nuovo(frasi.join(QLatin1String(". ")))),
+        QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&evento);
 }
 
 }  // namespace corvana

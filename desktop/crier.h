@@ -5,6 +5,7 @@
 
 #include <QAccessibleInterface>
 #include <QObject>
+#include <array>
 #include <vector>
 
 namespace corvana {
@@ -22,18 +23,20 @@ public:
 
     /// What it says by the time that the loop comes round is told, if it is to be seen then.
     void Annuncia(const Vista& vista);
-    /// What was told last.
-    const QString& Detto() const { return detto_; }
-    /// The message, as something in the window; made when first asked for.
-    QAccessibleInterface& PerLettore();
+    /// The messages, as things in the window. A reader asks for the words of one some time after it
+    /// was told of it: the last few stay as they are.
+    std::vector<QAccessibleInterface*> PerLettore() const;
 
 private:
+    static constexpr std::size_t ultimi = 8;
+
     void Di();
+    unsigned Nuovo(const QString& detto);
 
     Faccia& terra_;
     std::vector<const Vista*> daDire_;
-    QString detto_;
-    unsigned lettore_ = 0;  ///< as the toolkit knows it, 0 for not yet
+    std::array<unsigned, ultimi> lettori_{};  ///< as the toolkit knows them, 0 for not yet
+    std::size_t prossimo_ = 0;                ///< the one that has said its message long ago
 };
 
 }  // namespace corvana

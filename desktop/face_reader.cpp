@@ -35,7 +35,9 @@ Interfacce Dette(const VistaDipinta& vista) {
 /// Of a face: at last what is told of the window, where it is the window's ground.
 Interfacce DetteDi(Faccia& faccia) {
     Interfacce dette = Dette(faccia.Terra());
-    if (!faccia.Terra().Padre()) dette.push_back(&faccia.Voce().PerLettore());
+    if (faccia.Terra().Padre()) return dette;
+    const Interfacce messaggi = faccia.Voce().PerLettore();
+    dette.insert(dette.end(), messaggi.begin(), messaggi.end());
     return dette;
 }
 
