@@ -154,6 +154,7 @@ QString FinestraAiuto::Pagina() const {
 void FinestraAiuto::MettiTitolo() {
     const QString pagina = testo_->documentTitle();
     const QString titolo = pagina.isEmpty() ? InQt(parole_.parAiuto) : pagina;
+    testo_->setAccessibleName(titolo);
     setWindowTitle(titolo + QStringLiteral(" – ") + QString::fromLatin1(nomeProgramma));
 }
 

@@ -210,10 +210,14 @@ Oggetto LettoreSchermo::Ora(const Oggetto& oggetto) {
     return ora;
 }
 
-std::string LettoreSchermo::Testo(const Oggetto& oggetto) {
+std::string LettoreSchermo::Testo(const Oggetto& oggetto, std::int32_t massimo) {
+    constexpr const char* interfaccia = "org.a11y.atspi.Text";
+    std::int32_t lettere = 0;
+    sd_bus_get_property_trivial(bus_.get(), oggetto.bus.c_str(), oggetto.percorso.c_str(),
+                                interfaccia, "CharacterCount", nullptr, 'i', &lettere);
     sd_bus_message* risposta = nullptr;
-    sd_bus_call_method(bus_.get(), oggetto.bus.c_str(), oggetto.percorso.c_str(),
-                       "org.a11y.atspi.Text", "GetText", nullptr, &risposta, "ii", 0, -1);
+    sd_bus_call_method(bus_.get(), oggetto.bus.c_str(), oggetto.percorso.c_str(), interfaccia,
+                       "GetText", nullptr, &risposta, "ii", 0, std::min(lettere, massimo));
     const Risposta tenuta(risposta, &sd_bus_message_unref);
     return risposta ? Parola(risposta) : "";
 }

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <string>
 #include <vector>
@@ -62,7 +63,9 @@ public:
     /// As it is now.
     Oggetto Ora(const Oggetto& oggetto);
     /// Text of a box, number of a slider, names of its actions.
-    std::string Testo(const Oggetto& oggetto);
+    /// Of a text with a table the signs around it aren't taken by this end of the bus.
+    std::string Testo(const Oggetto& oggetto,
+                      std::int32_t massimo = std::numeric_limits<std::int32_t>::max());
     double Valore(const Oggetto& oggetto);
     std::vector<std::string> Azioni(const Oggetto& oggetto);
     void Aziona(const Oggetto& oggetto);

@@ -109,6 +109,37 @@ TEST_F(Finestre, AllThatTheFocusComesToHasANameARoleAndWhatItCanDo) {
     Torna("alt+F4");
 }
 
+TEST_F(Finestre, SoItIsInWhatOpensOverAWindow) {
+    Ricorda();
+    DalMenu("Scegli");
+    EXPECT_GT(Visita("frmStrum"), 3);
+    Torna("Escape");
+    Batti("F1");
+    EXPECT_GT(Visita("FinestraAiuto"), 0);
+    const std::string pagina = Lettore().Testo(Trova("Lettura delle note"), 200);
+    EXPECT_NE(pagina.find("Una nota compare"), pagina.npos) << pagina;
+    Torna("Escape");
+    DalMenu("Metronomo");
+    VaiA("Scegli i suoni e la sequenza");
+    Batti("space");
+    EXPECT_GT(Visita("frmConfMetro"), 5);
+    Torna("alt+F4");
+    VaiA("Chiudi il metronomo");
+    Batti("space");
+    DalMenu("Composizione");
+    ASSERT_NE(Programma().AspettaFinestra("frmComposer"), 0U);
+    AspettaFuoco("Aggiungi la nota attiva");
+    DalMenu("Copia da supporto");
+    // That there is no medium.
+    EXPECT_GT(Visita("riquadro"), 0);
+    Batti("Return");
+    AspettaFuoco("Chiudi");
+    EXPECT_GT(Controlla(), 2);
+    Batti("alt+F4");
+    AspettaFuoco("Aggiungi la nota attiva");
+    Torna("alt+F4");
+}
+
 TEST_F(Finestre, ChangesOfStateValueAndTextAreTold) {
     Lettore().Dimentica();
     VaiA("Start");
@@ -152,6 +183,19 @@ TEST_F(Finestre, ChangesOfStateValueAndTextAreTold) {
     EXPECT_EQ(Lettore().Testo(Lettore().Fuoco()), "7");
     Batti("alt+F4");
     AspettaFuoco("Start");
+}
+
+TEST_F(Finestre, SoItIsOnEachPageOfTheEarTrainer) {
+    Ricorda();
+    // In this order no page is hidden by the one that was shown before; other tests would find one.
+    for (const auto& [pagina, fermate] : {std::pair{"Riconoscimento altezza nota", 25},
+                                          {"Riconoscimento tonalità", 45},
+                                          {"Riconoscimento tasti", 15},
+                                          {"Riconoscimento tipo accordo", 20}}) {
+        DalMenu(pagina);
+        EXPECT_GT(Visita("frmInto"), fermate) << pagina;
+        Torna("alt+F4");
+    }
 }
 
 }  // namespace corvana::prova
