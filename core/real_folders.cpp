@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <filesystem>
 #include <memory>
@@ -17,6 +18,8 @@ namespace corvana {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr std::size_t voceUtente = 16384;  ///< bytes that the system's entry of a user may take
 
 /// A folder that nothing is mounted on lies on the same device as the folder that holds it.
 bool Montata(const std::string& cartella) {
@@ -38,7 +41,10 @@ mode_t GenereDi(int cartella, const dirent& voce) {
 }
 
 std::vector<std::string> RadiciDelSistema() {
-    const passwd* utente = getpwuid(getuid());
+    std::array<char, voceUtente> testi{};
+    passwd dati{};
+    passwd* utente = nullptr;
+    getpwuid_r(getuid(), &dati, testi.data(), testi.size(), &utente);
     if (!utente) return {};
     return {std::string("/run/media/") + utente->pw_name, std::string("/media/") + utente->pw_name};
 }
