@@ -63,7 +63,7 @@ public:
     /// As it is now.
     Oggetto Ora(const Oggetto& oggetto);
     /// Text of a box, number of a slider, names of its actions.
-    /// Of a text with a table the signs around it aren't taken by this end of the bus.
+    /// Of a text `massimo` letters at most: the signs around a table this end of the bus refuses.
     std::string Testo(const Oggetto& oggetto,
                       std::int32_t massimo = std::numeric_limits<std::int32_t>::max());
     double Valore(const Oggetto& oggetto);
